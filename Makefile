@@ -1,0 +1,42 @@
+# Tindra's commands. `make test` is what CI runs on a fresh machine.
+.PHONY: deps build test test-default test-asan fuzz-smoke run bench fuzz format tidy clean
+
+FUZZ_SECONDS ?= 5
+
+deps:
+	scripts/install-deps
+
+build: deps
+	cmake --preset default
+	cmake --build --preset default
+
+test: deps
+	cmake --preset default
+	cmake --build --preset default
+	ctest --preset default
+	cmake --preset asan
+	cmake --build --preset asan
+	ctest --preset asan
+	cmake --preset fuzz
+	cmake --build --preset fuzz
+	scripts/fuzz-run $(FUZZ_SECONDS)
+
+run: build
+	scripts/run
+
+bench: build
+	scripts/bench
+
+fuzz: deps
+	cmake --preset fuzz
+	cmake --build --preset fuzz
+	scripts/fuzz-run $(or $(SECONDS),300)
+
+format:
+	git ls-files '*.cpp' '*.h' | xargs clang-format -i
+
+tidy: build
+	git ls-files 'core/*.cpp' | grep -v _test.cpp | xargs clang-tidy -p build/default --quiet
+
+clean:
+	rm -rf build

@@ -1,0 +1,42 @@
+// JSONReader: a strict RFC 8259 reader. Rejects trailing commas, comments, leading zeros,
+// invalid UTF-8, lone surrogates and nesting deeper than `maxDepth`; reports where it stopped.
+#pragma once
+
+#include <cstddef>
+#include <expected>
+#include <string>
+#include <string_view>
+
+#include "settings/json_value.h"
+
+namespace tindra {
+
+struct JSONParseError {
+  enum class Code {
+    unexpectedEnd,        // the text stops inside a value
+    unexpectedCharacter,  // a character that cannot start or continue the value here
+    invalidNumber,        // a number that breaks the grammar (leading zero, lone minus, "1.", "1e")
+    numberOutOfRange,     // a number too large for a double
+    invalidEscape,        // "\x", a short "\u", or a lone or mismatched surrogate
+    invalidUTF8,          // bytes that are not well-formed UTF-8
+    controlCharacter,     // an unescaped control character inside a string
+    tooDeep,              // arrays and objects nested deeper than allowed
+    trailingContent,      // something other than white space after the value
+  };
+  Code code;
+  std::size_t offset;  // byte offset in the text where the fault was found
+
+  // "invalid JSON at byte 12: unexpected character", for logs and diagnostics.
+  std::string message() const;
+  friend bool operator==(const JSONParseError&, const JSONParseError&) = default;
+};
+
+class JSONReader {
+ public:
+  static constexpr std::size_t defaultMaxDepth = 512;
+
+  static std::expected<JSONValue, JSONParseError> parse(std::string_view text,
+                                                        std::size_t maxDepth = defaultMaxDepth);
+};
+
+}  // namespace tindra
