@@ -3,6 +3,7 @@
 // appears once when the level reaches the threshold and again only after charging.
 #pragma once
 
+#include <cstdint>
 #include <optional>
 
 #include "power/battery_notice.h"
@@ -15,7 +16,8 @@ struct BatteryNoticeTracker {
   // The user's notice choices; the threshold is clamped into the allowed range.
   struct Settings {
     explicit Settings(bool pluggedInNotice = true, bool unpluggedNotice = true,
-                      bool lowAlert = true, int lowThreshold = BatteryThreshold::defaultValue)
+                      bool lowAlert = true,
+                      std::int64_t lowThreshold = BatteryThreshold::defaultValue)
         : pluggedInNotice(pluggedInNotice),
           unpluggedNotice(unpluggedNotice),
           lowAlert(lowAlert),

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cstdint>
 
 namespace tindra {
 
@@ -11,7 +12,9 @@ struct BatteryThreshold {
   static constexpr int defaultValue = 20;
 
   // `value` brought into minimum ... maximum.
-  static constexpr int clamped(int value) { return std::min(std::max(value, minimum), maximum); }
+  static constexpr int clamped(std::int64_t value) {
+    return static_cast<int>(std::clamp<std::int64_t>(value, minimum, maximum));
+  }
 };
 
 }  // namespace tindra
