@@ -15,10 +15,10 @@ inline constexpr std::array<AccessoryBatteryPart, 4> allAccessoryBatteryParts{
     AccessoryBatteryPart::main};
 
 struct AccessoryBattery {
-  std::optional<int> left;
-  std::optional<int> right;
-  std::optional<int> caseLevel;
-  std::optional<int> main;
+  std::optional<int> left = std::nullopt;
+  std::optional<int> right = std::nullopt;
+  std::optional<int> caseLevel = std::nullopt;
+  std::optional<int> main = std::nullopt;
 
   // The level of one part.
   std::optional<int> level(AccessoryBatteryPart part) const;
