@@ -11,13 +11,14 @@
 namespace tindra {
 
 struct BluetoothAccessory {
-  std::string name;                    // as the system reports it
-  std::optional<std::string> address;  // canonical, see BluetoothAddress
+  std::string name;                                   // as the system reports it
+  std::optional<std::string> address = std::nullopt;  // canonical, see BluetoothAddress
   BluetoothAccessoryKind kind = BluetoothAccessoryKind::other;
-  AccessoryBattery battery;
-  std::optional<std::string> minorType;  // the system's minor device type ("Headphones")
-  std::optional<int> vendorID;
-  std::optional<int> productID;
+  AccessoryBattery battery = {};
+  std::optional<std::string> minorType =
+      std::nullopt;  // the system's minor device type ("Headphones")
+  std::optional<int> vendorID = std::nullopt;
+  std::optional<int> productID = std::nullopt;
 
   friend bool operator==(const BluetoothAccessory&, const BluetoothAccessory&) = default;
 };

@@ -156,10 +156,10 @@ std::expected<std::vector<Entry>, SystemProfilerBluetoothParser::ParseError>
 SystemProfilerBluetoothParser::entries(std::string_view report) {
   std::expected<JSONValue, JSONParseError> document = JSONReader::parse(report);
   if (!document) return std::unexpected(ParseError{document.error()});
-  return entries(*document);
+  return entriesOf(*document);
 }
 
-std::vector<Entry> SystemProfilerBluetoothParser::entries(const JSONValue& report) {
+std::vector<Entry> SystemProfilerBluetoothParser::entriesOf(const JSONValue& report) {
   std::vector<Entry> found;
   walk(report, false, found);
   return found;

@@ -39,7 +39,7 @@ class SystemProfilerBluetoothParser {
   // sections come before the others).
   static std::expected<std::vector<Entry>, ParseError> entries(std::string_view report);
   // Every device entry of an already read report.
-  static std::vector<Entry> entries(const JSONValue& report);
+  static std::vector<Entry> entriesOf(const JSONValue& report);
 
   // The accessory an entry describes. Reads "device_address", "device_vendorID",
   // "device_productID" (numbers, decimal or "0x" hexadecimal text), "device_minorType",
