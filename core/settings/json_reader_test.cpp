@@ -14,8 +14,9 @@ using Code = JSONParseError::Code;
 
 JSONValue parsed(std::string_view text) {
   auto result = JSONReader::parse(text);
-  EXPECT_TRUE(result.has_value()) << text << ": " << result.error().message();
-  return result.value_or(JSONValue());
+  if (result.has_value()) return std::move(*result);
+  ADD_FAILURE() << text << ": " << result.error().message();
+  return JSONValue();
 }
 
 JSONParseError failure(std::string_view text, std::size_t maxDepth = JSONReader::defaultMaxDepth) {
