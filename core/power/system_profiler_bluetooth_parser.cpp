@@ -60,6 +60,8 @@ void collectList(const JSONValue::Array& list, bool connected, std::vector<Entry
   for (const JSONValue& element : list) {
     if (std::optional<Entry> entry = entryOf(element, connected)) {
       found.push_back(std::move(*entry));
+    } else if (const JSONValue::Array* inner = element.asArray()) {
+      collectList(*inner, connected, found);  // a list split into sub-lists
     } else {
       walk(element, connected, found);
     }
