@@ -43,24 +43,26 @@ std::optional<bool> yesOrNo(const JSONValue* value) {
 }
 
 // A list element is a device when it is an object of one member whose value is the device's
-// fields; an element grouping further lists is walked instead.
-std::optional<Entry> entryOf(const JSONValue& element, bool connected) {
-  const JSONValue::Object* object = element.asObject();
+// fields; an element grouping further lists is walked instead. The fields move out of the
+// document, which the walk owns.
+std::optional<Entry> entryOf(JSONValue& element, bool connected) {
+  JSONValue::Object* object = element.asObject();
   if (!object || object->size() != 1) return std::nullopt;
-  const auto& [name, value] = *object->begin();
-  const JSONValue::Object* properties = value.asObject();
+  auto& [name, value] = *object->begin();
+  JSONValue::Object* properties = value.asObject();
   if (!properties || holdsDeviceList(*properties)) return std::nullopt;
   const JSONValue* marked = value.find("device_isconnected");
-  return Entry{name, *properties, yesOrNo(marked).value_or(connected)};
+  const bool isConnected = yesOrNo(marked).value_or(connected);
+  return Entry{name, std::move(*properties), isConnected};
 }
 
-void walk(const JSONValue& value, bool connected, std::vector<Entry>& found);
+void walk(JSONValue& value, bool connected, std::vector<Entry>& found);
 
-void collectList(const JSONValue::Array& list, bool connected, std::vector<Entry>& found) {
-  for (const JSONValue& element : list) {
+void collectList(JSONValue::Array& list, bool connected, std::vector<Entry>& found) {
+  for (JSONValue& element : list) {
     if (std::optional<Entry> entry = entryOf(element, connected)) {
       found.push_back(std::move(*entry));
-    } else if (const JSONValue::Array* inner = element.asArray()) {
+    } else if (JSONValue::Array* inner = element.asArray()) {
       collectList(*inner, connected, found);  // a list split into sub-lists
     } else {
       walk(element, connected, found);
@@ -68,16 +70,16 @@ void collectList(const JSONValue::Array& list, bool connected, std::vector<Entry
   }
 }
 
-void walk(const JSONValue& value, bool connected, std::vector<Entry>& found) {
-  if (const JSONValue::Array* array = value.asArray()) {
-    for (const JSONValue& element : *array) walk(element, connected, found);
+void walk(JSONValue& value, bool connected, std::vector<Entry>& found) {
+  if (JSONValue::Array* array = value.asArray()) {
+    for (JSONValue& element : *array) walk(element, connected, found);
     return;
   }
-  const JSONValue::Object* object = value.asObject();
+  JSONValue::Object* object = value.asObject();
   if (!object) return;
-  for (const auto& [key, member] : *object) {
+  for (auto& [key, member] : *object) {
     const std::optional<Section> section = sectionOf(key);
-    const JSONValue::Array* list = member.asArray();
+    JSONValue::Array* list = member.asArray();
     if (section && list) {
       const bool listConnected =
           *section == Section::inherited ? connected : *section == Section::connected;
@@ -158,10 +160,10 @@ std::expected<std::vector<Entry>, SystemProfilerBluetoothParser::ParseError>
 SystemProfilerBluetoothParser::entries(std::string_view report) {
   std::expected<JSONValue, JSONParseError> document = JSONReader::parse(report);
   if (!document) return std::unexpected(ParseError{document.error()});
-  return entriesOf(*document);
+  return entriesOf(std::move(*document));
 }
 
-std::vector<Entry> SystemProfilerBluetoothParser::entriesOf(const JSONValue& report) {
+std::vector<Entry> SystemProfilerBluetoothParser::entriesOf(JSONValue report) {
   std::vector<Entry> found;
   walk(report, false, found);
   return found;

@@ -38,8 +38,8 @@ class SystemProfilerBluetoothParser {
   // Every device entry of the report text, in report order (sections by name, so connected
   // sections come before the others).
   static std::expected<std::vector<Entry>, ParseError> entries(std::string_view report);
-  // Every device entry of an already read report.
-  static std::vector<Entry> entriesOf(const JSONValue& report);
+  // Every device entry of an already read report (taken by value: the fields move out of it).
+  static std::vector<Entry> entriesOf(JSONValue report);
 
   // The accessory an entry describes. Reads "device_address", "device_vendorID",
   // "device_productID" (numbers, decimal or "0x" hexadecimal text), "device_minorType",
