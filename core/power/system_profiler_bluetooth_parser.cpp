@@ -90,27 +90,33 @@ void walk(JSONValue& value, bool connected, std::vector<Entry>& found) {
   }
 }
 
-const std::string* stringProperty(const Entry& entry, std::string_view key) {
+const JSONValue* property(const Entry& entry, std::string_view key) {
   const auto found = entry.properties.find(key);
-  return found == entry.properties.end() ? nullptr : found->second.asString();
+  return found == entry.properties.end() ? nullptr : &found->second;
 }
 
-// A whole number within 0 ... limit, from a JSON number or from decimal text.
-std::optional<int> wholeNumber(const JSONValue& value, std::uint32_t limit) {
-  if (const double* number = value.asNumber()) {
-    if (!(*number >= 0 && *number <= limit) || std::trunc(*number) != *number) return std::nullopt;
-    return static_cast<int>(*number);
-  }
-  return std::nullopt;
+const std::string* stringProperty(const Entry& entry, std::string_view key) {
+  const JSONValue* value = property(entry, key);
+  return value ? value->asString() : nullptr;
 }
 
-// Vendor and product ids: 16-bit, as a number, decimal text or "0x" hexadecimal text ("0x004C").
+std::optional<int> asInt(std::optional<std::uint32_t> value) {
+  return value ? std::optional<int>(static_cast<int>(*value)) : std::nullopt;
+}
+
+// Vendor and product ids: 16-bit, as a whole number, decimal text or "0x" hexadecimal text
+// ("0x004C").
 std::optional<int> identifier(const Entry& entry, std::string_view key) {
   constexpr std::uint32_t largestID = 0xFFFF;
-  const auto found = entry.properties.find(key);
-  if (found == entry.properties.end()) return std::nullopt;
-  if (std::optional<int> number = wholeNumber(found->second, largestID)) return number;
-  const std::string* text = found->second.asString();
+  const JSONValue* value = property(entry, key);
+  if (!value) return std::nullopt;
+  if (const double* number = value->asNumber()) {
+    if (!(*number >= 0 && *number <= largestID) || std::trunc(*number) != *number) {
+      return std::nullopt;
+    }
+    return static_cast<int>(*number);
+  }
+  const std::string* text = value->asString();
   if (!text) return std::nullopt;
   std::string_view digits = trimmedASCII(*text);
   int base = 10;
@@ -118,25 +124,23 @@ std::optional<int> identifier(const Entry& entry, std::string_view key) {
     digits.remove_prefix(2);
     base = 16;
   }
-  const std::optional<std::uint32_t> id = unsignedNumber(digits, base, largestID);
-  return id ? std::optional<int>(static_cast<int>(*id)) : std::nullopt;
+  return asInt(unsignedNumber(digits, base, largestID));
 }
 
-// A battery level in percent: a number, or text such as "85%" or "85 %".
+// A battery level in percent: a number (rounded), or whole-number text such as "85%" or "85 %".
 std::optional<int> batteryLevel(const Entry& entry, std::string_view key) {
   constexpr std::uint32_t full = 100;
-  const auto found = entry.properties.find(key);
-  if (found == entry.properties.end()) return std::nullopt;
-  if (const double* number = found->second.asNumber()) {
+  const JSONValue* value = property(entry, key);
+  if (!value) return std::nullopt;
+  if (const double* number = value->asNumber()) {
     if (!(*number >= 0 && *number <= full)) return std::nullopt;
     return static_cast<int>(std::lround(*number));
   }
-  const std::string* text = found->second.asString();
+  const std::string* text = value->asString();
   if (!text) return std::nullopt;
   std::string_view digits = trimmedASCII(*text);
   if (digits.ends_with('%')) digits = trimmedASCII(digits.substr(0, digits.size() - 1));
-  const std::optional<std::uint32_t> level = unsignedNumber(digits, 10, full);
-  return level ? std::optional<int>(static_cast<int>(*level)) : std::nullopt;
+  return asInt(unsignedNumber(digits, 10, full));
 }
 
 AccessoryBattery batteryOf(const Entry& entry) {
