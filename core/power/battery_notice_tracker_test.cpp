@@ -5,8 +5,6 @@
 #include <cstdint>
 #include <vector>
 
-#include "power/battery_power_notice_migration.h"
-
 namespace tindra {
 namespace {
 
@@ -96,14 +94,6 @@ TEST(BatteryNoticeTracker, ThresholdIsClampedAndInclusive) {
   BatteryNoticeTracker other;
   EXPECT_EQ(other.observe(onBattery(51), settings), std::nullopt);
   EXPECT_EQ(other.observe(onBattery(50), settings), BatteryNotice::low(onBattery(50)));
-}
-
-TEST(BatteryPowerNoticeMigration, CopiesOldValueOnlyIntoUnsetKeys) {
-  using M = BatteryPowerNoticeMigration;
-  EXPECT_EQ(M::migrate(std::nullopt, std::nullopt, std::nullopt), std::nullopt);
-  EXPECT_EQ(M::migrate(false, std::nullopt, std::nullopt), (M{false, false}));
-  EXPECT_EQ(M::migrate(false, true, std::nullopt), (M{std::nullopt, false}));
-  EXPECT_EQ(M::migrate(true, false, false), (M{std::nullopt, std::nullopt}));
 }
 
 }  // namespace

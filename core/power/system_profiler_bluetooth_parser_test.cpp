@@ -24,9 +24,8 @@ std::vector<std::string> names(const std::vector<Parser::Entry>& entries) {
 }
 
 BluetoothAccessory accessoryOf(std::string_view properties) {
-  return Parser::accessory({"Device", JSONReader::parse(properties)->asObject()
-                                          ? *JSONReader::parse(properties)->asObject()
-                                          : JSONValue::Object{}});
+  const auto document = JSONReader::parse(properties);
+  return Parser::accessory({"Device", *document->asObject()});
 }
 
 TEST(SystemProfilerBluetoothParser, ReadsAFullReport) {
