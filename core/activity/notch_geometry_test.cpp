@@ -11,8 +11,7 @@ using Kind = NotchGeometry::Kind;
 constexpr double nan = std::numeric_limits<double>::quiet_NaN();
 
 ScreenDescriptor builtIn(double leftWidth, double rightWidth) {
-  const Rect frame{0, 0, 1512, 982};
-  return {.frame = frame,
+  return {.frame = {0, 0, 1512, 982},
           .visibleFrame = {0, 0, 1512, 950},
           .safeAreaTopInset = 32,
           .auxiliaryTopLeftArea = Rect{0, 950, leftWidth, 32},
@@ -20,9 +19,13 @@ ScreenDescriptor builtIn(double leftWidth, double rightWidth) {
 }
 
 ScreenDescriptor external(Rect frame, double menuBar) {
-  Rect visible = frame;
-  visible.height -= menuBar;
-  return {.frame = frame, .visibleFrame = visible};
+  return {.frame = frame, .visibleFrame = {frame.x, frame.y, frame.width, frame.height - menuBar}};
+}
+
+Rect drawn(const ScreenDescriptor& screen, std::optional<double> height, double width) {
+  const auto g = NotchGeometry::forScreen(screen, height, width);
+  EXPECT_EQ(g.kind, Kind::simulated);
+  return g.notchRect;
 }
 
 TEST(NotchGeometry, HardwareNotchLiesBetweenTheAuxiliaryAreas) {
@@ -30,50 +33,32 @@ TEST(NotchGeometry, HardwareNotchLiesBetweenTheAuxiliaryAreas) {
   EXPECT_EQ(g.kind, Kind::hardware);
   EXPECT_EQ(g.screenFrame, (Rect{0, 0, 1512, 982}));
   EXPECT_EQ(g.notchRect, (Rect{700, 950, 112, 32}));
-  // Positioned from the frame's own origin on a display that is not at 0, 0.
   auto shifted = builtIn(700, 700);
-  shifted.frame.x = -1512;
-  shifted.frame.y = 200;
+  shifted.frame = {-1512, 200, 1512, 982};
   EXPECT_EQ(NotchGeometry::forScreen(shifted, 32, 190).notchRect, (Rect{-812, 1150, 112, 32}));
 }
 
 TEST(NotchGeometry, FallsBackToADrawnNotchWithoutAUsableHardwareOne) {
-  auto noRoom = builtIn(756, 756);  // leaves exactly nothing between them
-  auto overlapping = builtIn(800, 800);
   auto noInset = builtIn(700, 700);
   noInset.safeAreaTopInset = 0;
   auto oneArea = builtIn(700, 700);
   oneArea.auxiliaryTopRightArea.reset();
-  for (const auto& screen : {noRoom, overlapping, noInset, oneArea}) {
-    const auto g = NotchGeometry::forScreen(screen, std::nullopt, 190);
-    EXPECT_EQ(g.kind, Kind::simulated);
-    EXPECT_EQ(g.notchRect, (Rect{661, 950, 190, 32}));
+  // 756 + 756 leaves exactly nothing between the areas.
+  for (const auto& screen : {builtIn(756, 756), builtIn(800, 800), noInset, oneArea}) {
+    EXPECT_EQ(drawn(screen, std::nullopt, 190), (Rect{661, 950, 190, 32}));
   }
 }
 
-TEST(NotchGeometry, DrawnNotchHeightFollowsTheMenuBarUnlessGiven) {
+TEST(NotchGeometry, DrawnNotchIsClampedToTheDisplay) {
   const auto screen = external({1512, 0, 1920, 1080}, 25);
-  EXPECT_EQ(NotchGeometry::forScreen(screen, std::nullopt, 200).notchRect,
-            (Rect{2372, 1055, 200, 25}));
-  EXPECT_EQ(NotchGeometry::forScreen(screen, 40, 200).notchRect.height, 40);
-  for (double unusable : {nan, 0.0, -3.0}) {
-    EXPECT_EQ(NotchGeometry::forScreen(screen, unusable, 200).notchRect.height, 25);
-  }
-  // No menu bar at the top: 24 points.
-  EXPECT_EQ(
-      NotchGeometry::forScreen(external({0, 0, 1920, 1080}, 0), std::nullopt, 200).notchRect.height,
-      24);
-  // Never taller than the display.
-  EXPECT_EQ(NotchGeometry::forScreen(external({0, 0, 300, 20}, 0), 32, 200).notchRect,
-            (Rect{50, 0, 200, 20}));
-}
-
-TEST(NotchGeometry, DrawnNotchWidthIsClampedToOnePointAndTheDisplay) {
-  const auto screen = external({0, 0, 1920, 1080}, 25);
-  EXPECT_EQ(NotchGeometry::forScreen(screen, std::nullopt, 0).notchRect.width, 1);
-  EXPECT_EQ(NotchGeometry::forScreen(screen, std::nullopt, nan).notchRect.width, 1);
-  EXPECT_EQ(NotchGeometry::forScreen(screen, std::nullopt, 5000).notchRect,
-            (Rect{0, 1055, 1920, 25}));
+  EXPECT_EQ(drawn(screen, std::nullopt, 200), (Rect{2372, 1055, 200, 25}));
+  EXPECT_EQ(drawn(screen, 40, 200).height, 40);
+  for (double unusable : {nan, 0.0, -3.0}) EXPECT_EQ(drawn(screen, unusable, 200).height, 25);
+  EXPECT_EQ(drawn(external({0, 0, 1920, 1080}, 0), std::nullopt, 200).height, 24);  // no menu bar
+  EXPECT_EQ(drawn(external({0, 0, 300, 20}, 0), 32, 200), (Rect{50, 0, 200, 20}));
+  EXPECT_EQ(drawn(screen, std::nullopt, 0).width, 1);
+  EXPECT_EQ(drawn(screen, std::nullopt, nan).width, 1);
+  EXPECT_EQ(drawn(screen, std::nullopt, 5000), (Rect{1512, 1055, 1920, 25}));
 }
 
 }  // namespace
