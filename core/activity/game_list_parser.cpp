@@ -1,7 +1,8 @@
 #include "activity/game_list_parser.h"
 
-#include <algorithm>
 #include <unordered_set>
+
+#include "activity/text_case.h"
 
 namespace tindra {
 namespace {
@@ -36,14 +37,6 @@ std::size_t separatorLength(std::string_view text, std::size_t at) {
   return isUnicodeWhiteSpace(code) ? length : 0;
 }
 
-std::string asciiLowercased(std::string_view identifier) {
-  std::string result(identifier);
-  for (char& c : result) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
-  return result;
-}
-
 }  // namespace
 
 bool GameListParser::isValidBundleIdentifier(std::string_view piece) {
@@ -69,7 +62,7 @@ std::vector<std::string> GameListParser::parse(std::string_view text) {
   std::unordered_set<std::string> seen;
   auto offer = [&](std::string_view piece) {
     if (!isValidBundleIdentifier(piece)) return;
-    if (!seen.insert(asciiLowercased(piece)).second) return;
+    if (!seen.insert(lowercased(piece)).second) return;
     kept.emplace_back(piece);
   };
 
