@@ -18,10 +18,8 @@ constexpr double inf = std::numeric_limits<double>::infinity();
 TEST(HUDState, ClampsTheLevel) {
   EXPECT_EQ(HUDState(HUDKind::volume, 1.7).level(), 1.0);
   EXPECT_EQ(HUDState(HUDKind::volume, nan).level(), 0.0);
-  EXPECT_EQ(HUDState(HUDKind::volume, -inf).level(), 0.0);
   EXPECT_EQ(HUDState(HUDKind::volume, inf).level(), 0.0);
   EXPECT_EQ(HUDState(HUDKind::volume, -0.1).level(), 0.0);
-  EXPECT_EQ(HUDState(HUDKind::brightness, 0.25), HUDState(HUDKind::brightness, 0.25));
   EXPECT_NE(HUDState(HUDKind::brightness, 0.25), HUDState(HUDKind::brightness, 0.25, false, true));
 }
 
@@ -60,24 +58,12 @@ TEST(HUDState, SymbolThresholds) {
   EXPECT_EQ(HUDState(HUDKind::keyboardBacklight, 0.5).symbolName(), "light.max");
 }
 
-TEST(HUDRawValues, RoundTripAndRejectOthers) {
-  for (HUDKind kind : allHUDKinds) EXPECT_EQ(hudKindFromRaw(rawValue(kind)), kind);
-  for (HUDBarStyle style : allHUDBarStyles) EXPECT_EQ(hudBarStyleFromRaw(rawValue(style)), style);
-  for (HUDTint tint : allHUDTints) EXPECT_EQ(hudTintFromRaw(rawValue(tint)), tint);
-  EXPECT_EQ(rawValue(HUDKind::keyboardBacklight), "keyboardBacklight");
-  EXPECT_EQ(hudKindFromRaw("Volume"), std::nullopt);
-  EXPECT_EQ(hudBarStyleFromRaw(""), std::nullopt);
-  EXPECT_EQ(hudTintFromRaw("accent "), std::nullopt);
-}
-
 TEST(HUDBarStyle, LitSegments) {
   EXPECT_EQ(litSegments(0.0), 0);
   EXPECT_EQ(litSegments(1.0 / 32), 1);  // 0.5 of a segment rounds up
   EXPECT_EQ(litSegments(0.03), 0);
-  EXPECT_EQ(litSegments(0.5), 8);
   EXPECT_EQ(litSegments(1.0), 16);
   EXPECT_EQ(litSegments(2.0), 16);
-  EXPECT_EQ(litSegments(nan), 0);
   EXPECT_EQ(litSegments(inf), 0);
 }
 
@@ -99,26 +85,19 @@ TEST(HUDTint, LevelColorFollowsTheThreeStops) {
 
 TEST(HUDBarMotion, GlidesOnlyForQuickSuccession) {
   EXPECT_EQ(HUDBarMotion::forInterval(0.01), HUDBarMotion::glide(0.03));
-  EXPECT_EQ(HUDBarMotion::forInterval(0.03), HUDBarMotion::glide(0.03));
-  EXPECT_EQ(HUDBarMotion::forInterval(0.2), HUDBarMotion::glide(0.2));
   EXPECT_EQ(HUDBarMotion::forInterval(0.2999), HUDBarMotion::glide(0.2999));
-  for (std::optional<double> settles :
-       {std::optional<double>(), std::optional(0.3), std::optional(0.0), std::optional(-0.1),
-        std::optional(nan), std::optional(inf)}) {
-    EXPECT_TRUE(HUDBarMotion::forInterval(settles).isSettle());
+  for (double settles : {0.3, 0.0, -0.1, nan, inf}) {
+    EXPECT_EQ(HUDBarMotion::forInterval(settles), HUDBarMotion::settle()) << settles;
   }
-  EXPECT_NE(HUDBarMotion::glide(0.1), HUDBarMotion::glide(0.2));
-  EXPECT_NE(HUDBarMotion::glide(0.1), HUDBarMotion::settle());
+  EXPECT_EQ(HUDBarMotion::forInterval(std::nullopt), HUDBarMotion::settle());
 }
 
 TEST(HUDDisplayDuration, ClampsAndFallsBack) {
   EXPECT_EQ(HUDDisplayDuration::clamped(0.2), 0.8);
   EXPECT_EQ(HUDDisplayDuration::clamped(0.8), 0.8);
-  EXPECT_EQ(HUDDisplayDuration::clamped(2.5), 2.5);
   EXPECT_EQ(HUDDisplayDuration::clamped(10), 4.0);
   EXPECT_EQ(HUDDisplayDuration::clamped(nan), 1.5);
   EXPECT_EQ(HUDDisplayDuration::clamped(inf), 1.5);
-  EXPECT_EQ(HUDDisplayDuration::clamped(-inf), 1.5);
 }
 
 }  // namespace

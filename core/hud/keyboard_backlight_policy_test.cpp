@@ -15,22 +15,12 @@ TEST(KeyboardBacklightPolicy, ReadingsNearOneAreCappedOthersRejected) {
   EXPECT_EQ(KeyboardBacklightPolicy::level(1.0008f), 1.0);
   EXPECT_EQ(KeyboardBacklightPolicy::level(1.0f), 1.0);
   EXPECT_EQ(KeyboardBacklightPolicy::level(0.25f), 0.25);
-  EXPECT_EQ(KeyboardBacklightPolicy::level(0.0f), 0.0);
   EXPECT_EQ(KeyboardBacklightPolicy::level(1.01f), std::nullopt);
   // 1.001 as a float lies just above 1.001.
   EXPECT_EQ(KeyboardBacklightPolicy::level(1.001f), std::nullopt);
   EXPECT_EQ(KeyboardBacklightPolicy::level(std::numeric_limits<float>::quiet_NaN()), std::nullopt);
   EXPECT_EQ(KeyboardBacklightPolicy::level(std::numeric_limits<float>::infinity()), std::nullopt);
   EXPECT_EQ(KeyboardBacklightPolicy::level(-std::numeric_limits<float>::infinity()), std::nullopt);
-}
-
-TEST(KeyboardBacklightPolicy, Access) {
-  using A = KeyboardBacklightAccess;
-  EXPECT_EQ(KeyboardBacklightPolicy::access(false, true, false), A::unavailable);
-  EXPECT_EQ(KeyboardBacklightPolicy::access(true, true, false), A::readWrite);
-  EXPECT_EQ(KeyboardBacklightPolicy::access(true, true, true), A::readOnly);
-  EXPECT_EQ(KeyboardBacklightPolicy::access(true, false, false), A::readOnly);
-  EXPECT_EQ(name(A::readOnly), "readOnly");
 }
 
 TEST(KeyboardBacklightWriteMonitor, VerdictThresholds) {

@@ -135,42 +135,25 @@ TEST(MediaKeyRouter, TransportKeysStayWithTheSystem) {
 }
 
 TEST(MediaKeyRouter, FunctionKeys) {
-  const FunctionKeyEvent f15Down{true, true, false};
-  const FunctionKeyEvent f14Repeat{false, true, true};
-  const FunctionKeyEvent f15Up{true, false, false};
   MediaKeyContext context = everythingControllable();
-  EXPECT_EQ(MediaKeyRouter::decideFunctionKey(f15Down, none, context),
-            Decision::swallow(Action::brightness(true, false)));
-  EXPECT_EQ(MediaKeyRouter::decideFunctionKey(f14Repeat, none, context),
-            Decision::swallow(Action::brightness(false, false)));
-  EXPECT_EQ(MediaKeyRouter::decideFunctionKey(f15Up, none, context), Decision::passThrough());
+  const auto decide = [&](bool up, bool isKeyDown, bool isRepeat, KeyModifiers modifiers = {}) {
+    return MediaKeyRouter::decideFunctionKey({up, isKeyDown, isRepeat}, modifiers, context);
+  };
+  EXPECT_EQ(decide(true, true, false), Decision::swallow(Action::brightness(true, false)));
+  EXPECT_EQ(decide(false, true, true), Decision::swallow(Action::brightness(false, false)));
+  EXPECT_EQ(decide(true, false, false), Decision::passThrough());
   // Any modifier, Shift included, leaves the key alone: F14/F15 with modifiers are shortcuts.
-  EXPECT_EQ(MediaKeyRouter::decideFunctionKey(f15Down, shift, context), Decision::passThrough());
-  EXPECT_EQ(MediaKeyRouter::decideFunctionKey(f15Down, optionShift, context),
-            Decision::passThrough());
-
+  EXPECT_EQ(decide(true, true, false, shift), Decision::passThrough());
+  EXPECT_EQ(decide(true, true, false, optionShift), Decision::passThrough());
   context.brightness = BrightnessAccess::readOnly;
-  EXPECT_EQ(MediaKeyRouter::decideFunctionKey(f15Down, none, context),
+  EXPECT_EQ(decide(true, true, false),
             Decision::observe(Action::showBrightnessAfterSystemChange()));
-  EXPECT_EQ(MediaKeyRouter::decideFunctionKey(f15Up, none, context), Decision::passThrough());
+  EXPECT_EQ(decide(true, false, false), Decision::passThrough());
   context.brightness = BrightnessAccess::unavailable;
-  EXPECT_EQ(MediaKeyRouter::decideFunctionKey(f15Down, none, context), Decision::passThrough());
+  EXPECT_EQ(decide(true, true, false), Decision::passThrough());
   context = everythingControllable();
   context.brightnessHUDEnabled = false;
-  EXPECT_EQ(MediaKeyRouter::decideFunctionKey(f15Down, none, context), Decision::passThrough());
-}
-
-TEST(MediaKeyDecision, ActionAndConsumption) {
-  const Action show = Action::showBrightnessAfterSystemChange();
-  EXPECT_EQ(Decision::observe(show).action(), show);
-  EXPECT_FALSE(Decision::observe(show).consumesEvent());
-  EXPECT_EQ(Decision::swallow(show).action(), show);
-  EXPECT_TRUE(Decision::swallow().consumesEvent());
-  EXPECT_EQ(Decision::swallow().action(), std::nullopt);
-  EXPECT_EQ(Decision::passThrough().action(), std::nullopt);
-  EXPECT_NE(Decision::swallow(), Decision::passThrough());
-  EXPECT_NE(Decision::swallow(show), Decision::observe(show));
-  EXPECT_NE(Action::brightness(true, false), Action::keyboardBacklight(true, false));
+  EXPECT_EQ(decide(true, true, false), Decision::passThrough());
 }
 
 }  // namespace

@@ -4,7 +4,6 @@
 
 #include <limits>
 
-#include "hud/brightness_yield_policy.h"
 #include "hud/volume_yield_policy.h"
 
 namespace tindra {
@@ -15,25 +14,19 @@ const KeyModifiers shift = KeyModifiers::shift();
 
 TEST(VolumeFeedbackPolicy, SystemSettingFromStoredValues) {
   using P = VolumeFeedbackPolicy;
-  EXPECT_EQ(P::systemSetting(JSONValue()), std::nullopt);
-  EXPECT_EQ(P::systemSetting(true), true);
-  EXPECT_EQ(P::systemSetting(false), false);
-  EXPECT_EQ(P::systemSetting(1), true);
-  EXPECT_EQ(P::systemSetting(0), false);
-  EXPECT_EQ(P::systemSetting(-0.0), false);
-  EXPECT_EQ(P::systemSetting(0.5), true);
-  EXPECT_EQ(P::systemSetting(std::numeric_limits<double>::quiet_NaN()), true);
-  EXPECT_EQ(P::systemSetting(" YES\n"), true);
-  EXPECT_EQ(P::systemSetting("\tTrue "), true);
-  EXPECT_EQ(P::systemSetting("1"), true);
-  EXPECT_EQ(P::systemSetting("No"), false);
-  EXPECT_EQ(P::systemSetting(" 0 "), false);
-  EXPECT_EQ(P::systemSetting("FALSE"), false);
-  for (const char* unknown : {"", "  ", "2", "on", "y", "t rue", "01"}) {
-    EXPECT_EQ(P::systemSetting(unknown), std::nullopt) << unknown;
+  for (const JSONValue& on : {JSONValue(true), JSONValue(0.5), JSONValue(" YES\n"),
+                              JSONValue("\tTrue "), JSONValue("1")}) {
+    EXPECT_EQ(P::systemSetting(on), true);
   }
-  EXPECT_EQ(P::systemSetting(JSONValue::Array{JSONValue(true)}), std::nullopt);
-  EXPECT_EQ(P::systemSetting(JSONValue::Object{}), std::nullopt);
+  for (const JSONValue& off : {JSONValue(false), JSONValue(0), JSONValue(-0.0), JSONValue("No"),
+                               JSONValue(" 0 "), JSONValue("FALSE")}) {
+    EXPECT_EQ(P::systemSetting(off), false);
+  }
+  for (const JSONValue& unknown :
+       {JSONValue(), JSONValue(""), JSONValue("2"), JSONValue("on"), JSONValue("t rue"),
+        JSONValue("01"), JSONValue(JSONValue::Array{true}), JSONValue(JSONValue::Object{})}) {
+    EXPECT_EQ(P::systemSetting(unknown), std::nullopt);
+  }
 }
 
 TEST(VolumeFeedbackPolicy, ShiftInvertsThePreference) {
@@ -71,14 +64,6 @@ TEST(VolumeYieldPolicy, BetterDisplayTakesDisplaySpeakers) {
   EXPECT_FALSE(VolumeYieldPolicy::shouldYield(T::other, true, true));  // no device known
   EXPECT_TRUE(VolumeYieldPolicy::shouldYield(T::builtIn, false, false));
   EXPECT_TRUE(VolumeYieldPolicy::shouldYield(T::hdmi, false, true));
-}
-
-TEST(BrightnessYieldPolicy, BetterDisplayMakesBrightnessUnavailable) {
-  using A = BrightnessAccess;
-  for (A access : {A::readWrite, A::readOnly, A::unavailable}) {
-    EXPECT_EQ(BrightnessYieldPolicy::effectiveAccess(access, true), A::unavailable);
-    EXPECT_EQ(BrightnessYieldPolicy::effectiveAccess(access, false), access);
-  }
 }
 
 }  // namespace
