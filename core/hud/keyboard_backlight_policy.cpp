@@ -1,5 +1,6 @@
 #include "hud/keyboard_backlight_policy.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace tindra {
