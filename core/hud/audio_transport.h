@@ -20,7 +20,7 @@ inline constexpr std::array<AudioTransport, 7> allAudioTransports{
 constexpr std::uint32_t fourCharCode(std::string_view code) {
   std::uint32_t packed = 0;
   for (std::size_t i = 0; i < 4; ++i) {
-    const auto byte = i < code.size() ? static_cast<unsigned char>(code[i]) : 0u;
+    const auto byte = i < code.size() ? static_cast<unsigned char>(code[i]) : 0U;
     packed = (packed << 8) | byte;
   }
   return packed;

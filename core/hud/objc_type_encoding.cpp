@@ -74,7 +74,7 @@ class Scanner {
   // A struct, union or array with everything nested in it; brackets must pair up.
   bool skipBracketed() {
     std::string closers;
-    do {
+    while (true) {
       if (atEnd()) return false;
       const char c = peek();
       if (c == '"') {
@@ -89,8 +89,8 @@ class Scanner {
         closers.pop_back();
       }
       ++pos_;
-    } while (!closers.empty());
-    return true;
+      if (closers.empty()) return true;
+    }
   }
 
   std::string_view text_;
