@@ -49,8 +49,9 @@ std::optional<Target> target(const JSONValue& object) {
     return targetFromControl(*name);
   }
   const double* icon = numberMember(object, "systemIconID");
-  if (icon != nullptr && std::isfinite(*icon) && std::trunc(*icon) == *icon)
+  if (icon != nullptr && std::isfinite(*icon) && std::trunc(*icon) == *icon) {
     return targetFromIcon(*icon);
+  }
   return std::nullopt;
 }
 

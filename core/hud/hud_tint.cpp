@@ -1,6 +1,5 @@
 #include "hud/hud_tint.h"
 
-
 #include "hud/level_stepper.h"
 
 namespace tindra {

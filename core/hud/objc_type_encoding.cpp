@@ -1,5 +1,7 @@
 #include "hud/objc_type_encoding.h"
 
+#include <utility>
+
 namespace tindra {
 
 namespace {
