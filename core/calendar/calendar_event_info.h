@@ -22,15 +22,15 @@ struct CalendarEventInfo {
     friend bool operator==(const Color&, const Color&) = default;
   };
 
-  std::string id;
-  std::string title;
+  std::string id{};
+  std::string title{};
   double start = 0;
   double end = 0;
   bool isAllDay = false;
-  std::optional<std::string> location;
-  std::optional<Coordinate> coordinate;  // the structured location's point, when there is one
-  std::optional<MeetingLink> meetingLink;
-  std::optional<Color> calendarColor;
+  std::optional<std::string> location{};
+  std::optional<Coordinate> coordinate{};  // the structured location's point, when there is one
+  std::optional<MeetingLink> meetingLink{};
+  std::optional<Color> calendarColor{};
   bool isDeclinedOrCancelled = false;
 
   // All-day, declined and cancelled events never feature, count down or sound.

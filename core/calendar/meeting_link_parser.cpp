@@ -223,8 +223,8 @@ bool isLetters(std::string_view text) {
 
 // "/abc-defg-hij", optionally with a final slash.
 bool isMeetCode(std::string_view path) {
-  if (path.size() == 15 && path.back() == '/') path.remove_suffix(1);
-  return path.size() == 14 && path[0] == '/' && path[4] == '-' && path[9] == '-' &&
+  if (path.size() == 14 && path.back() == '/') path.remove_suffix(1);
+  return path.size() == 13 && path[0] == '/' && path[4] == '-' && path[9] == '-' &&
          isLetters(path.substr(1, 3)) && isLetters(path.substr(5, 4)) &&
          isLetters(path.substr(10, 3));
 }
