@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cmath>
 #include <memory>
+#include <string_view>
 
 namespace tindra {
 
@@ -13,13 +14,19 @@ namespace {
 constexpr double millisecondsPerSecond = 1000;
 constexpr double secondsPerDay = 86400;
 
+// The POSIX locale (what a "C" environment gives) collates by code point, case first; titles
+// want the common readable order instead.
+const icu::Locale& readableLocale(const icu::Locale& locale) {
+  return std::string_view(locale.getVariant()) == "POSIX" ? icu::Locale::getRoot() : locale;
+}
+
 // Compares titles by the locale's collation with numbers by value and case ignored; falls back
 // to code point order when the locale has no collator.
 class TitleOrder {
  public:
   explicit TitleOrder(const icu::Locale& locale) {
     UErrorCode status = U_ZERO_ERROR;
-    collator_.reset(icu::Collator::createInstance(locale, status));
+    collator_.reset(icu::Collator::createInstance(readableLocale(locale), status));
     if (U_FAILURE(status)) {
       collator_.reset();
       return;
