@@ -1,56 +1,21 @@
 #include "calendar/meeting_link_parser.h"
 
-#include <unicode/regex.h>
 #include <unicode/unistr.h>
 
 #include <algorithm>
 #include <array>
 #include <climits>
-#include <cstdio>
-#include <cstdlib>
-#include <memory>
 #include <string>
 
 #include "calendar/ascii_case.h"
+#include "calendar/meeting_link_scan.h"
+#include "calendar/meeting_link_vocabulary.h"
 
 namespace tindra {
 
 namespace {
 
-constexpr std::string_view zoomHost = "zoom.us";
-constexpr std::string_view zoomGovernmentHost = "zoomgov.com";
-constexpr std::string_view googleMeetHost = "meet.google.com";
-constexpr std::string_view teamsBusinessHost = "teams.microsoft.com";
-constexpr std::string_view teamsConsumerHost = "teams.live.com";
-constexpr std::string_view webexHost = "webex.com";
-constexpr std::string_view faceTimeHost = "facetime.apple.com";
-
-constexpr std::array<std::string_view, 7> meetingHosts{
-    zoomHost,          zoomGovernmentHost, googleMeetHost, teamsBusinessHost,
-    teamsConsumerHost, webexHost,          faceTimeHost};
-
-// The web schemes come first in the expression: the look-behind refuses a host right after
-// "//", so without them an https address on a sub-domain would never be found.
-constexpr std::array<std::string_view, 2> webSchemes{"https", "http"};
-
-// Schemes whose addresses are meeting links whatever follows the colon.
-struct ApplicationScheme {
-  std::string_view name;
-  MeetingService service;
-};
-constexpr std::array<ApplicationScheme, 5> applicationSchemes{{
-    {"zoommtg", MeetingService::zoom},
-    {"zoomus", MeetingService::zoom},
-    {"msteams", MeetingService::microsoftTeams},
-    {"facetime", MeetingService::faceTime},
-    {"facetime-audio", MeetingService::faceTime},
-}};
-
-std::vector<std::string_view> linkSchemes() {
-  std::vector<std::string_view> schemes(webSchemes.begin(), webSchemes.end());
-  for (const ApplicationScheme& scheme : applicationSchemes) schemes.push_back(scheme.name);
-  return schemes;
-}
+using namespace meeting_vocabulary;
 
 constexpr std::array<std::string_view, 6> zoomPathPrefixes{"/j/", "/my/",      "/w/",
                                                            "/s/", "/wc/join/", "/wc/"};
@@ -59,84 +24,6 @@ constexpr std::array<std::string_view, 4> webexPathParts{"/meet/", "/join/", "/j
 
 // Characters a sentence may end with right after an address.
 constexpr std::u16string_view sentencePunctuation = u".,;:!?";
-
-std::string escapedForPattern(std::string_view literal) {
-  std::string escaped;
-  for (char c : literal) {
-    bool isAlphanumeric =
-        (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-    if (!isAlphanumeric) escaped += '\\';
-    escaped += c;
-  }
-  return escaped;
-}
-
-template <typename Literals>
-std::string joinedEscaped(const Literals& literals) {
-  std::string joined;
-  for (std::string_view literal : literals) {
-    if (!joined.empty()) joined += '|';
-    joined += escapedForPattern(literal);
-  }
-  return joined;
-}
-
-// A match starts where no word character, dot, at sign, slash or hyphen stands before it, with a
-// scheme and colon or with a bare known host followed by a slash, and runs to white space or a
-// character that cannot stand in an address.
-std::string linkPatternText() {
-  return "(?i)(?<![\\w.@/-])(?:(?:" + joinedEscaped(linkSchemes()) +
-         "):(?://)?|(?=(?:[a-z0-9-]+\\.)*(?:" + joinedEscaped(meetingHosts) +
-         ")/))[^\\s<>\"'()\\[\\]{}|\\\\^`]+";
-}
-
-[[noreturn]] void stopOnBadPattern(UErrorCode status) {
-  std::fprintf(stderr, "meeting link pattern does not compile: %s\n", u_errorName(status));
-  std::abort();
-}
-
-const icu::RegexPattern& linkPattern() {
-  // Built once and never freed: matchers on other threads may outlive static destruction.
-  static const icu::RegexPattern* const pattern = [] {
-    std::string text = linkPatternText();
-    UErrorCode status = U_ZERO_ERROR;
-    UParseError parseError;
-    icu::RegexPattern* compiled =
-        icu::RegexPattern::compile(icu::UnicodeString::fromUTF8(text), 0, parseError, status);
-    if (U_FAILURE(status)) stopOnBadPattern(status);
-    return compiled;
-  }();
-  return *pattern;
-}
-
-// One matcher per thread, reset for each text, so a scan allocates nothing but the input.
-icu::RegexMatcher& linkMatcher() {
-  thread_local const std::unique_ptr<icu::RegexMatcher> matcher = [] {
-    UErrorCode status = U_ZERO_ERROR;
-    std::unique_ptr<icu::RegexMatcher> created(linkPattern().matcher(status));
-    if (U_FAILURE(status)) stopOnBadPattern(status);
-    return created;
-  }();
-  return *matcher;
-}
-
-// Keeps the thread's matcher from pointing at a text that is gone.
-class MatcherInput {
- public:
-  MatcherInput(icu::RegexMatcher& matcher, const icu::UnicodeString& input) : matcher_(matcher) {
-    matcher_.reset(input);
-  }
-  ~MatcherInput() { matcher_.reset(empty()); }
-  MatcherInput(const MatcherInput&) = delete;
-  MatcherInput& operator=(const MatcherInput&) = delete;
-
- private:
-  static const icu::UnicodeString& empty() {
-    static const icu::UnicodeString* const text = new icu::UnicodeString();
-    return *text;
-  }
-  icu::RegexMatcher& matcher_;
-};
 
 int32_t trimmedEnd(const icu::UnicodeString& text, int32_t start, int32_t end) {
   while (end > start + 1 &&
@@ -147,7 +34,6 @@ int32_t trimmedEnd(const icu::UnicodeString& text, int32_t start, int32_t end) {
 }
 
 bool startsWithScheme(std::string_view lowered) {
-  static const std::vector<std::string_view> schemes = linkSchemes();
   for (std::string_view scheme : schemes) {
     if (lowered.size() > scheme.size() && lowered.starts_with(scheme) &&
         lowered[scheme.size()] == ':') {
@@ -163,22 +49,22 @@ std::string urlText(std::string candidate) {
   return "https://" + candidate;
 }
 
+icu::UnicodeString utf16(std::string_view text) {
+  return icu::UnicodeString::fromUTF8(
+      icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
+}
+
 // Calls `visit` with each link in `text` in reading order until it returns false.
 template <typename Visit>
 void forEachLink(std::string_view text, Visit&& visit) {
   if (text.size() > static_cast<std::size_t>(INT32_MAX)) return;
-  const icu::UnicodeString input = icu::UnicodeString::fromUTF8(
-      icu::StringPiece(text.data(), static_cast<int32_t>(text.size())));
-  icu::RegexMatcher& matcher = linkMatcher();
-  MatcherInput scope(matcher, input);
-  UErrorCode status = U_ZERO_ERROR;
+  const icu::UnicodeString input = utf16(text);
+  MeetingLinkScan scan(input);
   std::string candidate;
-  while (matcher.find(status) && U_SUCCESS(status)) {
-    int32_t start = matcher.start(status);
-    int32_t end = trimmedEnd(input, start, matcher.end(status));
-    if (U_FAILURE(status)) return;
+  while (auto match = scan.next()) {
     candidate.clear();
-    input.tempSubStringBetween(start, end).toUTF8String(candidate);
+    input.tempSubStringBetween(match->start, trimmedEnd(input, match->start, match->end))
+        .toUTF8String(candidate);
     std::optional<MeetingLink> link = MeetingLink::fromURL(urlText(candidate));
     if (link && !visit(std::move(*link))) return;
   }
@@ -280,6 +166,17 @@ std::optional<MeetingService> MeetingLinkParser::service(std::string_view host,
   }
   if (h == faceTimeHost) return serviceIf(p.starts_with("/join"), MeetingService::faceTime);
   return std::nullopt;
+}
+
+std::vector<std::string> MeetingLinkParser::matches(std::string_view text) {
+  std::vector<std::string> found;
+  if (text.size() > static_cast<std::size_t>(INT32_MAX)) return found;
+  const icu::UnicodeString input = utf16(text);
+  MeetingLinkScan scan(input);
+  while (auto match = scan.next()) {
+    input.tempSubStringBetween(match->start, match->end).toUTF8String(found.emplace_back());
+  }
+  return found;
 }
 
 std::optional<MeetingService> MeetingLinkParser::applicationSchemeService(std::string_view scheme) {

@@ -8,6 +8,7 @@
 #pragma once
 
 #include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
@@ -29,6 +30,10 @@ class MeetingLinkParser {
 
   // The service of a web address from its host and its (decoded) path; letter case is ignored.
   static std::optional<MeetingService> service(std::string_view host, std::string_view path);
+
+  // The raw text of each match of the link-finding expression in `text`, in reading order,
+  // before trimming and classification; for diagnostics.
+  static std::vector<std::string> matches(std::string_view text);
 
   // The service an application scheme (lower case) stands for, or none for any other scheme.
   static std::optional<MeetingService> applicationSchemeService(std::string_view scheme);
