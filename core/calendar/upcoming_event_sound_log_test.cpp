@@ -23,7 +23,7 @@ TEST(UpcomingEventSoundLogTest, SoundsOncePerLeadPeriodForTheWholeBatch) {
                                               event("later", t0 + 601)};
   EXPECT_TRUE(log.recordDue(events, t0, lead));
   EXPECT_EQ(log.played, (decltype(log.played){{"a", t0 + 600}, {"b", t0 + 60}}));
-  EXPECT_FALSE(log.recordDue(events, t0 + 30, lead));
+  EXPECT_FALSE(log.recordDue(events, t0 + 0.5, lead));
   EXPECT_TRUE(log.recordDue(events, t0 + 1, lead));  // "later" enters its lead period
   EXPECT_EQ(log.played.size(), 3U);
 
