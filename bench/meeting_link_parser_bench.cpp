@@ -21,10 +21,10 @@ const std::string agenda = repeated(
     "<p>Agenda: review of the Q3 roadmap (see the shared folder /Planning/2026/Q3), open items "
     "from last week &amp; the hiring plan. Please read the notes beforehand &ndash; thanks!</p>\n"
     "<ul><li>Status per team (5 min each)</li><li>Budget: 12.5% over in travel</li></ul>\n",
-    2400);
+    5200);
 
 const std::string teamsInvitation =
-    agenda +
+    agenda.substr(0, 2600) +
     "<div style=\"width:100%\"><span style=\"white-space:nowrap;color:#5F5F5F\">"
     "________________________________________________________________________________</span>"
     "<div><span style=\"font-size:24px;font-weight:700\">Microsoft Teams meeting</span></div>"
@@ -59,7 +59,7 @@ const std::string zoomInvitation =
     agenda.substr(0, 600);
 
 const std::string meetInvitation =
-    agenda.substr(0, 2000) +
+    agenda.substr(0, 1900) +
     "\n-::~:~::~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~:~::~:~::-"
     "\n"
     "Join with Google Meet: https://meet.google.com/abc-defg-hij\nOr dial: (NO) +47 21 93 98 46 "
@@ -72,7 +72,7 @@ const std::string meetInvitation =
     "allow any recipient to send a response to the organizer, be added to the guest list, invite "
     "others regardless of their own invitation status, or modify your RSVP. Learn more "
     "https://support.google.com/calendar/answer/37135#forwarding\n" +
-    agenda.substr(0, 1700);
+    agenda.substr(0, 1500);
 
 const std::string plainNotes = agenda.substr(0, 5120);
 

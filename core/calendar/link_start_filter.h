@@ -3,6 +3,7 @@
 // It never skips a position where the expression would match: it errs towards trying.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <string_view>
 
@@ -16,8 +17,9 @@ class LinkStartFilter {
   std::int32_t next(std::int32_t from) const;
 
  private:
-  bool mightStartScheme(std::int32_t at) const;
-  bool mightStartHost(std::int32_t at) const;
+  bool mightStartScheme(std::size_t start) const;
+  // Whether the run of host characters [start, end) may be a bare host address.
+  bool mightStartHost(std::size_t start, std::size_t end) const;
 
   std::u16string_view text_;
 };

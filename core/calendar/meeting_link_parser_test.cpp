@@ -128,6 +128,18 @@ TEST(MeetingLinkParserTest, ClassifiesHostsAndPaths) {
   EXPECT_EQ(service("facetime.apple.com", "/"), std::nullopt);
 }
 
+TEST(MeetingLinkParserTest, MatchesLikeAPlainScanEvenWhereCaseFoldingReachesASCII) {
+  // The long s and the st ligature fold into ASCII letters, so they match; the match they make
+  // swallows the address behind it, as a plain scan would.
+  EXPECT_EQ(MeetingLinkParser::matches("a httpſ://zoom.uſ/j/1?u=zoom.us/j/2 m\uFB05eams:x"),
+            (std::vector<std::string>{"httpſ://zoom.uſ/j/1?u=zoom.us/j/2", "m\uFB05eams:x"}));
+  EXPECT_TRUE(MeetingLinkParser::links("httpſ://zoom.uſ/j/1?u=zoom.us/j/2").empty());
+  EXPECT_EQ(MeetingLinkParser::matches("\u212A.zoom.us/j/3 é.zoom.us/j/4 x=Zoom.US/j/5"),
+            (std::vector<std::string>{"\u212A.zoom.us/j/3", "Zoom.US/j/5"}));
+  EXPECT_EQ(MeetingLinkParser::matches("zoom.us./j/1 a..zoom.us/j/2 -zoom.us/j/3 zoom.us"),
+            std::vector<std::string>{});
+}
+
 TEST(MeetingServiceTest, RawValuesRoundTrip) {
   for (MeetingService service : allMeetingServices) {
     EXPECT_EQ(meetingServiceFromRaw(rawValue(service)), service);
