@@ -12,8 +12,11 @@ namespace {
 constexpr double t0 = 1'800'000'000;
 
 TEST(DepartureAdvisorTest, NeedsTravelTimeWithinThreeHoursForAPlace) {
-  CalendarEventInfo e{.id = "a", .title = "Lunch", .start = t0 + 10800, .end = t0 + 14400};
-  e.location = "Storgata 1, Oslo";
+  CalendarEventInfo e{.id = "a",
+                      .title = "Lunch",
+                      .start = t0 + 10800,
+                      .end = t0 + 14400,
+                      .location = "Storgata 1, Oslo"};
   EXPECT_TRUE(DepartureAdvisor::needsTravelTime(e, t0));
   EXPECT_FALSE(DepartureAdvisor::needsTravelTime(e, t0 - 1));
   EXPECT_FALSE(DepartureAdvisor::needsTravelTime(e, e.start));  // already started

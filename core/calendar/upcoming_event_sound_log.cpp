@@ -21,7 +21,7 @@ bool UpcomingEventSoundLog::recordDue(std::span<const CalendarEventInfo> events,
   return !due.empty();
 }
 
-JSONValue UpcomingEventSoundLog::toJSON() const {
+JSONValue::Object UpcomingEventSoundLog::toJSON() const {
   JSONValue::Object object;
   for (const auto& [id, start] : played) object.emplace(id, start);
   return object;

@@ -22,7 +22,8 @@ struct UpcomingEventSoundLog {
   // caller saves the log when it changed.
   bool recordDue(std::span<const CalendarEventInfo> events, double now, double leadTime);
 
-  JSONValue toJSON() const;
+  // The stored form: an object from id to start.
+  JSONValue::Object toJSON() const;
   // Members that are not finite numbers are dropped; anything but an object gives an empty log.
   static UpcomingEventSoundLog fromJSON(const JSONValue& value);
 
