@@ -15,7 +15,7 @@ TodayAgenda::Entry CalendarPrivacy::apply(TodayAgenda::Entry entry) const {
   return entry;
 }
 
-std::string CalendarPrivacy::applyToReminderTitle(std::string title) const {
+std::string CalendarPrivacy::applyToReminderTitle(const std::string& title) const {
   return isEnabled ? reminderTitle : title;
 }
 

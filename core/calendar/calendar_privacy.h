@@ -18,7 +18,7 @@ struct CalendarPrivacy {
   CalendarEventInfo apply(CalendarEventInfo event) const;
   TodayAgenda::Entry apply(TodayAgenda::Entry entry) const;
   // The title to show for a reminder whose title is `title`.
-  std::string applyToReminderTitle(std::string title) const;
+  std::string applyToReminderTitle(const std::string& title) const;
 
   friend bool operator==(const CalendarPrivacy&, const CalendarPrivacy&) = default;
 };

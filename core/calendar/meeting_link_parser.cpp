@@ -56,7 +56,7 @@ icu::UnicodeString utf16(std::string_view text) {
 
 // Calls `visit` with each link in `text` in reading order until it returns false.
 template <typename Visit>
-void forEachLink(std::string_view text, Visit&& visit) {
+void forEachLink(std::string_view text, const Visit& visit) {
   if (text.size() > static_cast<std::size_t>(INT32_MAX)) return;
   const icu::UnicodeString input = utf16(text);
   MeetingLinkScan scan(input);

@@ -34,6 +34,8 @@ class MeetingLinkScan {
   ~MeetingLinkScan();
   MeetingLinkScan(const MeetingLinkScan&) = delete;
   MeetingLinkScan& operator=(const MeetingLinkScan&) = delete;
+  MeetingLinkScan(MeetingLinkScan&&) = delete;
+  MeetingLinkScan& operator=(MeetingLinkScan&&) = delete;
 
   // The next match, or none at the end of the text (or should ICU fail).
   std::optional<Match> next();

@@ -15,7 +15,7 @@ bool precedes(const CalendarEventInfo& a, const CalendarEventInfo& b) {
 
 // The least event kept by `keep`; on full ties the first in input order stays.
 template <typename Keep>
-const CalendarEventInfo* least(std::span<const CalendarEventInfo> events, Keep&& keep) {
+const CalendarEventInfo* least(std::span<const CalendarEventInfo> events, const Keep& keep) {
   const CalendarEventInfo* best = nullptr;
   for (const CalendarEventInfo& event : events) {
     if (!keep(event)) continue;
