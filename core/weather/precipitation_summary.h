@@ -26,7 +26,8 @@ struct PrecipitationSummary {
   struct Unknown {
     friend bool operator==(const Unknown&, const Unknown&) = default;
   };
-  std::variant<Chance, Amount, None, Unknown> value;
+  using Value = std::variant<Chance, Amount, None, Unknown>;
+  Value value;
 
   // An amount that shows as at least 0.1 mm wins (it says more than a chance); otherwise a chance
   // that shows as at least 1 %; otherwise "none" when either figure is known and shows as zero.

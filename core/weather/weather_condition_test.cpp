@@ -1,0 +1,66 @@
+#include "weather/weather_condition.h"
+
+#include <gtest/gtest.h>
+
+#include <set>
+
+namespace tindra {
+namespace {
+
+TEST(WeatherCondition, SymbolCodesInOrderOfPrecedence) {
+  const std::pair<const char*, WeatherCondition> cases[] = {
+      {"clearsky_day", WeatherCondition::clear},
+      {"clearsky_polartwilight", WeatherCondition::clear},
+      {"ClearSky_Night", WeatherCondition::clear},
+      {"fair_night", WeatherCondition::fair},
+      {"partlycloudy_polartwilight", WeatherCondition::partlyCloudy},
+      {"cloudy", WeatherCondition::cloudy},
+      {"fog", WeatherCondition::fog},
+      // thunder before snow before sleet, whatever else the code says
+      {"heavysleetshowersandthunder_day", WeatherCondition::thunderstorm},
+      {"lightsnowandthunder", WeatherCondition::thunderstorm},
+      {"lightsnow", WeatherCondition::snow},
+      {"sleetandsnow", WeatherCondition::snow},
+      {"heavysleetshowers_night", WeatherCondition::sleet},
+      {"lightrainshowers_day", WeatherCondition::rainShowers},
+      {"rainshowers_night", WeatherCondition::rainShowers},
+      {"heavyrainshowers_night", WeatherCondition::heavyRain},
+      {"lightrain", WeatherCondition::lightRain},
+      {"rain", WeatherCondition::rain},
+      {"heavyrain", WeatherCondition::heavyRain},
+      // whole-word matches only for the plain names, and only before the first "_"
+      {"cloudyish", WeatherCondition::unknown},
+      {"rain_showers", WeatherCondition::rain},
+      {"_rainshowers", WeatherCondition::unknown},
+      {"", WeatherCondition::unknown},
+      {"drizzle", WeatherCondition::unknown},
+  };
+  for (const auto& [code, condition] : cases) {
+    EXPECT_EQ(weatherConditionFromSymbolCode(code), condition) << code;
+  }
+}
+
+TEST(WeatherCondition, NightCodesAndSymbolNames) {
+  EXPECT_TRUE(isNightSymbolCode("partlycloudy_polartwilight"));
+  EXPECT_TRUE(isNightSymbolCode("FAIR_NIGHT"));
+  EXPECT_FALSE(isNightSymbolCode("lightrainshowers_day"));
+  EXPECT_FALSE(isNightSymbolCode("night"));
+  EXPECT_FALSE(isNightSymbolCode("clearsky_night_"));
+
+  EXPECT_EQ(symbolName(WeatherCondition::clear, true), "moon.stars.fill");
+  EXPECT_EQ(symbolName(WeatherCondition::partlyCloudy, false), "cloud.sun.fill");
+  EXPECT_EQ(symbolName(WeatherCondition::rainShowers, true), "cloud.moon.rain.fill");
+  EXPECT_EQ(symbolName(WeatherCondition::snow, true), "cloud.snow.fill");
+  EXPECT_EQ(symbolName(WeatherCondition::unknown, false), "thermometer.medium");
+
+  std::set<std::string_view> raws;
+  for (WeatherCondition condition : allWeatherConditions) {
+    EXPECT_EQ(weatherConditionFromRaw(rawValue(condition)), condition);
+    raws.insert(rawValue(condition));
+  }
+  EXPECT_EQ(raws.size(), allWeatherConditions.size());
+  EXPECT_EQ(weatherConditionFromRaw("Clear"), std::nullopt);
+}
+
+}  // namespace
+}  // namespace tindra
