@@ -2,7 +2,6 @@
 
 #include "weather/http_date.h"
 #include "weather/rfc3339_date_time.h"
-#include "weather/utc_date_fields.h"
 
 namespace tindra {
 namespace {
@@ -44,14 +43,6 @@ TEST(HTTPDate, ReadsTheFixedFormInGMT) {
                            "Wed, +8 May 2022 21:06:05 GMT"}) {
     EXPECT_EQ(parseHTTPDate(text), std::nullopt) << text;
   }
-}
-
-TEST(UTCDateFields, DaysAcrossCenturiesAndEras) {
-  EXPECT_EQ(daysSince1970(1970, 1, 1), 0);
-  EXPECT_EQ(daysSince1970(2000, 3, 1), 11017);
-  EXPECT_EQ(daysSince1970(1600, 1, 1), -135140);
-  EXPECT_EQ(daysSince1970(-1, 12, 31), -719529);
-  EXPECT_EQ(secondsSince1970({2016, 12, 31, 23, 59, 60}), 1483228800);
 }
 
 }  // namespace

@@ -99,7 +99,12 @@ class DocumentDecoder {
 
 struct TimedStep {
   double time;
+  std::size_t order;  // position in the document, so equal times keep their order
   const Parser::Step* step;
+
+  friend bool operator<(const TimedStep& a, const TimedStep& b) {
+    return a.time < b.time || (a.time == b.time && a.order < b.order);
+  }
 };
 
 bool hasFiniteTemperature(const TimedStep& timed) {
@@ -186,9 +191,12 @@ std::expected<WeatherSnapshot, METForecastParser::ParseError> METForecastParser:
 
   std::vector<TimedStep> steps;
   for (const Step& step : document->properties.timeseries) {
-    if (const auto time = parseRFC3339DateTime(step.time)) steps.push_back({*time, &step});
+    if (const auto time = parseRFC3339DateTime(step.time)) {
+      steps.push_back({*time, steps.size(), &step});
+    }
   }
-  std::ranges::stable_sort(steps, std::less<>{}, &TimedStep::time);
+  // A plain sort with the document order as tie-break: stable without a temporary buffer.
+  std::sort(steps.begin(), steps.end());
   const TimedStep* current = currentStep(steps, now);
   if (current == nullptr) return std::unexpected(ParseError::noCurrentData);
 

@@ -11,18 +11,14 @@ namespace {
 constexpr double kNow = 1'700'000'000;  // 2023-11-14T22:13:20Z
 
 // Answers every request with a canned answer and remembers the request.
-class CannedTransport : public HTTPTransport {
- public:
-  explicit CannedTransport(std::expected<HTTPResponse, HTTPTransportError> answer)
-      : answer_(std::move(answer)) {}
+struct CannedTransport : HTTPTransport {
+  explicit CannedTransport(HTTPResponse response) : answer(std::move(response)) {}
   void send(const HTTPRequest& request, Completion completion) override {
     sent.push_back(request);
-    completion(answer_);
+    completion(answer);
   }
+  HTTPResponse answer;
   std::vector<HTTPRequest> sent;
-
- private:
-  std::expected<HTTPResponse, HTTPTransportError> answer_;
 };
 
 // One step at 22:00Z, near kNow.
