@@ -203,7 +203,8 @@ std::expected<WeatherSnapshot, METForecastParser::ParseError> METForecastParser:
   const StepData& stepData = current->step->data;
   WeatherSnapshot snapshot;
   snapshot.coordinate = coordinate;
-  snapshot.temperature = *stepData.instant.details.airTemperature;
+  // Always present: the choice passes over steps without a finite temperature.
+  snapshot.temperature = stepData.instant.details.airTemperature.value_or(0);
   snapshot.validAt = current->time;
   snapshot.fetchedAt = fetchedAt;
   snapshot.expiresAt = expiresAt;

@@ -1,5 +1,6 @@
 #include "weather/met_weather_client.h"
 
+#include <array>
 #include <charconv>
 #include <utility>
 
@@ -24,11 +25,12 @@ WeatherFetchResult failed(WeatherFetchFailure failure) {
 
 std::string formatCoordinateDegrees(double degrees) {
   // to_chars ignores the C locale, so the separator is a point even under de_DE.
-  char buffer[400];
+  std::array<char, 400> buffer{};  // room for the largest double written in full
   const double rounded = GeoCoordinate{degrees, 0}.roundedToHundredths().latitude;
-  const auto result =
-      std::to_chars(buffer, buffer + sizeof buffer, rounded, std::chars_format::fixed, 2);
-  return std::string(buffer, result.ptr);
+  const auto end = std::to_chars(buffer.data(), buffer.data() + buffer.size(), rounded,
+                                 std::chars_format::fixed, 2)
+                       .ptr;
+  return {buffer.data(), end};
 }
 
 std::string METWeatherClient::makeUserAgent(std::string_view version, std::string_view webAddress,
