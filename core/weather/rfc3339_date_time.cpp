@@ -63,7 +63,6 @@ std::optional<int> offset(std::string_view text, std::size_t& position) {
 
 std::optional<double> parseRFC3339DateTime(std::string_view text) {
   std::size_t position = 0;
-  UTCDateFields fields;
   const auto year = digits(text, position, 4);
   if (!year || !literal(text, position, '-')) return std::nullopt;
   const auto month = digits(text, position, 2);
@@ -83,8 +82,7 @@ std::optional<double> parseRFC3339DateTime(std::string_view text) {
   const auto zoneOffset = offset(text, position);
   if (!fractionOfSecond || !zoneOffset || position != text.size()) return std::nullopt;
 
-  fields = {*year, *month, *day, *hour, *minute, *second};
-  const auto local = secondsSince1970(fields);
+  const auto local = secondsSince1970({*year, *month, *day, *hour, *minute, *second});
   if (!local) return std::nullopt;
   return *local + *fractionOfSecond - *zoneOffset;
 }

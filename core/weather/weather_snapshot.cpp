@@ -9,7 +9,7 @@
 namespace tindra {
 namespace {
 
-// A member that may be missing: `present` is false when it is absent or null.
+// A member that may be missing: `present` is null when it is absent or null.
 struct OptionalMember {
   bool wellTyped = true;
   const JSONValue* present = nullptr;
