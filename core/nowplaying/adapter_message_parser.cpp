@@ -1,0 +1,294 @@
+#include "nowplaying/adapter_message_parser.h"
+
+#include <cmath>
+#include <cstring>
+
+#include "nowplaying/artwork_data_locator.h"
+#include "nowplaying/base64.h"
+#include "nowplaying/internet_date_time.h"
+#include "settings/json_reader.h"
+
+namespace tindra {
+namespace {
+
+constexpr double maxSeconds = 604'800;  // seven days
+constexpr double microsPerSecond = 1'000'000;
+constexpr std::size_t keptBufferCapacity = 1 << 20;
+
+// The state members a snapshot is built from, found in one pass over the state.
+struct SnapshotFields {
+  const JSONValue* title = nullptr;
+  const JSONValue* playing = nullptr;
+  const JSONValue* durationMicros = nullptr;
+  const JSONValue* duration = nullptr;
+  const JSONValue* elapsedTimeMicros = nullptr;
+  const JSONValue* elapsedTime = nullptr;
+  const JSONValue* playbackRate = nullptr;
+  const JSONValue* bundleIdentifier = nullptr;
+  const JSONValue* parentBundleIdentifier = nullptr;
+  const JSONValue* artist = nullptr;
+  const JSONValue* album = nullptr;
+  const JSONValue* timestampEpochMicros = nullptr;
+  const JSONValue* timestamp = nullptr;
+  const JSONValue* shuffleMode = nullptr;
+  const JSONValue* repeatMode = nullptr;
+
+  explicit SnapshotFields(const JSONValue::Object& state) {
+    for (const auto& [name, value] : state) {
+      if (const JSONValue** slot = slotFor(name)) *slot = &value;
+    }
+  }
+
+ private:
+  const JSONValue** slotFor(std::string_view name) {
+    struct Entry {
+      std::string_view name;
+      const JSONValue* SnapshotFields::*member;
+    };
+    static constexpr Entry entries[] = {
+        {"title", &SnapshotFields::title},
+        {"playing", &SnapshotFields::playing},
+        {"durationMicros", &SnapshotFields::durationMicros},
+        {"duration", &SnapshotFields::duration},
+        {"elapsedTimeMicros", &SnapshotFields::elapsedTimeMicros},
+        {"elapsedTime", &SnapshotFields::elapsedTime},
+        {"playbackRate", &SnapshotFields::playbackRate},
+        {"bundleIdentifier", &SnapshotFields::bundleIdentifier},
+        {"parentApplicationBundleIdentifier", &SnapshotFields::parentBundleIdentifier},
+        {"artist", &SnapshotFields::artist},
+        {"album", &SnapshotFields::album},
+        {"timestampEpochMicros", &SnapshotFields::timestampEpochMicros},
+        {"timestamp", &SnapshotFields::timestamp},
+        {"shuffleMode", &SnapshotFields::shuffleMode},
+        {"repeatMode", &SnapshotFields::repeatMode},
+    };
+    for (const Entry& entry : entries) {
+      if (entry.name == name) return &(this->*entry.member);
+    }
+    return nullptr;
+  }
+};
+
+std::optional<double> finiteNumber(const JSONValue* value) {
+  const double* number = value ? value->asNumber() : nullptr;
+  if (!number || !std::isfinite(*number)) return std::nullopt;
+  return *number;
+}
+
+std::optional<std::string> nonEmptyString(const JSONValue* value) {
+  const std::string* text = value ? value->asString() : nullptr;
+  if (!text || text->empty()) return std::nullopt;
+  return *text;
+}
+
+// The microsecond member decides whenever it is a finite number, even when its value is then
+// refused; the seconds member is read only in its absence.
+std::optional<double> seconds(const JSONValue* micros, const JSONValue* plain) {
+  if (auto value = finiteNumber(micros)) return *value / microsPerSecond;
+  return finiteNumber(plain);
+}
+
+std::optional<double> timestampOf(const SnapshotFields& fields) {
+  if (auto micros = finiteNumber(fields.timestampEpochMicros); micros && *micros > 0) {
+    return *micros / microsPerSecond;
+  }
+  const std::string* text = fields.timestamp ? fields.timestamp->asString() : nullptr;
+  if (!text) return std::nullopt;
+  auto parsed = parseInternetDateTime(*text);
+  return parsed ? std::optional<double>(*parsed) : std::nullopt;
+}
+
+JSONValue* member(JSONValue& object, std::string_view name) {
+  JSONValue::Object* members = object.asObject();
+  if (!members) return nullptr;
+  auto found = members->find(name);
+  return found == members->end() ? nullptr : &found->second;
+}
+
+JSONValue* artworkDataMember(JSONValue& message) {
+  JSONValue* payload = member(message, "payload");
+  return payload ? member(*payload, "artworkData") : nullptr;
+}
+
+// The cover's bytes when `text` is a usable cover: non-empty, under the limit, strict Base64,
+// decoding to at least one byte.
+std::optional<std::vector<std::uint8_t>> decodeArtwork(std::string_view text) {
+  if (text.empty() || text.size() >= AdapterMessageParser::artworkTextLimit) return std::nullopt;
+  auto bytes = decodeBase64(text);
+  if (!bytes || bytes->empty()) return std::nullopt;
+  return std::move(*bytes);
+}
+
+}  // namespace
+
+std::string AdapterMessageParser::ParseError::description() const {
+  switch (kind) {
+    case Kind::unexpectedType:
+      return type ? "unexpected type \"" + *type + "\"" : std::string("missing type");
+    case Kind::notJSONObject:
+      return "not a JSON object";
+    case Kind::missingPayload:
+      return "missing payload";
+    case Kind::lineTooLong:
+      return "line too long";
+  }
+  return "unreadable line";
+}
+
+std::vector<AdapterMessageParser::Result> AdapterMessageParser::feed(std::string_view bytes) {
+  std::vector<Result> results;
+  while (!bytes.empty()) {
+    const void* newline = std::memchr(bytes.data(), '\n', bytes.size());
+    const std::size_t pieceLength =
+        newline ? static_cast<std::size_t>(static_cast<const char*>(newline) - bytes.data())
+                : bytes.size();
+    const std::string_view piece = bytes.substr(0, pieceLength);
+    bytes.remove_prefix(newline ? pieceLength + 1 : pieceLength);
+
+    if (discardingOversizedLine) {
+      discardingOversizedLine = newline == nullptr;
+      continue;
+    }
+    if (buffer.size() + piece.size() > maxLineLength) {
+      // Reported once, when the line first grows past the limit; its rest is skipped silently.
+      results.push_back(std::unexpected(ParseError::lineTooLong()));
+      buffer = std::string();
+      discardingOversizedLine = newline == nullptr;
+      continue;
+    }
+    if (!newline) {
+      buffer.append(piece);
+      continue;
+    }
+    if (buffer.empty()) {
+      results.push_back(parse(piece));
+    } else {
+      buffer.append(piece);
+      results.push_back(parse(buffer));
+      if (buffer.capacity() > keptBufferCapacity) buffer = std::string();
+      buffer.clear();
+    }
+  }
+  return results;
+}
+
+AdapterMessageParser::Result AdapterMessageParser::parse(std::string_view line) {
+  if (line.size() >= directArtworkThreshold_) {
+    if (auto result = parseWithDirectArtwork(line)) return std::move(*result);
+  }
+  auto message = JSONReader::parse(line);
+  if (!message) return std::unexpected(ParseError::notJSONObject());
+  return accept(*message, std::nullopt);
+}
+
+// The cover's text is cut out of the line before the JSON reader sees it and put back as a
+// string afterwards. Strict Base64 text contains no quote, backslash or control character, so
+// when it decodes, the cut text is exactly the string's value and the rest of the line stays
+// valid or invalid JSON just as before. None means: take the ordinary path.
+std::optional<AdapterMessageParser::Result> AdapterMessageParser::parseWithDirectArtwork(
+    std::string_view line) {
+  const std::optional<ArtworkDataSpan> span = locateArtworkData(line);
+  if (!span) return std::nullopt;
+  const std::string_view text = line.substr(span->begin, span->end - span->begin);
+  if (text.size() >= artworkTextLimit) return std::nullopt;
+  auto decoded = decodeBase64(text);
+  if (!decoded) return std::nullopt;
+
+  std::string rest;
+  rest.reserve(line.size() - text.size());
+  rest.append(line.substr(0, span->begin)).append(line.substr(span->end));
+  auto message = JSONReader::parse(rest);
+  if (!message) return Result(std::unexpected(ParseError::notJSONObject()));
+
+  JSONValue* placeholder = artworkDataMember(*message);
+  if (!placeholder || *placeholder != JSONValue("")) {
+    return std::nullopt;  // the scan and the reader disagree; trust the reader alone
+  }
+  *placeholder = JSONValue(text);
+  std::optional<Bytes> artworkBytes;
+  if (!decoded->empty()) artworkBytes = std::move(*decoded);
+  return accept(*message, std::move(artworkBytes));
+}
+
+AdapterMessageParser::Result AdapterMessageParser::accept(JSONValue& message,
+                                                          std::optional<Bytes> decodedArtwork) {
+  if (!message.asObject()) return std::unexpected(ParseError::notJSONObject());
+  const JSONValue* type = message.find("type");
+  const std::string* typeText = type ? type->asString() : nullptr;
+  if (!typeText) return std::unexpected(ParseError::unexpectedType(std::nullopt));
+  if (*typeText != "data") return std::unexpected(ParseError::unexpectedType(*typeText));
+  JSONValue* payload = member(message, "payload");
+  JSONValue::Object* members = payload ? payload->asObject() : nullptr;
+  if (!members) return std::unexpected(ParseError::missingPayload());
+
+  ++messageCount;
+  const JSONValue* diffFlag = message.find("diff");
+  const bool diff = diffFlag && diffFlag->asBool() && *diffFlag->asBool();
+  const bool coverMentioned = members->contains("artworkData");
+  merge(*members, diff);
+  if (!diff || coverMentioned) recomputeArtwork(std::move(decodedArtwork));
+  return snapshot();
+}
+
+void AdapterMessageParser::merge(JSONValue::Object& payload, bool diff) {
+  if (!diff) {
+    state = std::move(payload);
+    return;
+  }
+  for (auto& [name, value] : payload) {
+    if (value.isNull()) {
+      state.erase(name);
+    } else {
+      state.insert_or_assign(name, std::move(value));
+    }
+  }
+}
+
+// `decodedArtwork` is the already decoded value of the message's "artworkData", when the
+// direct path decoded it; the state then holds the same text.
+void AdapterMessageParser::recomputeArtwork(std::optional<Bytes> decodedArtwork) {
+  auto text = state.find("artworkData");
+  const std::string* cover = text == state.end() ? nullptr : text->second.asString();
+  std::optional<Bytes> bytes;
+  if (cover) bytes = decodedArtwork ? std::move(decodedArtwork) : decodeArtwork(*cover);
+  artwork = bytes ? std::optional(NowPlayingSnapshot::Artwork::embedded(std::move(*bytes)))
+                  : std::nullopt;
+}
+
+std::optional<NowPlayingSnapshot> AdapterMessageParser::snapshot() const {
+  const SnapshotFields fields(state);
+  std::optional<std::string> title = nonEmptyString(fields.title);
+  const bool* playing = fields.playing ? fields.playing->asBool() : nullptr;
+  if (!title || !playing) return std::nullopt;
+
+  NowPlayingSnapshot snapshot;
+  snapshot.bundleIdentifier = nonEmptyString(fields.bundleIdentifier);
+  snapshot.parentBundleIdentifier = nonEmptyString(fields.parentBundleIdentifier);
+  snapshot.title = std::move(*title);
+  snapshot.artist = nonEmptyString(fields.artist);
+  snapshot.album = nonEmptyString(fields.album);
+  snapshot.isPlaying = *playing;
+  if (auto duration = seconds(fields.durationMicros, fields.duration);
+      duration && *duration > 0 && *duration <= maxSeconds) {
+    snapshot.duration = duration;
+  }
+  if (auto elapsed = seconds(fields.elapsedTimeMicros, fields.elapsedTime);
+      elapsed && *elapsed >= 0 && *elapsed <= maxSeconds) {
+    snapshot.elapsed = elapsed;
+    snapshot.elapsedTimestamp = timestampOf(fields);
+  }
+  const std::optional<double> rate = finiteNumber(fields.playbackRate);
+  const double playingRate = rate && *rate >= 0 ? *rate : 1.0;
+  snapshot.playbackRate = *playing ? playingRate : 0;
+  if (auto code = finiteNumber(fields.shuffleMode)) {
+    snapshot.shuffle = shuffleModeFromAdapterCode(*code);
+  }
+  if (auto code = finiteNumber(fields.repeatMode)) {
+    snapshot.repeatMode = repeatModeFromAdapterCode(*code);
+  }
+  snapshot.artwork = artwork;
+  snapshot.capabilities = NowPlayingCapabilities::all();
+  return snapshot;
+}
+
+}  // namespace tindra

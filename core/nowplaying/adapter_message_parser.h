@@ -1,0 +1,75 @@
+// AdapterMessageParser: turns the adapter's stream of JSON lines into snapshots. Data messages
+// replace or merge into the accumulated state; each complete line yields a snapshot (none when
+// nothing plays) or a ParseError, and no input stops the parser. Memory stays bounded by the
+// line limit. One parser serves one child process; a restarted child gets a fresh one.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <expected>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "nowplaying/now_playing_snapshot.h"
+#include "settings/json_value.h"
+
+namespace tindra {
+
+class AdapterMessageParser {
+ public:
+  static constexpr std::size_t maxLineLength = 16'777'216;     // bytes, without the newline
+  static constexpr std::size_t artworkTextLimit = 11'184'812;  // a cover's text is shorter
+  static constexpr std::size_t defaultDirectArtworkThreshold = 65'536;
+
+  struct ParseError {
+    enum class Kind { unexpectedType, notJSONObject, missingPayload, lineTooLong };
+    Kind kind;
+    std::optional<std::string> type;  // the "type" text, for unexpectedType when it was a string
+
+    static ParseError unexpectedType(std::optional<std::string> type) {
+      return {Kind::unexpectedType, std::move(type)};
+    }
+    static ParseError notJSONObject() { return {Kind::notJSONObject, std::nullopt}; }
+    static ParseError missingPayload() { return {Kind::missingPayload, std::nullopt}; }
+    static ParseError lineTooLong() { return {Kind::lineTooLong, std::nullopt}; }
+
+    // "unexpected type \"status\"", "line too long", for logs.
+    std::string description() const;
+    friend bool operator==(const ParseError&, const ParseError&) = default;
+  };
+
+  // A snapshot, none when nothing plays, or why the line was refused.
+  using Result = std::expected<std::optional<NowPlayingSnapshot>, ParseError>;
+
+  // Lines at least `directArtworkThreshold` bytes long have their cover decoded straight from
+  // the line; shorter ones go through the JSON tree alone. Both give the same results.
+  explicit AdapterMessageParser(std::size_t directArtworkThreshold = defaultDirectArtworkThreshold)
+      : directArtworkThreshold_(directArtworkThreshold) {}
+
+  // Frames `bytes` into lines (ending at "\n") and parses each complete one, in order.
+  std::vector<Result> feed(std::string_view bytes);
+
+  // Parses one line without its newline.
+  Result parse(std::string_view line);
+
+  JSONValue::Object state;  // the merged payload of all data messages so far
+  std::int64_t messageCount = 0;
+  std::optional<NowPlayingSnapshot::Artwork> artwork;  // the last decoded cover
+  std::string buffer;                                  // bytes after the last newline
+  bool discardingOversizedLine = false;
+
+ private:
+  using Bytes = std::vector<std::uint8_t>;
+
+  std::optional<Result> parseWithDirectArtwork(std::string_view line);
+  Result accept(JSONValue& message, std::optional<Bytes> decodedArtwork);
+  void merge(JSONValue::Object& payload, bool diff);
+  void recomputeArtwork(std::optional<Bytes> decodedArtwork);
+  std::optional<NowPlayingSnapshot> snapshot() const;
+
+  std::size_t directArtworkThreshold_;
+};
+
+}  // namespace tindra
