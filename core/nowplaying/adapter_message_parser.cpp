@@ -152,7 +152,7 @@ std::vector<AdapterMessageParser::Result> AdapterMessageParser::feed(std::string
     if (buffer.size() + piece.size() > maxLineLength) {
       // Reported once, when the line first grows past the limit; its rest is skipped silently.
       results.push_back(std::unexpected(ParseError::lineTooLong()));
-      buffer = std::string();
+      std::string().swap(buffer);
       discardingOversizedLine = newline == nullptr;
       continue;
     }
@@ -165,8 +165,8 @@ std::vector<AdapterMessageParser::Result> AdapterMessageParser::feed(std::string
     } else {
       buffer.append(piece);
       results.push_back(parse(buffer));
-      if (buffer.capacity() > keptBufferCapacity) buffer = std::string();
       buffer.clear();
+      if (buffer.capacity() > keptBufferCapacity) std::string().swap(buffer);
     }
   }
   return results;

@@ -14,7 +14,7 @@ using ParseError = Parser::ParseError;
 
 const std::string playingLine = R"({"type":"data","payload":{"title":"A","playing":true}})";
 
-std::string data(std::string_view payload, bool diff = false) {
+std::string message(std::string_view payload, bool diff = false) {
   return std::string(R"({"type":"data","diff":)") + (diff ? "true" : "false") +
          ",\"payload\":" + std::string(payload) + "}";
 }
@@ -26,7 +26,7 @@ NowPlayingSnapshot snapshotOf(const Parser::Result& result) {
 
 NowPlayingSnapshot parsed(std::string_view payload) {
   Parser parser;
-  return snapshotOf(parser.parse(data(payload)));
+  return snapshotOf(parser.parse(message(payload)));
 }
 
 ParseError errorOf(const Parser::Result& result) {
@@ -96,10 +96,10 @@ TEST(AdapterMessageParserTest, DiffsMergeAndRemoveWhileFullMessagesReplace) {
   Parser parser;
   snapshotOf(
       parser.parse(R"({"type":"data","payload":{"title":"A","playing":true},"diff":false})"));
-  NowPlayingSnapshot s = snapshotOf(parser.parse(data(R"({"artist":"B"})", true)));
+  NowPlayingSnapshot s = snapshotOf(parser.parse(message(R"({"artist":"B"})", true)));
   EXPECT_EQ(s.title, "A");
   EXPECT_EQ(s.artist, "B");
-  s = snapshotOf(parser.parse(data(R"({"artist":null,"album":"C"})", true)));
+  s = snapshotOf(parser.parse(message(R"({"artist":null,"album":"C"})", true)));
   EXPECT_FALSE(s.artist);
   EXPECT_EQ(s.album, "C");
   EXPECT_FALSE(parser.state.contains("artist"));
@@ -111,8 +111,8 @@ TEST(AdapterMessageParserTest, DiffsMergeAndRemoveWhileFullMessagesReplace) {
   EXPECT_EQ(parser.state.size(), 2u);
 
   // A diff that removes the title reports nothing playing; one that restores it recovers.
-  EXPECT_EQ(parser.parse(data(R"({"title":null})", true)), Parser::Result(std::nullopt));
-  EXPECT_EQ(snapshotOf(parser.parse(data(R"({"title":"E"})", true))).title, "E");
+  EXPECT_EQ(parser.parse(message(R"({"title":null})", true)), Parser::Result(std::nullopt));
+  EXPECT_EQ(snapshotOf(parser.parse(message(R"({"title":"E"})", true))).title, "E");
   EXPECT_EQ(parser.messageCount, 6);
 }
 
@@ -141,17 +141,17 @@ TEST(AdapterMessageParserTest, ArtworkIsRecomputedOnlyWhenItsKeyArrives) {
   Parser parser;
   const std::string image = cover(5);
   const std::string full = R"({"title":"A","playing":true,"artworkData":")" + image + "\"}";
-  NowPlayingSnapshot s = snapshotOf(parser.parse(data(full)));
+  NowPlayingSnapshot s = snapshotOf(parser.parse(message(full)));
   ASSERT_TRUE(s.artwork);
   EXPECT_EQ(*s.artwork->embeddedBytes(), decodeBase64(image).value());
 
-  EXPECT_EQ(snapshotOf(parser.parse(data(R"({"artist":"B"})", true))).artwork, s.artwork);
-  EXPECT_EQ(snapshotOf(parser.parse(data("{}", true))).artwork, s.artwork);
-  EXPECT_FALSE(snapshotOf(parser.parse(data(R"({"artworkData":null})", true))).artwork);
-  snapshotOf(parser.parse(data(full)));
-  EXPECT_FALSE(snapshotOf(parser.parse(data(R"({"artworkData":"not base64"})", true))).artwork);
-  snapshotOf(parser.parse(data(full)));
-  EXPECT_FALSE(snapshotOf(parser.parse(data(R"({"title":"A","playing":true})"))).artwork)
+  EXPECT_EQ(snapshotOf(parser.parse(message(R"({"artist":"B"})", true))).artwork, s.artwork);
+  EXPECT_EQ(snapshotOf(parser.parse(message("{}", true))).artwork, s.artwork);
+  EXPECT_FALSE(snapshotOf(parser.parse(message(R"({"artworkData":null})", true))).artwork);
+  snapshotOf(parser.parse(message(full)));
+  EXPECT_FALSE(snapshotOf(parser.parse(message(R"({"artworkData":"not base64"})", true))).artwork);
+  snapshotOf(parser.parse(message(full)));
+  EXPECT_FALSE(snapshotOf(parser.parse(message(R"({"title":"A","playing":true})"))).artwork)
       << "a full message without a cover clears it";
 
   // Bad covers: empty, unpadded, white space, URL-safe letters, not a string.
@@ -159,7 +159,7 @@ TEST(AdapterMessageParserTest, ArtworkIsRecomputedOnlyWhenItsKeyArrives) {
     Parser fresh;
     const std::string payload =
         std::string(R"({"title":"A","playing":true,"artworkData":)") + text + "}";
-    EXPECT_FALSE(snapshotOf(fresh.parse(data(payload))).artwork) << text;
+    EXPECT_FALSE(snapshotOf(fresh.parse(message(payload))).artwork) << text;
   }
 }
 
@@ -170,12 +170,12 @@ TEST(AdapterMessageParserTest, CoverTextMustBeShorterThanTheLimit) {
     Parser parser(threshold);
     const std::string longest = cover((limit - 4) / 4 * 3);
     auto payload = R"({"title":"A","playing":true,"artworkData":")" + longest + "\"}";
-    NowPlayingSnapshot s = snapshotOf(parser.parse(data(payload)));
+    NowPlayingSnapshot s = snapshotOf(parser.parse(message(payload)));
     ASSERT_TRUE(s.artwork) << threshold;
     EXPECT_EQ(s.artwork->embeddedBytes()->size(), (limit - 4) / 4 * 3);
 
     payload = R"({"title":"A","playing":true,"artworkData":")" + cover(limit / 4 * 3) + "\"}";
-    EXPECT_FALSE(snapshotOf(parser.parse(data(payload))).artwork) << threshold;
+    EXPECT_FALSE(snapshotOf(parser.parse(message(payload))).artwork) << threshold;
     EXPECT_EQ(parser.state.at("artworkData").asString()->size(), limit);
   }
 }
@@ -183,10 +183,10 @@ TEST(AdapterMessageParserTest, CoverTextMustBeShorterThanTheLimit) {
 TEST(AdapterMessageParserTest, DirectCoverDecodingAgreesWithTheJSONTree) {
   const std::string image = cover(100);
   const std::vector<std::string> lines = {
-      data(R"({"title":"A","playing":true,"artworkData":")" + image + "\"}"),
-      data(R"({"artworkData" : ")" + image + R"(" , "title":"A","playing":true})"),
-      data(R"({"artworkData":")" + image + R"(","artworkData":"TQ==","title":"A","playing":1})"),
-      data(R"({"artwork\u0044ata":")" + image + R"(","title":"A","playing":true})"),
+      message(R"({"title":"A","playing":true,"artworkData":")" + image + "\"}"),
+      message(R"({"artworkData" : ")" + image + R"(" , "title":"A","playing":true})"),
+      message(R"({"artworkData":")" + image + R"(","artworkData":"TQ==","title":"A","playing":1})"),
+      message(R"({"artwork\u0044ata":")" + image + R"(","title":"A","playing":true})"),
       R"({"type":"data","payload":{"artworkData":")" + image + R"("},"payload":{"title":"B"}})",
       R"({"type":"data","payload":{"x":{"artworkData":")" + image + R"("}}})",
       R"({"type":"data","payload":{"artworkData":")" + image + R"(" "extra"}})",
@@ -249,7 +249,7 @@ TEST(AdapterMessageParserTest, FieldsFallBackAndStayWithinSevenDays) {
   Parser parser;
   for (const char* payload : {R"({"title":"","playing":true})", R"({"title":"T","playing":1})",
                               R"({"playing":true})", R"({"title":"T"})", "{}"}) {
-    EXPECT_EQ(parser.parse(data(payload)), Parser::Result(std::nullopt)) << payload;
+    EXPECT_EQ(parser.parse(message(payload)), Parser::Result(std::nullopt)) << payload;
   }
 }
 
