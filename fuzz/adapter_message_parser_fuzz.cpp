@@ -48,7 +48,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   AdapterMessageParser chunked;
   if (feedInChunks(chunked, stream, sizes) != expected || !sameState(whole, chunked)) std::abort();
 
-  AdapterMessageParser direct(0);
+  AdapterMessageParser direct({.directArtworkThreshold = 0});
   if (direct.feed(stream) != expected || !sameState(whole, direct)) std::abort();
   return 0;
 }

@@ -40,32 +40,41 @@ struct SnapshotFields {
   }
 
  private:
+  // Sorted by name length first: the state is walked once per line, so this stays cheap.
   const JSONValue** slotFor(std::string_view name) {
-    struct Entry {
-      std::string_view name;
-      const JSONValue* SnapshotFields::*member;
+    auto is = [&](std::string_view known, const JSONValue*& slot) -> const JSONValue** {
+      return name == known ? &slot : nullptr;
     };
-    static constexpr Entry entries[] = {
-        {"title", &SnapshotFields::title},
-        {"playing", &SnapshotFields::playing},
-        {"durationMicros", &SnapshotFields::durationMicros},
-        {"duration", &SnapshotFields::duration},
-        {"elapsedTimeMicros", &SnapshotFields::elapsedTimeMicros},
-        {"elapsedTime", &SnapshotFields::elapsedTime},
-        {"playbackRate", &SnapshotFields::playbackRate},
-        {"bundleIdentifier", &SnapshotFields::bundleIdentifier},
-        {"parentApplicationBundleIdentifier", &SnapshotFields::parentBundleIdentifier},
-        {"artist", &SnapshotFields::artist},
-        {"album", &SnapshotFields::album},
-        {"timestampEpochMicros", &SnapshotFields::timestampEpochMicros},
-        {"timestamp", &SnapshotFields::timestamp},
-        {"shuffleMode", &SnapshotFields::shuffleMode},
-        {"repeatMode", &SnapshotFields::repeatMode},
-    };
-    for (const Entry& entry : entries) {
-      if (entry.name == name) return &(this->*entry.member);
+    switch (name.size()) {
+      case 5:
+        return name[0] == 't' ? is("title", title) : is("album", album);
+      case 6:
+        return is("artist", artist);
+      case 7:
+        return is("playing", playing);
+      case 8:
+        return is("duration", duration);
+      case 9:
+        return is("timestamp", timestamp);
+      case 10:
+        return is("repeatMode", repeatMode);
+      case 11:
+        return name[0] == 'e' ? is("elapsedTime", elapsedTime) : is("shuffleMode", shuffleMode);
+      case 12:
+        return is("playbackRate", playbackRate);
+      case 14:
+        return is("durationMicros", durationMicros);
+      case 16:
+        return is("bundleIdentifier", bundleIdentifier);
+      case 17:
+        return is("elapsedTimeMicros", elapsedTimeMicros);
+      case 20:
+        return is("timestampEpochMicros", timestampEpochMicros);
+      case 33:
+        return is("parentApplicationBundleIdentifier", parentBundleIdentifier);
+      default:
+        return nullptr;
     }
-    return nullptr;
   }
 };
 
@@ -96,18 +105,6 @@ std::optional<double> timestampOf(const SnapshotFields& fields) {
   if (!text) return std::nullopt;
   auto parsed = parseInternetDateTime(*text);
   return parsed ? std::optional<double>(*parsed) : std::nullopt;
-}
-
-JSONValue* member(JSONValue& object, std::string_view name) {
-  JSONValue::Object* members = object.asObject();
-  if (!members) return nullptr;
-  auto found = members->find(name);
-  return found == members->end() ? nullptr : &found->second;
-}
-
-JSONValue* artworkDataMember(JSONValue& message) {
-  JSONValue* payload = member(message, "payload");
-  return payload ? member(*payload, "artworkData") : nullptr;
 }
 
 // The cover's bytes when `text` is a usable cover: non-empty, under the limit, strict Base64,
@@ -173,12 +170,18 @@ std::vector<AdapterMessageParser::Result> AdapterMessageParser::feed(std::string
 }
 
 AdapterMessageParser::Result AdapterMessageParser::parse(std::string_view line) {
-  if (line.size() >= directArtworkThreshold_) {
+  if (line.size() >= shortcuts_.directArtworkThreshold) {
     if (auto result = parseWithDirectArtwork(line)) return std::move(*result);
   }
-  auto message = JSONReader::parse(line);
-  if (!message) return std::unexpected(ParseError::notJSONObject());
-  return accept(*message, std::nullopt);
+  AdapterEnvelope envelope;
+  if (!readEnvelope(line, envelope)) return std::unexpected(ParseError::notJSONObject());
+  return accept(envelope, std::nullopt);
+}
+
+bool AdapterMessageParser::readEnvelope(std::string_view line, AdapterEnvelope& envelope) const {
+  if (shortcuts_.scanPlainLines && scanPlainAdapterEnvelope(line, envelope)) return true;
+  auto tree = JSONReader::parse(line);
+  return tree && takeAdapterEnvelope(std::move(*tree), envelope);
 }
 
 // The cover's text is cut out of the line before the JSON reader sees it and put back as a
@@ -197,49 +200,44 @@ std::optional<AdapterMessageParser::Result> AdapterMessageParser::parseWithDirec
   std::string rest;
   rest.reserve(line.size() - text.size());
   rest.append(line.substr(0, span->begin)).append(line.substr(span->end));
-  auto message = JSONReader::parse(rest);
-  if (!message) return Result(std::unexpected(ParseError::notJSONObject()));
-
-  JSONValue* placeholder = artworkDataMember(*message);
+  AdapterEnvelope envelope;
+  if (!readEnvelope(rest, envelope)) return Result(std::unexpected(ParseError::notJSONObject()));
+  JSONValue* placeholder = envelope.member("artworkData");
   if (!placeholder || *placeholder != JSONValue("")) {
     return std::nullopt;  // the scan and the reader disagree; trust the reader alone
   }
   *placeholder = JSONValue(text);
   std::optional<Bytes> artworkBytes;
   if (!decoded->empty()) artworkBytes = std::move(*decoded);
-  return accept(*message, std::move(artworkBytes));
+  return accept(envelope, std::move(artworkBytes));
 }
 
-AdapterMessageParser::Result AdapterMessageParser::accept(JSONValue& message,
+AdapterMessageParser::Result AdapterMessageParser::accept(AdapterEnvelope& envelope,
                                                           std::optional<Bytes> decodedArtwork) {
-  if (!message.asObject()) return std::unexpected(ParseError::notJSONObject());
-  const JSONValue* type = message.find("type");
-  const std::string* typeText = type ? type->asString() : nullptr;
-  if (!typeText) return std::unexpected(ParseError::unexpectedType(std::nullopt));
-  if (*typeText != "data") return std::unexpected(ParseError::unexpectedType(*typeText));
-  JSONValue* payload = member(message, "payload");
-  JSONValue::Object* members = payload ? payload->asObject() : nullptr;
-  if (!members) return std::unexpected(ParseError::missingPayload());
+  if (!envelope.typeIsString) return std::unexpected(ParseError::unexpectedType(std::nullopt));
+  if (envelope.type != "data") {
+    return std::unexpected(ParseError::unexpectedType(std::string(envelope.type)));
+  }
+  if (!envelope.payloadIsObject) return std::unexpected(ParseError::missingPayload());
 
   ++messageCount;
-  const JSONValue* diffFlag = message.find("diff");
-  const bool diff = diffFlag && diffFlag->asBool() && *diffFlag->asBool();
-  const bool coverMentioned = members->contains("artworkData");
-  merge(*members, diff);
-  if (!diff || coverMentioned) recomputeArtwork(std::move(decodedArtwork));
+  const bool coverMentioned = envelope.member("artworkData") != nullptr;
+  merge(envelope);
+  if (!envelope.diff || coverMentioned) recomputeArtwork(std::move(decodedArtwork));
   return snapshot();
 }
 
-void AdapterMessageParser::merge(JSONValue::Object& payload, bool diff) {
-  if (!diff) {
-    state = std::move(payload);
-    return;
-  }
-  for (auto& [name, value] : payload) {
-    if (value.isNull()) {
-      state.erase(name);
+void AdapterMessageParser::merge(AdapterEnvelope& envelope) {
+  if (!envelope.diff) state.clear();
+  for (auto& [name, value] : envelope.payload) {
+    auto existing = state.find(name);
+    if (existing == state.end()) {
+      if (envelope.diff && value.isNull()) continue;
+      state.emplace(std::string(name), std::move(value));
+    } else if (envelope.diff && value.isNull()) {
+      state.erase(existing);
     } else {
-      state.insert_or_assign(name, std::move(value));
+      existing->second = std::move(value);
     }
   }
 }

@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "nowplaying/adapter_envelope.h"
 #include "nowplaying/now_playing_snapshot.h"
 #include "settings/json_value.h"
 
@@ -43,10 +44,16 @@ class AdapterMessageParser {
   // A snapshot, none when nothing plays, or why the line was refused.
   using Result = std::expected<std::optional<NowPlayingSnapshot>, ParseError>;
 
-  // Lines at least `directArtworkThreshold` bytes long have their cover decoded straight from
-  // the line; shorter ones go through the JSON tree alone. Both give the same results.
-  explicit AdapterMessageParser(std::size_t directArtworkThreshold = defaultDirectArtworkThreshold)
-      : directArtworkThreshold_(directArtworkThreshold) {}
+  // Ways around the JSON tree that never change a result: lines of at least
+  // `directArtworkThreshold` bytes have their cover decoded straight from the line, and plain
+  // lines are read without a tree when `scanPlainLines` is set.
+  struct Shortcuts {
+    std::size_t directArtworkThreshold = defaultDirectArtworkThreshold;
+    bool scanPlainLines = true;
+  };
+
+  AdapterMessageParser() = default;
+  explicit AdapterMessageParser(Shortcuts shortcuts) : shortcuts_(shortcuts) {}
 
   // Frames `bytes` into lines (ending at "\n") and parses each complete one, in order.
   std::vector<Result> feed(std::string_view bytes);
@@ -63,13 +70,14 @@ class AdapterMessageParser {
  private:
   using Bytes = std::vector<std::uint8_t>;
 
+  bool readEnvelope(std::string_view line, AdapterEnvelope& envelope) const;
   std::optional<Result> parseWithDirectArtwork(std::string_view line);
-  Result accept(JSONValue& message, std::optional<Bytes> decodedArtwork);
-  void merge(JSONValue::Object& payload, bool diff);
+  Result accept(AdapterEnvelope& envelope, std::optional<Bytes> decodedArtwork);
+  void merge(AdapterEnvelope& envelope);
   void recomputeArtwork(std::optional<Bytes> decodedArtwork);
   std::optional<NowPlayingSnapshot> snapshot() const;
 
-  std::size_t directArtworkThreshold_;
+  Shortcuts shortcuts_;
 };
 
 }  // namespace tindra

@@ -167,7 +167,7 @@ TEST(AdapterMessageParserTest, CoverTextMustBeShorterThanTheLimit) {
   const std::size_t limit = Parser::artworkTextLimit;
   ASSERT_EQ(limit % 4, 0u);
   for (std::size_t threshold : {std::size_t{0}, std::numeric_limits<std::size_t>::max()}) {
-    Parser parser(threshold);
+    Parser parser({threshold, threshold == 0});
     const std::string longest = cover((limit - 4) / 4 * 3);
     auto payload = R"({"title":"A","playing":true,"artworkData":")" + longest + "\"}";
     NowPlayingSnapshot s = snapshotOf(parser.parse(message(payload)));
@@ -180,7 +180,7 @@ TEST(AdapterMessageParserTest, CoverTextMustBeShorterThanTheLimit) {
   }
 }
 
-TEST(AdapterMessageParserTest, DirectCoverDecodingAgreesWithTheJSONTree) {
+TEST(AdapterMessageParserTest, ShortcutsAgreeWithTheJSONTree) {
   const std::string image = cover(100);
   const std::vector<std::string> lines = {
       message(R"({"title":"A","playing":true,"artworkData":")" + image + "\"}"),
@@ -195,12 +195,26 @@ TEST(AdapterMessageParserTest, DirectCoverDecodingAgreesWithTheJSONTree) {
       R"({"type":"data","s":"\"payload\":{\"artworkData\":\"TQ==\"}","payload":{}})",
       R"({"type":"data","payload":{"artworkData":")" + image + R"("}} trailing)",
       R"({"type":"data","payload":{"artworkData":")" + image,
+      message(R"({"title":"Bj\u00f6rk","playing":true,"duration":1e400})"),
+      message(R"({"title":"Björk","playing":true,"duration":1e-400,"elapsedTime":-0})"),
+      message(R"({"title":"A","playing":true,"title":"B","n":[1],"o":{}})"),
+      message(R"({"title":"A","playing":true,"duration":01})"),
+      message(R"({"title":"A","playing":true,"duration":1.5E+2,"elapsedTime":2.})"),
+      message(R"({"title":"A\tB","playing":true})"),
+      R"( { "type" : "data" , "payload" : { "title" : "A" , "playing" : true } } )",
+      R"({"type":"data","payload":{"title":"A","playing":true}}x)",
+      R"({"type":"data","payload":{"title":"A","playing":true},"type":"data"})",
+      R"({"type":"data","payload":5})",
+      R"({"type":"data","payload":{"title":"A","playing":tru}})",
+      R"({"type":"data","diff":true,"payload":{"title":null,"x":null}})",
+      "{\"type\":\"data\",\"payload\":{\"title\":\"A\x01\",\"playing\":true}}",
   };
   for (const std::string& line : lines) {
-    Parser direct(0);
-    Parser tree(std::numeric_limits<std::size_t>::max());
-    direct.parse(R"({"type":"data","payload":{"title":"Z","playing":true}})");
-    tree.parse(R"({"type":"data","payload":{"title":"Z","playing":true}})");
+    Parser direct({.directArtworkThreshold = 0});
+    Parser tree({std::numeric_limits<std::size_t>::max(), false});
+    for (Parser* parser : {&direct, &tree}) {
+      parser->parse(R"({"type":"data","payload":{"title":"Z","playing":true,"x":1}})");
+    }
     EXPECT_EQ(direct.parse(line), tree.parse(line)) << line;
     EXPECT_EQ(direct.state, tree.state) << line;
     EXPECT_EQ(direct.artwork, tree.artwork) << line;

@@ -1,0 +1,231 @@
+#include "nowplaying/adapter_envelope.h"
+
+#include <algorithm>
+#include <charconv>
+#include <cstring>
+
+namespace tindra {
+namespace {
+
+// More members than this are rare enough to leave to the reader, and keep the duplicate check
+// from growing quadratically on hostile lines.
+constexpr std::size_t maxPlainMembers = 64;
+
+bool isDigit(char c) {
+  return c >= '0' && c <= '9';
+}
+
+class PlainScanner {
+ public:
+  PlainScanner(std::string_view text, AdapterEnvelope& envelope)
+      : p_(text.data()), end_(text.data() + text.size()), envelope_(envelope) {}
+
+  bool run() {
+    skipWhiteSpace();
+    if (!consume('{')) return false;
+    skipWhiteSpace();
+    if (consume('}')) return finish();
+    std::size_t count = 0;
+    std::string_view names[maxPlainMembers];
+    for (;;) {
+      std::string_view name;
+      if (count == maxPlainMembers || !string(name)) return false;
+      if (std::find(names, names + count, name) != names + count) return false;
+      names[count++] = name;
+      if (!colon() || !topMember(name)) return false;
+      skipWhiteSpace();
+      if (consume('}')) return finish();
+      if (!consume(',')) return false;
+      skipWhiteSpace();
+    }
+  }
+
+ private:
+  bool finish() {
+    skipWhiteSpace();
+    return p_ == end_;
+  }
+
+  bool topMember(std::string_view name) {
+    if (name == "payload" && p_ != end_ && *p_ == '{') return payload();
+    std::string_view text;
+    JSONValue value;
+    const bool isString = p_ != end_ && *p_ == '"';
+    if (!(isString ? string(text) : literalOrNumber(value))) return false;
+    if (name == "type") {
+      envelope_.typeIsString = isString;
+      envelope_.type = text;
+    } else if (name == "diff") {
+      envelope_.diff = !isString && value.asBool() && *value.asBool();
+    } else if (name == "payload") {
+      envelope_.payloadIsObject = false;
+      envelope_.payload.clear();
+    }
+    return true;
+  }
+
+  bool payload() {
+    ++p_;
+    envelope_.payloadIsObject = true;
+    auto& members = envelope_.payload;
+    members.clear();
+    skipWhiteSpace();
+    if (consume('}')) return true;
+    for (;;) {
+      std::string_view name;
+      if (members.size() == maxPlainMembers || !string(name)) return false;
+      for (const auto& member : members) {
+        if (member.first == name) return false;
+      }
+      if (!colon()) return false;
+      JSONValue value;
+      if (p_ != end_ && *p_ == '"') {
+        std::string_view text;
+        if (!string(text)) return false;
+        value = JSONValue(text);
+      } else if (!literalOrNumber(value)) {
+        return false;
+      }
+      members.emplace_back(name, std::move(value));
+      skipWhiteSpace();
+      if (consume('}')) return true;
+      if (!consume(',')) return false;
+      skipWhiteSpace();
+    }
+  }
+
+  bool colon() {
+    skipWhiteSpace();
+    if (!consume(':')) return false;
+    skipWhiteSpace();
+    return true;
+  }
+
+  // A string of printable ASCII other than the backslash: its text is its value.
+  bool string(std::string_view& text) {
+    if (!consume('"')) return false;
+    const char* start = p_;
+    while (p_ != end_) {
+      const auto byte = static_cast<unsigned char>(*p_);
+      if (byte == '"') {
+        text = std::string_view(start, static_cast<std::size_t>(p_ - start));
+        ++p_;
+        return true;
+      }
+      if (byte < 0x20 || byte > 0x7E || byte == '\\') return false;
+      ++p_;
+    }
+    return false;
+  }
+
+  bool literalOrNumber(JSONValue& value) {
+    if (literal("true")) {
+      value = JSONValue(true);
+    } else if (literal("false")) {
+      value = JSONValue(false);
+    } else if (literal("null")) {
+      value = JSONValue();
+    } else {
+      return number(value);
+    }
+    return true;
+  }
+
+  bool literal(std::string_view word) {
+    if (static_cast<std::size_t>(end_ - p_) < word.size()) return false;
+    if (std::memcmp(p_, word.data(), word.size()) != 0) return false;
+    p_ += word.size();
+    return true;
+  }
+
+  // JSON's number grammar; a value out of a double's range is left to the reader.
+  bool number(JSONValue& value) {
+    const char* start = p_;
+    const char* p = p_;
+    if (p != end_ && *p == '-') ++p;
+    if (p == end_ || !isDigit(*p)) return false;
+    if (*p == '0') {
+      ++p;
+    } else {
+      while (p != end_ && isDigit(*p)) ++p;
+    }
+    if (p != end_ && *p == '.') {
+      ++p;
+      if (p == end_ || !isDigit(*p)) return false;
+      while (p != end_ && isDigit(*p)) ++p;
+    }
+    if (p != end_ && (*p == 'e' || *p == 'E')) {
+      ++p;
+      if (p != end_ && (*p == '+' || *p == '-')) ++p;
+      if (p == end_ || !isDigit(*p)) return false;
+      while (p != end_ && isDigit(*p)) ++p;
+    }
+    double number = 0;
+    const auto result = std::from_chars(start, p, number);
+    if (result.ec != std::errc() || result.ptr != p) return false;
+    value = JSONValue(number);
+    p_ = p;
+    return true;
+  }
+
+  bool consume(char c) {
+    if (p_ == end_ || *p_ != c) return false;
+    ++p_;
+    return true;
+  }
+
+  void skipWhiteSpace() {
+    while (p_ != end_ && (*p_ == ' ' || *p_ == '\t' || *p_ == '\r' || *p_ == '\n')) ++p_;
+  }
+
+  const char* p_;
+  const char* end_;
+  AdapterEnvelope& envelope_;
+};
+
+void reset(AdapterEnvelope& envelope) {
+  envelope.typeIsString = false;
+  envelope.type = {};
+  envelope.diff = false;
+  envelope.payloadIsObject = false;
+  envelope.payload.clear();
+  envelope.tree = JSONValue();
+}
+
+}  // namespace
+
+JSONValue* AdapterEnvelope::member(std::string_view name) {
+  for (auto& [memberName, value] : payload) {
+    if (memberName == name) return &value;
+  }
+  return nullptr;
+}
+
+bool scanPlainAdapterEnvelope(std::string_view line, AdapterEnvelope& envelope) {
+  reset(envelope);
+  return PlainScanner(line, envelope).run();
+}
+
+bool takeAdapterEnvelope(JSONValue tree, AdapterEnvelope& envelope) {
+  reset(envelope);
+  envelope.tree = std::move(tree);
+  JSONValue::Object* root = envelope.tree.asObject();
+  if (!root) return false;
+  if (auto type = root->find("type"); type != root->end() && type->second.asString()) {
+    envelope.typeIsString = true;
+    envelope.type = *type->second.asString();
+  }
+  if (auto diff = root->find("diff"); diff != root->end() && diff->second.asBool()) {
+    envelope.diff = *diff->second.asBool();
+  }
+  auto payload = root->find("payload");
+  JSONValue::Object* members = payload == root->end() ? nullptr : payload->second.asObject();
+  envelope.payloadIsObject = members != nullptr;
+  if (members) {
+    envelope.payload.reserve(members->size());
+    for (auto& [name, value] : *members) envelope.payload.emplace_back(name, std::move(value));
+  }
+  return true;
+}
+
+}  // namespace tindra
