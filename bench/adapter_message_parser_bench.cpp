@@ -119,7 +119,7 @@ void BM_CoverLine_FeedInPipeReads(benchmark::State& state) {
     for (std::size_t at = 0; at < line.size(); at += readSize) {
       results += parser.feed(std::string_view(line).substr(at, readSize)).size();
     }
-    if (results != 1 || !parser.artwork) state.SkipWithError("the cover was not decoded");
+    if (results != 1 || !parser.artwork()) state.SkipWithError("the cover was not decoded");
   }
   state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * line.size()));
 }

@@ -14,8 +14,9 @@ using tindra::AdapterMessageParser;
 namespace {
 
 bool sameState(const AdapterMessageParser& a, const AdapterMessageParser& b) {
-  return a.state == b.state && a.messageCount == b.messageCount && a.artwork == b.artwork &&
-         a.buffer == b.buffer && a.discardingOversizedLine == b.discardingOversizedLine;
+  return a.state() == b.state() && a.messageCount() == b.messageCount() &&
+         a.artwork() == b.artwork() && a.buffer() == b.buffer() &&
+         a.discardingOversizedLine() == b.discardingOversizedLine();
 }
 
 std::vector<AdapterMessageParser::Result> feedInChunks(AdapterMessageParser& parser,

@@ -1,19 +1,27 @@
 #include "nowplaying/adapter_envelope.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
+#include <cstdint>
 #include <cstring>
 
 namespace tindra {
 namespace {
 
-// More members than this are rare enough to leave to the reader, and keep the duplicate check
-// from growing quadratically on hostile lines.
+// More payload members than this are rare enough to leave to the reader, and keep the duplicate
+// check from growing quadratically on hostile lines.
 constexpr std::size_t maxPlainMembers = 64;
 
 bool isDigit(char c) {
   return c >= '0' && c <= '9';
 }
+
+constexpr auto plainStringByte = [] {
+  std::array<bool, 256> plain{};
+  for (int c = 0x20; c <= 0x7E; ++c) plain[c] = c != '"' && c != '\\';
+  return plain;
+}();
 
 class PlainScanner {
  public:
@@ -25,14 +33,9 @@ class PlainScanner {
     if (!consume('{')) return false;
     skipWhiteSpace();
     if (consume('}')) return finish();
-    std::size_t count = 0;
-    std::string_view names[maxPlainMembers];
     for (;;) {
       std::string_view name;
-      if (count == maxPlainMembers || !string(name)) return false;
-      if (std::find(names, names + count, name) != names + count) return false;
-      names[count++] = name;
-      if (!colon() || !topMember(name)) return false;
+      if (!string(name) || !colon() || !topMember(name)) return false;
       skipWhiteSpace();
       if (consume('}')) return finish();
       if (!consume(',')) return false;
@@ -46,7 +49,17 @@ class PlainScanner {
     return p_ == end_;
   }
 
+  // Which of the names that matter were seen: a repeat of one of them is left to the reader,
+  // whose last-one-wins rule the scan does not copy. Other names only need to be well formed.
+  bool firstTime(std::string_view name) {
+    const unsigned bit = name == "type" ? 1 : name == "diff" ? 2 : name == "payload" ? 4 : 0;
+    if (seen_ & bit) return false;
+    seen_ |= bit;
+    return true;
+  }
+
   bool topMember(std::string_view name) {
+    if (!firstTime(name)) return false;
     if (name == "payload" && p_ != end_ && *p_ == '{') return payload();
     std::string_view text;
     JSONValue value;
@@ -105,17 +118,11 @@ class PlainScanner {
   bool string(std::string_view& text) {
     if (!consume('"')) return false;
     const char* start = p_;
-    while (p_ != end_) {
-      const auto byte = static_cast<unsigned char>(*p_);
-      if (byte == '"') {
-        text = std::string_view(start, static_cast<std::size_t>(p_ - start));
-        ++p_;
-        return true;
-      }
-      if (byte < 0x20 || byte > 0x7E || byte == '\\') return false;
-      ++p_;
-    }
-    return false;
+    while (p_ != end_ && plainStringByte[static_cast<unsigned char>(*p_)]) ++p_;
+    if (p_ == end_ || *p_ != '"') return false;
+    text = std::string_view(start, static_cast<std::size_t>(p_ - start));
+    ++p_;
+    return true;
   }
 
   bool literalOrNumber(JSONValue& value) {
@@ -160,6 +167,18 @@ class PlainScanner {
       if (p == end_ || !isDigit(*p)) return false;
       while (p != end_ && isDigit(*p)) ++p;
     }
+    // Up to 18 digits with no fraction or exponent fit an int64_t, whose conversion rounds
+    // exactly as from_chars does.
+    if (const auto length = p - start;
+        length <= 18 && std::all_of(start + (*start == '-'), p, isDigit)) {
+      std::int64_t integer = 0;
+      for (const char* d = start + (*start == '-'); d != p; ++d)
+        integer = integer * 10 + (*d - '0');
+      const auto magnitude = static_cast<double>(integer);
+      value = JSONValue(*start == '-' ? -magnitude : magnitude);  // "-0" stays negative zero
+      p_ = p;
+      return true;
+    }
     double number = 0;
     const auto result = std::from_chars(start, p, number);
     if (result.ec != std::errc() || result.ptr != p) return false;
@@ -181,6 +200,7 @@ class PlainScanner {
   const char* p_;
   const char* end_;
   AdapterEnvelope& envelope_;
+  unsigned seen_ = 0;
 };
 
 void reset(AdapterEnvelope& envelope) {

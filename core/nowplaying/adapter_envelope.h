@@ -27,9 +27,10 @@ struct AdapterEnvelope {
   JSONValue* member(std::string_view name);
 };
 
-// Fills `envelope` from `line` when the line is an object of at most 64 members, each a string,
-// number, true, false or null, except "payload", which may be such an object; with no escapes,
-// no bytes above 0x7F and no repeated names. False means: ask JSONReader.
+// Fills `envelope` from `line` when the line is an object whose members are strings, numbers,
+// true, false or null, except "payload", which may be an object of at most 64 such members;
+// with no escapes, no bytes above 0x7F, and no repeated "type", "diff", "payload" or payload
+// member. False means: ask JSONReader.
 bool scanPlainAdapterEnvelope(std::string_view line, AdapterEnvelope& envelope);
 
 // Fills `envelope` from a value JSONReader read; false when it is not an object.

@@ -3,6 +3,7 @@
 #include <cmath>
 #include <cstring>
 
+#include "nowplaying/adapter_state_fields.h"
 #include "nowplaying/artwork_data_locator.h"
 #include "nowplaying/base64.h"
 #include "nowplaying/internet_date_time.h"
@@ -14,69 +15,6 @@ namespace {
 constexpr double maxSeconds = 604'800;  // seven days
 constexpr double microsPerSecond = 1'000'000;
 constexpr std::size_t keptBufferCapacity = 1 << 20;
-
-// The state members a snapshot is built from, found in one pass over the state.
-struct SnapshotFields {
-  const JSONValue* title = nullptr;
-  const JSONValue* playing = nullptr;
-  const JSONValue* durationMicros = nullptr;
-  const JSONValue* duration = nullptr;
-  const JSONValue* elapsedTimeMicros = nullptr;
-  const JSONValue* elapsedTime = nullptr;
-  const JSONValue* playbackRate = nullptr;
-  const JSONValue* bundleIdentifier = nullptr;
-  const JSONValue* parentBundleIdentifier = nullptr;
-  const JSONValue* artist = nullptr;
-  const JSONValue* album = nullptr;
-  const JSONValue* timestampEpochMicros = nullptr;
-  const JSONValue* timestamp = nullptr;
-  const JSONValue* shuffleMode = nullptr;
-  const JSONValue* repeatMode = nullptr;
-
-  explicit SnapshotFields(const JSONValue::Object& state) {
-    for (const auto& [name, value] : state) {
-      if (const JSONValue** slot = slotFor(name)) *slot = &value;
-    }
-  }
-
- private:
-  // Sorted by name length first: the state is walked once per line, so this stays cheap.
-  const JSONValue** slotFor(std::string_view name) {
-    auto is = [&](std::string_view known, const JSONValue*& slot) -> const JSONValue** {
-      return name == known ? &slot : nullptr;
-    };
-    switch (name.size()) {
-      case 5:
-        return name[0] == 't' ? is("title", title) : is("album", album);
-      case 6:
-        return is("artist", artist);
-      case 7:
-        return is("playing", playing);
-      case 8:
-        return is("duration", duration);
-      case 9:
-        return is("timestamp", timestamp);
-      case 10:
-        return is("repeatMode", repeatMode);
-      case 11:
-        return name[0] == 'e' ? is("elapsedTime", elapsedTime) : is("shuffleMode", shuffleMode);
-      case 12:
-        return is("playbackRate", playbackRate);
-      case 14:
-        return is("durationMicros", durationMicros);
-      case 16:
-        return is("bundleIdentifier", bundleIdentifier);
-      case 17:
-        return is("elapsedTimeMicros", elapsedTimeMicros);
-      case 20:
-        return is("timestampEpochMicros", timestampEpochMicros);
-      case 33:
-        return is("parentApplicationBundleIdentifier", parentBundleIdentifier);
-      default:
-        return nullptr;
-    }
-  }
-};
 
 std::optional<double> finiteNumber(const JSONValue* value) {
   const double* number = value ? value->asNumber() : nullptr;
@@ -97,7 +35,7 @@ std::optional<double> seconds(const JSONValue* micros, const JSONValue* plain) {
   return finiteNumber(plain);
 }
 
-std::optional<double> timestampOf(const SnapshotFields& fields) {
+std::optional<double> timestampOf(const AdapterStateFields& fields) {
   if (auto micros = finiteNumber(fields.timestampEpochMicros); micros && *micros > 0) {
     return *micros / microsPerSecond;
   }
@@ -142,28 +80,28 @@ std::vector<AdapterMessageParser::Result> AdapterMessageParser::feed(std::string
     const std::string_view piece = bytes.substr(0, pieceLength);
     bytes.remove_prefix(newline ? pieceLength + 1 : pieceLength);
 
-    if (discardingOversizedLine) {
-      discardingOversizedLine = newline == nullptr;
+    if (discardingOversizedLine_) {
+      discardingOversizedLine_ = newline == nullptr;
       continue;
     }
-    if (buffer.size() + piece.size() > maxLineLength) {
+    if (buffer_.size() + piece.size() > maxLineLength) {
       // Reported once, when the line first grows past the limit; its rest is skipped silently.
       results.push_back(std::unexpected(ParseError::lineTooLong()));
-      std::string().swap(buffer);
-      discardingOversizedLine = newline == nullptr;
+      std::string().swap(buffer_);
+      discardingOversizedLine_ = newline == nullptr;
       continue;
     }
     if (!newline) {
-      buffer.append(piece);
+      buffer_.append(piece);
       continue;
     }
-    if (buffer.empty()) {
+    if (buffer_.empty()) {
       results.push_back(parse(piece));
     } else {
-      buffer.append(piece);
-      results.push_back(parse(buffer));
-      buffer.clear();
-      if (buffer.capacity() > keptBufferCapacity) std::string().swap(buffer);
+      buffer_.append(piece);
+      results.push_back(parse(buffer_));
+      buffer_.clear();
+      if (buffer_.capacity() > keptBufferCapacity) std::string().swap(buffer_);
     }
   }
   return results;
@@ -173,7 +111,7 @@ AdapterMessageParser::Result AdapterMessageParser::parse(std::string_view line) 
   if (line.size() >= shortcuts_.directArtworkThreshold) {
     if (auto result = parseWithDirectArtwork(line)) return std::move(*result);
   }
-  AdapterEnvelope envelope;
+  AdapterEnvelope& envelope = scratch_.envelope;
   if (!readEnvelope(line, envelope)) return std::unexpected(ParseError::notJSONObject());
   return accept(envelope, std::nullopt);
 }
@@ -200,7 +138,7 @@ std::optional<AdapterMessageParser::Result> AdapterMessageParser::parseWithDirec
   std::string rest;
   rest.reserve(line.size() - text.size());
   rest.append(line.substr(0, span->begin)).append(line.substr(span->end));
-  AdapterEnvelope envelope;
+  AdapterEnvelope& envelope = scratch_.envelope;
   if (!readEnvelope(rest, envelope)) return Result(std::unexpected(ParseError::notJSONObject()));
   JSONValue* placeholder = envelope.member("artworkData");
   if (!placeholder || *placeholder != JSONValue("")) {
@@ -220,7 +158,7 @@ AdapterMessageParser::Result AdapterMessageParser::accept(AdapterEnvelope& envel
   }
   if (!envelope.payloadIsObject) return std::unexpected(ParseError::missingPayload());
 
-  ++messageCount;
+  ++messageCount_;
   const bool coverMentioned = envelope.member("artworkData") != nullptr;
   merge(envelope);
   if (!envelope.diff || coverMentioned) recomputeArtwork(std::move(decodedArtwork));
@@ -228,33 +166,39 @@ AdapterMessageParser::Result AdapterMessageParser::accept(AdapterEnvelope& envel
 }
 
 void AdapterMessageParser::merge(AdapterEnvelope& envelope) {
-  if (!envelope.diff) state.clear();
+  // A diff on top of known fields updates them as it goes; anything else walks the state once.
+  const bool follow = envelope.diff && scratch_.fieldsKnown;
+  if (!envelope.diff) state_.clear();
   for (auto& [name, value] : envelope.payload) {
-    auto existing = state.find(name);
-    if (existing == state.end()) {
+    auto existing = state_.find(name);
+    if (existing == state_.end()) {
       if (envelope.diff && value.isNull()) continue;
-      state.emplace(std::string(name), std::move(value));
+      existing = state_.emplace(std::string(name), std::move(value)).first;
+      if (follow) scratch_.fields.update(name, &existing->second);
     } else if (envelope.diff && value.isNull()) {
-      state.erase(existing);
+      if (follow) scratch_.fields.update(name, nullptr);
+      state_.erase(existing);
     } else {
       existing->second = std::move(value);
     }
   }
+  if (!follow) scratch_.fields.rebuild(state_);
+  scratch_.fieldsKnown = true;
 }
 
 // `decodedArtwork` is the already decoded value of the message's "artworkData", when the
 // direct path decoded it; the state then holds the same text.
 void AdapterMessageParser::recomputeArtwork(std::optional<Bytes> decodedArtwork) {
-  auto text = state.find("artworkData");
-  const std::string* cover = text == state.end() ? nullptr : text->second.asString();
+  auto text = state_.find("artworkData");
+  const std::string* cover = text == state_.end() ? nullptr : text->second.asString();
   std::optional<Bytes> bytes;
   if (cover) bytes = decodedArtwork ? std::move(decodedArtwork) : decodeArtwork(*cover);
-  artwork = bytes ? std::optional(NowPlayingSnapshot::Artwork::embedded(std::move(*bytes)))
-                  : std::nullopt;
+  artwork_ = bytes ? std::optional(NowPlayingSnapshot::Artwork::embedded(std::move(*bytes)))
+                   : std::nullopt;
 }
 
 std::optional<NowPlayingSnapshot> AdapterMessageParser::snapshot() const {
-  const SnapshotFields fields(state);
+  const AdapterStateFields& fields = scratch_.fields;
   std::optional<std::string> title = nonEmptyString(fields.title);
   const bool* playing = fields.playing ? fields.playing->asBool() : nullptr;
   if (!title || !playing) return std::nullopt;
@@ -284,7 +228,7 @@ std::optional<NowPlayingSnapshot> AdapterMessageParser::snapshot() const {
   if (auto code = finiteNumber(fields.repeatMode)) {
     snapshot.repeatMode = repeatModeFromAdapterCode(*code);
   }
-  snapshot.artwork = artwork;
+  snapshot.artwork = artwork_;
   snapshot.capabilities = NowPlayingCapabilities::all();
   return snapshot;
 }

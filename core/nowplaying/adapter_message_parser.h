@@ -13,6 +13,7 @@
 #include <vector>
 
 #include "nowplaying/adapter_envelope.h"
+#include "nowplaying/adapter_state_fields.h"
 #include "nowplaying/now_playing_snapshot.h"
 #include "settings/json_value.h"
 
@@ -61,11 +62,16 @@ class AdapterMessageParser {
   // Parses one line without its newline.
   Result parse(std::string_view line);
 
-  JSONValue::Object state;  // the merged payload of all data messages so far
-  std::int64_t messageCount = 0;
-  std::optional<NowPlayingSnapshot::Artwork> artwork;  // the last decoded cover
-  std::string buffer;                                  // bytes after the last newline
-  bool discardingOversizedLine = false;
+  // The merged payload of all data messages so far.
+  const JSONValue::Object& state() const { return state_; }
+  // The number of accepted data messages.
+  std::int64_t messageCount() const { return messageCount_; }
+  // The last decoded cover.
+  const std::optional<NowPlayingSnapshot::Artwork>& artwork() const { return artwork_; }
+  // Bytes after the last newline: the line still arriving.
+  const std::string& buffer() const { return buffer_; }
+  // True while the rest of an over-long line is being skipped.
+  bool discardingOversizedLine() const { return discardingOversizedLine_; }
 
  private:
   using Bytes = std::vector<std::uint8_t>;
@@ -77,7 +83,24 @@ class AdapterMessageParser {
   void recomputeArtwork(std::optional<Bytes> decodedArtwork);
   std::optional<NowPlayingSnapshot> snapshot() const;
 
+  // Reused from line to line so reading one allocates nothing; never part of the parser's
+  // value, so copies start with an empty one (the fields are found again on first use).
+  struct Scratch {
+    AdapterEnvelope envelope;
+    AdapterStateFields fields;  // points into `state_`
+    bool fieldsKnown = false;
+    Scratch() = default;
+    Scratch(const Scratch&) {}
+    Scratch& operator=(const Scratch&) { return *this; }
+  };
+
+  JSONValue::Object state_;
+  std::int64_t messageCount_ = 0;
+  std::optional<NowPlayingSnapshot::Artwork> artwork_;
+  std::string buffer_;
+  bool discardingOversizedLine_ = false;
   Shortcuts shortcuts_;
+  Scratch scratch_;
 };
 
 }  // namespace tindra

@@ -44,11 +44,11 @@ TEST(AdapterMessageParserTest, LinesAreParsedWhenTheirNewlineArrives) {
   Parser parser;
   const std::string line = playingLine + "\n";
   EXPECT_TRUE(parser.feed(line.substr(0, 10)).empty());
-  EXPECT_EQ(parser.buffer, line.substr(0, 10));
+  EXPECT_EQ(parser.buffer(), line.substr(0, 10));
   auto results = parser.feed(line.substr(10));
   ASSERT_EQ(results.size(), 1u);
   EXPECT_EQ(snapshotOf(results[0]).title, "A");
-  EXPECT_TRUE(parser.buffer.empty());
+  EXPECT_TRUE(parser.buffer().empty());
 
   results = parser.feed(R"({"type":"status"})"
                         "\n\n" +
@@ -58,8 +58,8 @@ TEST(AdapterMessageParserTest, LinesAreParsedWhenTheirNewlineArrives) {
   EXPECT_EQ(errorOf(results[1]), ParseError::notJSONObject()) << "an empty line is a line";
   EXPECT_EQ(snapshotOf(results[2]).title, "A");
   EXPECT_EQ(errorOf(results[3]), ParseError::notJSONObject());
-  EXPECT_EQ(parser.buffer, "{\"type\"");
-  EXPECT_EQ(parser.messageCount, 2);
+  EXPECT_EQ(parser.buffer(), "{\"type\"");
+  EXPECT_EQ(parser.messageCount(), 2);
 }
 
 TEST(AdapterMessageParserTest, LineLimitIsExactAndAnOverlongLineIsReportedOnce) {
@@ -76,20 +76,20 @@ TEST(AdapterMessageParserTest, LineLimitIsExactAndAnOverlongLineIsReportedOnce) 
   results = parser.feed(" ");
   ASSERT_EQ(results.size(), 1u);
   EXPECT_EQ(errorOf(results[0]), ParseError::lineTooLong());
-  EXPECT_TRUE(parser.discardingOversizedLine);
-  EXPECT_EQ(parser.buffer.capacity(), std::string().capacity()) << "memory is given back";
+  EXPECT_TRUE(parser.discardingOversizedLine());
+  EXPECT_EQ(parser.buffer().capacity(), std::string().capacity()) << "memory is given back";
   EXPECT_TRUE(parser.feed(std::string(1000, 'x')).empty());
   results = parser.feed("tail\n" + playingLine + "\n");
   ASSERT_EQ(results.size(), 1u);
   EXPECT_EQ(snapshotOf(results[0]).title, "A");
-  EXPECT_FALSE(parser.discardingOversizedLine);
+  EXPECT_FALSE(parser.discardingOversizedLine());
 
   // One past with its newline in the same read: one error, and the next line still parses.
   results = parser.feed(exact + " \n" + playingLine + "\n");
   ASSERT_EQ(results.size(), 2u);
   EXPECT_EQ(errorOf(results[0]), ParseError::lineTooLong());
   EXPECT_TRUE(results[1].has_value());
-  EXPECT_FALSE(parser.discardingOversizedLine);
+  EXPECT_FALSE(parser.discardingOversizedLine());
 }
 
 TEST(AdapterMessageParserTest, DiffsMergeAndRemoveWhileFullMessagesReplace) {
@@ -102,24 +102,24 @@ TEST(AdapterMessageParserTest, DiffsMergeAndRemoveWhileFullMessagesReplace) {
   s = snapshotOf(parser.parse(message(R"({"artist":null,"album":"C"})", true)));
   EXPECT_FALSE(s.artist);
   EXPECT_EQ(s.album, "C");
-  EXPECT_FALSE(parser.state.contains("artist"));
+  EXPECT_FALSE(parser.state().contains("artist"));
 
   // Only the boolean true merges; a full message forgets what it does not carry.
   s = snapshotOf(
       parser.parse(R"({"type":"data","diff":"true","payload":{"title":"D","playing":false}})"));
   EXPECT_FALSE(s.album);
-  EXPECT_EQ(parser.state.size(), 2u);
+  EXPECT_EQ(parser.state().size(), 2u);
 
   // A diff that removes the title reports nothing playing; one that restores it recovers.
   EXPECT_EQ(parser.parse(message(R"({"title":null})", true)), Parser::Result(std::nullopt));
   EXPECT_EQ(snapshotOf(parser.parse(message(R"({"title":"E"})", true))).title, "E");
-  EXPECT_EQ(parser.messageCount, 6);
+  EXPECT_EQ(parser.messageCount(), 6);
 }
 
 TEST(AdapterMessageParserTest, RefusedMessagesLeaveTheStateAlone) {
   Parser parser;
   parser.parse(playingLine);
-  const JSONValue::Object before = parser.state;
+  const JSONValue::Object before = parser.state();
   EXPECT_EQ(errorOf(parser.parse("[]")), ParseError::notJSONObject());
   EXPECT_EQ(errorOf(parser.parse("{\"type\":\"data\",")), ParseError::notJSONObject());
   EXPECT_EQ(errorOf(parser.parse("nonsense")), ParseError::notJSONObject());
@@ -132,8 +132,8 @@ TEST(AdapterMessageParserTest, RefusedMessagesLeaveTheStateAlone) {
   EXPECT_EQ(errorOf(parser.parse(R"({"type":"data","payload":[]})")), ParseError::missingPayload());
   EXPECT_EQ(errorOf(parser.parse(R"({"type":"data","payload":null,"diff":true})")),
             ParseError::missingPayload());
-  EXPECT_EQ(parser.state, before);
-  EXPECT_EQ(parser.messageCount, 1);
+  EXPECT_EQ(parser.state(), before);
+  EXPECT_EQ(parser.messageCount(), 1);
   EXPECT_EQ(ParseError::unexpectedType("x").description(), "unexpected type \"x\"");
 }
 
@@ -176,7 +176,7 @@ TEST(AdapterMessageParserTest, CoverTextMustBeShorterThanTheLimit) {
 
     payload = R"({"title":"A","playing":true,"artworkData":")" + cover(limit / 4 * 3) + "\"}";
     EXPECT_FALSE(snapshotOf(parser.parse(message(payload))).artwork) << threshold;
-    EXPECT_EQ(parser.state.at("artworkData").asString()->size(), limit);
+    EXPECT_EQ(parser.state().at("artworkData").asString()->size(), limit);
   }
 }
 
@@ -216,8 +216,8 @@ TEST(AdapterMessageParserTest, ShortcutsAgreeWithTheJSONTree) {
       parser->parse(R"({"type":"data","payload":{"title":"Z","playing":true,"x":1}})");
     }
     EXPECT_EQ(direct.parse(line), tree.parse(line)) << line;
-    EXPECT_EQ(direct.state, tree.state) << line;
-    EXPECT_EQ(direct.artwork, tree.artwork) << line;
+    EXPECT_EQ(direct.state(), tree.state()) << line;
+    EXPECT_EQ(direct.artwork(), tree.artwork()) << line;
   }
 }
 
