@@ -1,6 +1,5 @@
 #include "nowplaying/adapter_envelope.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cstdint>
@@ -51,26 +50,33 @@ class PlainScanner {
 
   // Which of the names that matter were seen: a repeat of one of them is left to the reader,
   // whose last-one-wins rule the scan does not copy. Other names only need to be well formed.
-  bool firstTime(std::string_view name) {
-    const unsigned bit = name == "type" ? 1 : name == "diff" ? 2 : name == "payload" ? 4 : 0;
-    if (seen_ & bit) return false;
-    seen_ |= bit;
-    return true;
+  enum class TopName : unsigned { other = 0, type = 1, diff = 2, payload = 4 };
+
+  static TopName classify(std::string_view name) {
+    if (name == "type") return TopName::type;
+    if (name == "diff") return TopName::diff;
+    if (name == "payload") return TopName::payload;
+    return TopName::other;
   }
 
+  // A repeat of a name that matters is left to the reader, whose last-one-wins rule the scan
+  // does not copy; other names only need to be well formed.
   bool topMember(std::string_view name) {
-    if (!firstTime(name)) return false;
-    if (name == "payload" && p_ != end_ && *p_ == '{') return payload();
+    const TopName kind = classify(name);
+    const auto bit = static_cast<unsigned>(kind);
+    if (seen_ & bit) return false;
+    seen_ |= bit;
+    if (kind == TopName::payload && p_ != end_ && *p_ == '{') return payload();
     std::string_view text;
     JSONValue value;
     const bool isString = p_ != end_ && *p_ == '"';
     if (!(isString ? string(text) : literalOrNumber(value))) return false;
-    if (name == "type") {
+    if (kind == TopName::type) {
       envelope_.typeIsString = isString;
       envelope_.type = text;
-    } else if (name == "diff") {
+    } else if (kind == TopName::diff) {
       envelope_.diff = !isString && value.asBool() && *value.asBool();
-    } else if (name == "payload") {
+    } else if (kind == TopName::payload) {
       envelope_.payloadIsObject = false;
       envelope_.payload.clear();
     }
@@ -126,22 +132,24 @@ class PlainScanner {
   }
 
   bool literalOrNumber(JSONValue& value) {
-    if (literal("true")) {
-      value = JSONValue(true);
-    } else if (literal("false")) {
-      value = JSONValue(false);
-    } else if (literal("null")) {
-      value = JSONValue();
-    } else {
-      return number(value);
+    if (p_ == end_) return false;
+    switch (*p_) {
+      case 't':
+        return literal("true", JSONValue(true), value);
+      case 'f':
+        return literal("false", JSONValue(false), value);
+      case 'n':
+        return literal("null", JSONValue(), value);
+      default:
+        return number(value);
     }
-    return true;
   }
 
-  bool literal(std::string_view word) {
+  bool literal(std::string_view word, JSONValue meaning, JSONValue& value) {
     if (static_cast<std::size_t>(end_ - p_) < word.size()) return false;
     if (std::memcmp(p_, word.data(), word.size()) != 0) return false;
     p_ += word.size();
+    value = std::move(meaning);
     return true;
   }
 
@@ -149,39 +157,40 @@ class PlainScanner {
   bool number(JSONValue& value) {
     const char* start = p_;
     const char* p = p_;
-    if (p != end_ && *p == '-') ++p;
+    const bool negative = p != end_ && *p == '-';
+    if (negative) ++p;
     if (p == end_ || !isDigit(*p)) return false;
+    const char* digits = p;
+    std::uint64_t integer = 0;
     if (*p == '0') {
       ++p;
     } else {
-      while (p != end_ && isDigit(*p)) ++p;
+      for (; p != end_ && isDigit(*p); ++p)
+        integer = integer * 10 + static_cast<unsigned>(*p - '0');
     }
+    bool plainInteger = p - digits <= 18;  // fits without wrapping
     if (p != end_ && *p == '.') {
+      plainInteger = false;
       ++p;
       if (p == end_ || !isDigit(*p)) return false;
       while (p != end_ && isDigit(*p)) ++p;
     }
     if (p != end_ && (*p == 'e' || *p == 'E')) {
+      plainInteger = false;
       ++p;
       if (p != end_ && (*p == '+' || *p == '-')) ++p;
       if (p == end_ || !isDigit(*p)) return false;
       while (p != end_ && isDigit(*p)) ++p;
     }
-    // Up to 18 digits with no fraction or exponent fit an int64_t, whose conversion rounds
-    // exactly as from_chars does.
-    if (const auto length = p - start;
-        length <= 18 && std::all_of(start + (*start == '-'), p, isDigit)) {
-      std::int64_t integer = 0;
-      for (const char* d = start + (*start == '-'); d != p; ++d)
-        integer = integer * 10 + (*d - '0');
-      const auto magnitude = static_cast<double>(integer);
-      value = JSONValue(*start == '-' ? -magnitude : magnitude);  // "-0" stays negative zero
-      p_ = p;
-      return true;
-    }
     double number = 0;
-    const auto result = std::from_chars(start, p, number);
-    if (result.ec != std::errc() || result.ptr != p) return false;
+    if (plainInteger) {
+      // Converting an exact integer rounds just as from_chars rounds its decimal text.
+      const auto magnitude = static_cast<double>(integer);
+      number = negative ? -magnitude : magnitude;  // "-0" stays negative zero
+    } else {
+      const auto result = std::from_chars(start, p, number);
+      if (result.ec != std::errc() || result.ptr != p) return false;
+    }
     value = JSONValue(number);
     p_ = p;
     return true;

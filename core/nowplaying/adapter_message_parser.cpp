@@ -170,6 +170,10 @@ void AdapterMessageParser::merge(AdapterEnvelope& envelope) {
   const bool follow = envelope.diff && scratch_.fieldsKnown;
   if (!envelope.diff) state_.clear();
   for (auto& [name, value] : envelope.payload) {
+    if (JSONValue* known = follow && !value.isNull() ? scratch_.fields.find(name) : nullptr) {
+      *known = std::move(value);
+      continue;
+    }
     auto existing = state_.find(name);
     if (existing == state_.end()) {
       if (envelope.diff && value.isNull()) continue;
@@ -197,16 +201,18 @@ void AdapterMessageParser::recomputeArtwork(std::optional<Bytes> decodedArtwork)
                    : std::nullopt;
 }
 
-std::optional<NowPlayingSnapshot> AdapterMessageParser::snapshot() const {
+// Built in place inside the result: a snapshot is large enough that every move shows.
+AdapterMessageParser::Result AdapterMessageParser::snapshot() const {
   const AdapterStateFields& fields = scratch_.fields;
-  std::optional<std::string> title = nonEmptyString(fields.title);
+  const std::string* title = fields.title ? fields.title->asString() : nullptr;
   const bool* playing = fields.playing ? fields.playing->asBool() : nullptr;
-  if (!title || !playing) return std::nullopt;
+  Result result(std::in_place);
+  if (!title || title->empty() || !playing) return result;
 
-  NowPlayingSnapshot snapshot;
+  NowPlayingSnapshot& snapshot = result->emplace();
   snapshot.bundleIdentifier = nonEmptyString(fields.bundleIdentifier);
   snapshot.parentBundleIdentifier = nonEmptyString(fields.parentBundleIdentifier);
-  snapshot.title = std::move(*title);
+  snapshot.title = *title;
   snapshot.artist = nonEmptyString(fields.artist);
   snapshot.album = nonEmptyString(fields.album);
   snapshot.isPlaying = *playing;
@@ -230,7 +236,7 @@ std::optional<NowPlayingSnapshot> AdapterMessageParser::snapshot() const {
   }
   snapshot.artwork = artwork_;
   snapshot.capabilities = NowPlayingCapabilities::all();
-  return snapshot;
+  return result;
 }
 
 }  // namespace tindra

@@ -81,7 +81,7 @@ class AdapterMessageParser {
   Result accept(AdapterEnvelope& envelope, std::optional<Bytes> decodedArtwork);
   void merge(AdapterEnvelope& envelope);
   void recomputeArtwork(std::optional<Bytes> decodedArtwork);
-  std::optional<NowPlayingSnapshot> snapshot() const;
+  Result snapshot() const;
 
   // Reused from line to line so reading one allocates nothing; never part of the parser's
   // value, so copies start with an empty one (the fields are found again on first use).

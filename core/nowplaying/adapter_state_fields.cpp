@@ -2,18 +2,23 @@
 
 namespace tindra {
 
-void AdapterStateFields::rebuild(const JSONValue::Object& state) {
+void AdapterStateFields::rebuild(JSONValue::Object& state) {
   *this = AdapterStateFields();
-  for (const auto& [name, value] : state) update(name, &value);
+  for (auto& [name, value] : state) update(name, &value);
 }
 
-void AdapterStateFields::update(std::string_view name, const JSONValue* value) {
-  if (const JSONValue** slot = slotFor(name)) *slot = value;
+void AdapterStateFields::update(std::string_view name, JSONValue* value) {
+  if (JSONValue** slot = slotFor(name)) *slot = value;
+}
+
+JSONValue* AdapterStateFields::find(std::string_view name) {
+  JSONValue** slot = slotFor(name);
+  return slot ? *slot : nullptr;
 }
 
 // Dispatches on the length first, so an unknown name costs one comparison at most.
-const JSONValue** AdapterStateFields::slotFor(std::string_view name) {
-  auto is = [&](std::string_view known, const JSONValue*& slot) -> const JSONValue** {
+JSONValue** AdapterStateFields::slotFor(std::string_view name) {
+  auto is = [&](std::string_view known, JSONValue*& slot) -> JSONValue** {
     return name == known ? &slot : nullptr;
   };
   switch (name.size()) {

@@ -10,29 +10,31 @@
 namespace tindra {
 
 struct AdapterStateFields {
-  const JSONValue* title = nullptr;
-  const JSONValue* playing = nullptr;
-  const JSONValue* durationMicros = nullptr;
-  const JSONValue* duration = nullptr;
-  const JSONValue* elapsedTimeMicros = nullptr;
-  const JSONValue* elapsedTime = nullptr;
-  const JSONValue* playbackRate = nullptr;
-  const JSONValue* bundleIdentifier = nullptr;
-  const JSONValue* parentBundleIdentifier = nullptr;
-  const JSONValue* artist = nullptr;
-  const JSONValue* album = nullptr;
-  const JSONValue* timestampEpochMicros = nullptr;
-  const JSONValue* timestamp = nullptr;
-  const JSONValue* shuffleMode = nullptr;
-  const JSONValue* repeatMode = nullptr;
+  JSONValue* title = nullptr;
+  JSONValue* playing = nullptr;
+  JSONValue* durationMicros = nullptr;
+  JSONValue* duration = nullptr;
+  JSONValue* elapsedTimeMicros = nullptr;
+  JSONValue* elapsedTime = nullptr;
+  JSONValue* playbackRate = nullptr;
+  JSONValue* bundleIdentifier = nullptr;
+  JSONValue* parentBundleIdentifier = nullptr;
+  JSONValue* artist = nullptr;
+  JSONValue* album = nullptr;
+  JSONValue* timestampEpochMicros = nullptr;
+  JSONValue* timestamp = nullptr;
+  JSONValue* shuffleMode = nullptr;
+  JSONValue* repeatMode = nullptr;
 
   // Points every field at its member of `state`, or at nothing.
-  void rebuild(const JSONValue::Object& state);
+  void rebuild(JSONValue::Object& state);
   // Follows one change: `value` is the member now stored under `name`, nullptr when removed.
-  void update(std::string_view name, const JSONValue* value);
+  void update(std::string_view name, JSONValue* value);
+  // The member stored under `name` when it is one of the fields and present; saves a map look-up.
+  JSONValue* find(std::string_view name);
 
  private:
-  const JSONValue** slotFor(std::string_view name);
+  JSONValue** slotFor(std::string_view name);
 };
 
 }  // namespace tindra

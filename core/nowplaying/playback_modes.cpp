@@ -48,18 +48,4 @@ int adapterCode(RepeatMode mode) {
   return static_cast<int>(mode) + 1;
 }
 
-std::optional<ShuffleMode> shuffleModeFromAdapterCode(double code) {
-  if (code == 1) return ShuffleMode::off;
-  if (code == 2) return ShuffleMode::albums;
-  if (code == 3) return ShuffleMode::tracks;
-  return std::nullopt;
-}
-
-std::optional<RepeatMode> repeatModeFromAdapterCode(double code) {
-  if (code == 1) return RepeatMode::off;
-  if (code == 2) return RepeatMode::track;
-  if (code == 3) return RepeatMode::all;
-  return std::nullopt;
-}
-
 }  // namespace tindra

@@ -24,7 +24,18 @@ std::optional<RepeatMode> repeatModeFromRaw(std::string_view raw);
 // The adapter's wire codes: 1 off, 2 albums or track, 3 tracks or all.
 int adapterCode(ShuffleMode mode);
 int adapterCode(RepeatMode mode);
-std::optional<ShuffleMode> shuffleModeFromAdapterCode(double code);
-std::optional<RepeatMode> repeatModeFromAdapterCode(double code);
+// Read for every adapter line, so inline.
+constexpr std::optional<ShuffleMode> shuffleModeFromAdapterCode(double code) {
+  if (code == 1) return ShuffleMode::off;
+  if (code == 2) return ShuffleMode::albums;
+  if (code == 3) return ShuffleMode::tracks;
+  return std::nullopt;
+}
+constexpr std::optional<RepeatMode> repeatModeFromAdapterCode(double code) {
+  if (code == 1) return RepeatMode::off;
+  if (code == 2) return RepeatMode::track;
+  if (code == 3) return RepeatMode::all;
+  return std::nullopt;
+}
 
 }  // namespace tindra
