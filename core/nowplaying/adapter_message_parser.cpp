@@ -22,10 +22,10 @@ std::optional<double> finiteNumber(const JSONValue* value) {
   return *number;
 }
 
-std::optional<std::string> nonEmptyString(const JSONValue* value) {
+// Copies a non-empty string member straight into its place in the snapshot.
+void copyNonEmptyString(const JSONValue* value, std::optional<std::string>& field) {
   const std::string* text = value ? value->asString() : nullptr;
-  if (!text || text->empty()) return std::nullopt;
-  return *text;
+  if (text && !text->empty()) field.emplace(*text);
 }
 
 // The microsecond member decides whenever it is a finite number, even when its value is then
@@ -210,11 +210,11 @@ AdapterMessageParser::Result AdapterMessageParser::snapshot() const {
   if (!title || title->empty() || !playing) return result;
 
   NowPlayingSnapshot& snapshot = result->emplace();
-  snapshot.bundleIdentifier = nonEmptyString(fields.bundleIdentifier);
-  snapshot.parentBundleIdentifier = nonEmptyString(fields.parentBundleIdentifier);
+  copyNonEmptyString(fields.bundleIdentifier, snapshot.bundleIdentifier);
+  copyNonEmptyString(fields.parentBundleIdentifier, snapshot.parentBundleIdentifier);
   snapshot.title = *title;
-  snapshot.artist = nonEmptyString(fields.artist);
-  snapshot.album = nonEmptyString(fields.album);
+  copyNonEmptyString(fields.artist, snapshot.artist);
+  copyNonEmptyString(fields.album, snapshot.album);
   snapshot.isPlaying = *playing;
   if (auto duration = seconds(fields.durationMicros, fields.duration);
       duration && *duration > 0 && *duration <= maxSeconds) {
