@@ -1,5 +1,6 @@
 #include "nowplaying/adapter_message_parser.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 
@@ -92,19 +93,29 @@ std::vector<AdapterMessageParser::Result> AdapterMessageParser::feed(std::string
       continue;
     }
     if (!newline) {
-      buffer_.append(piece);
+      appendToBuffer(piece);
       continue;
     }
     if (buffer_.empty()) {
       results.push_back(parse(piece));
     } else {
-      buffer_.append(piece);
+      appendToBuffer(piece);
       results.push_back(parse(buffer_));
       buffer_.clear();
       if (buffer_.capacity() > keptBufferCapacity) std::string().swap(buffer_);
     }
   }
   return results;
+}
+
+// Grows by doubling, as a string does, but never past the line limit, so a line just under the
+// limit never holds twice its size.
+void AdapterMessageParser::appendToBuffer(std::string_view piece) {
+  const std::size_t needed = buffer_.size() + piece.size();
+  if (needed > buffer_.capacity()) {
+    buffer_.reserve(std::min(std::max(needed, 2 * buffer_.capacity()), maxLineLength));
+  }
+  buffer_.append(piece);
 }
 
 AdapterMessageParser::Result AdapterMessageParser::parse(std::string_view line) {

@@ -76,6 +76,7 @@ class AdapterMessageParser {
  private:
   using Bytes = std::vector<std::uint8_t>;
 
+  void appendToBuffer(std::string_view piece);
   bool readEnvelope(std::string_view line, AdapterEnvelope& envelope) const;
   std::optional<Result> parseWithDirectArtwork(std::string_view line);
   Result accept(AdapterEnvelope& envelope, std::optional<Bytes> decodedArtwork);
