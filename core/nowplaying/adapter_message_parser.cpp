@@ -87,7 +87,7 @@ std::vector<AdapterMessageParser::Result> AdapterMessageParser::feed(std::string
     }
     if (buffer_.size() + piece.size() > maxLineLength) {
       // Reported once, when the line first grows past the limit; its rest is skipped silently.
-      results.push_back(std::unexpected(ParseError::lineTooLong()));
+      results.emplace_back(std::unexpect, ParseError::lineTooLong());
       std::string().swap(buffer_);
       discardingOversizedLine_ = newline == nullptr;
       continue;
@@ -123,7 +123,7 @@ AdapterMessageParser::Result AdapterMessageParser::parse(std::string_view line) 
     if (auto result = parseWithDirectArtwork(line)) return std::move(*result);
   }
   AdapterEnvelope& envelope = scratch_.envelope;
-  if (!readEnvelope(line, envelope)) return std::unexpected(ParseError::notJSONObject());
+  if (!readEnvelope(line, envelope)) return Result(std::unexpect, ParseError::notJSONObject());
   return accept(envelope, std::nullopt);
 }
 
@@ -150,7 +150,7 @@ std::optional<AdapterMessageParser::Result> AdapterMessageParser::parseWithDirec
   rest.reserve(line.size() - text.size());
   rest.append(line.substr(0, span->begin)).append(line.substr(span->end));
   AdapterEnvelope& envelope = scratch_.envelope;
-  if (!readEnvelope(rest, envelope)) return Result(std::unexpected(ParseError::notJSONObject()));
+  if (!readEnvelope(rest, envelope)) return Result(std::unexpect, ParseError::notJSONObject());
   JSONValue* placeholder = envelope.member("artworkData");
   if (!placeholder || *placeholder != JSONValue("")) {
     return std::nullopt;  // the scan and the reader disagree; trust the reader alone
@@ -163,11 +163,12 @@ std::optional<AdapterMessageParser::Result> AdapterMessageParser::parseWithDirec
 
 AdapterMessageParser::Result AdapterMessageParser::accept(AdapterEnvelope& envelope,
                                                           std::optional<Bytes> decodedArtwork) {
-  if (!envelope.typeIsString) return std::unexpected(ParseError::unexpectedType(std::nullopt));
+  if (!envelope.typeIsString)
+    return Result(std::unexpect, ParseError::unexpectedType(std::nullopt));
   if (envelope.type != "data") {
-    return std::unexpected(ParseError::unexpectedType(std::string(envelope.type)));
+    return Result(std::unexpect, ParseError::unexpectedType(std::string(envelope.type)));
   }
-  if (!envelope.payloadIsObject) return std::unexpected(ParseError::missingPayload());
+  if (!envelope.payloadIsObject) return Result(std::unexpect, ParseError::missingPayload());
 
   ++messageCount_;
   const bool coverMentioned = envelope.member("artworkData") != nullptr;
