@@ -1,5 +1,5 @@
 // NowPlayingPausedLinger: how long a just-paused track stays on the notch, stored by raw string
-// under `nowPlayingPausedLingerKey`; an unknown stored value reads as the default, `short`.
+// under the setting `nowPlayingPausedLinger`; an unknown stored value reads as the default.
 #pragma once
 
 #include <array>
@@ -14,7 +14,6 @@ inline constexpr std::array<NowPlayingPausedLinger, 3> allNowPlayingPausedLinger
     NowPlayingPausedLinger::short_, NowPlayingPausedLinger::long_,
     NowPlayingPausedLinger::untilResumed};
 
-inline constexpr std::string_view nowPlayingPausedLingerKey = "nowPlayingPausedLinger";
 inline constexpr NowPlayingPausedLinger defaultNowPlayingPausedLinger =
     NowPlayingPausedLinger::short_;
 

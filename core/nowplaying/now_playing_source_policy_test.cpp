@@ -4,6 +4,7 @@
 
 #include "nowplaying/now_playing_paused_linger.h"
 #include "nowplaying/now_playing_source_kind.h"
+#include "settings/settings_keys.h"
 
 namespace tindra {
 namespace {
@@ -43,6 +44,15 @@ TEST(NowPlayingSourcePolicyTest, StoredNamesRoundTripAndUnknownOnesAreRefused) {
   EXPECT_EQ(nowPlayingPausedLingerFromRaw("long"), NowPlayingPausedLinger::long_);
   EXPECT_FALSE(nowPlayingPausedLingerFromRaw("Short"));
   EXPECT_FALSE(nowPlayingSourceModeFromRaw("auto"));
+
+  // The settings store lists the same names, in the same order, with the same default.
+  for (std::size_t i = 0; i < allNowPlayingPausedLingers.size(); ++i) {
+    EXPECT_EQ(rawValue(allNowPlayingPausedLingers[i]), settings::nowPlayingPausedLingerCases.at(i));
+  }
+  for (std::size_t i = 0; i < allNowPlayingSourceModes.size(); ++i) {
+    EXPECT_EQ(rawValue(allNowPlayingSourceModes[i]), settings::nowPlayingSourceModeCases.at(i));
+  }
+  EXPECT_EQ(rawValue(defaultNowPlayingPausedLinger), settings::nowPlayingPausedLinger.defaultValue);
 }
 
 }  // namespace
