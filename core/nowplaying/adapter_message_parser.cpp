@@ -46,16 +46,24 @@ std::optional<double> timestampOf(const AdapterStateFields& fields) {
   return parsed ? std::optional<double>(*parsed) : std::nullopt;
 }
 
-// The cover's bytes when `text` is a usable cover: non-empty, under the limit, strict Base64,
-// decoding to at least one byte.
-std::optional<std::vector<std::uint8_t>> decodeArtwork(std::string_view text) {
-  if (text.empty() || text.size() >= AdapterMessageParser::artworkTextLimit) return std::nullopt;
-  auto bytes = decodeBase64(text);
-  if (!bytes || bytes->empty()) return std::nullopt;
-  return std::move(*bytes);
+}  // namespace
+
+// The cover's bytes when `text` is strict Base64; no zero-filling of megabytes first.
+std::optional<AdapterMessageParser::Cover> AdapterMessageParser::decodeCover(
+    std::string_view text) {
+  const std::size_t size = base64DecodedSize(text);
+  auto data = std::make_shared_for_overwrite<std::uint8_t[]>(size);
+  if (!decodeBase64(text, std::span(data.get(), size))) return std::nullopt;
+  return Cover{std::move(data), size};
 }
 
-}  // namespace
+// The cover's bytes when `text` is a usable cover: non-empty, under the limit, strict Base64,
+// decoding to at least one byte.
+std::optional<AdapterMessageParser::Cover> AdapterMessageParser::decodeArtwork(
+    std::string_view text) {
+  if (text.empty() || text.size() >= artworkTextLimit) return std::nullopt;
+  return decodeCover(text);
+}
 
 std::string AdapterMessageParser::ParseError::description() const {
   switch (kind) {
@@ -143,7 +151,7 @@ std::optional<AdapterMessageParser::Result> AdapterMessageParser::parseWithDirec
   if (!span) return std::nullopt;
   const std::string_view text = line.substr(span->begin, span->end - span->begin);
   if (text.size() >= artworkTextLimit) return std::nullopt;
-  auto decoded = decodeBase64(text);
+  std::optional<Cover> decoded = decodeCover(text);
   if (!decoded) return std::nullopt;
 
   std::string rest;
@@ -156,13 +164,12 @@ std::optional<AdapterMessageParser::Result> AdapterMessageParser::parseWithDirec
     return std::nullopt;  // the scan and the reader disagree; trust the reader alone
   }
   *placeholder = JSONValue(text);
-  std::optional<Bytes> artworkBytes;
-  if (!decoded->empty()) artworkBytes = std::move(*decoded);
-  return accept(envelope, std::move(artworkBytes));
+  if (decoded->size == 0) decoded.reset();
+  return accept(envelope, std::move(decoded));
 }
 
 AdapterMessageParser::Result AdapterMessageParser::accept(AdapterEnvelope& envelope,
-                                                          std::optional<Bytes> decodedArtwork) {
+                                                          std::optional<Cover> decodedArtwork) {
   if (!envelope.typeIsString)
     return Result(std::unexpect, ParseError::unexpectedType(std::nullopt));
   if (envelope.type != "data") {
@@ -204,12 +211,13 @@ void AdapterMessageParser::merge(AdapterEnvelope& envelope) {
 
 // `decodedArtwork` is the already decoded value of the message's "artworkData", when the
 // direct path decoded it; the state then holds the same text.
-void AdapterMessageParser::recomputeArtwork(std::optional<Bytes> decodedArtwork) {
+void AdapterMessageParser::recomputeArtwork(std::optional<Cover> decodedArtwork) {
   auto text = state_.find("artworkData");
   const std::string* cover = text == state_.end() ? nullptr : text->second.asString();
-  std::optional<Bytes> bytes;
+  std::optional<Cover> bytes;
   if (cover) bytes = decodedArtwork ? std::move(decodedArtwork) : decodeArtwork(*cover);
-  artwork_ = bytes ? std::optional(NowPlayingSnapshot::Artwork::embedded(std::move(*bytes)))
+  artwork_ = bytes ? std::optional(
+                         NowPlayingSnapshot::Artwork::embedded(std::move(bytes->data), bytes->size))
                    : std::nullopt;
 }
 

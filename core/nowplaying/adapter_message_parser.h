@@ -7,6 +7,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <expected>
+#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -74,14 +75,20 @@ class AdapterMessageParser {
   bool discardingOversizedLine() const { return discardingOversizedLine_; }
 
  private:
-  using Bytes = std::vector<std::uint8_t>;
+  // Decoded cover bytes, not yet shared.
+  struct Cover {
+    std::shared_ptr<std::uint8_t[]> data;
+    std::size_t size;
+  };
 
+  static std::optional<Cover> decodeCover(std::string_view text);
+  static std::optional<Cover> decodeArtwork(std::string_view text);
   void appendToBuffer(std::string_view piece);
   bool readEnvelope(std::string_view line, AdapterEnvelope& envelope) const;
   std::optional<Result> parseWithDirectArtwork(std::string_view line);
-  Result accept(AdapterEnvelope& envelope, std::optional<Bytes> decodedArtwork);
+  Result accept(AdapterEnvelope& envelope, std::optional<Cover> decodedArtwork);
   void merge(AdapterEnvelope& envelope);
-  void recomputeArtwork(std::optional<Bytes> decodedArtwork);
+  void recomputeArtwork(std::optional<Cover> decodedArtwork);
   Result snapshot() const;
 
   // Reused from line to line so reading one allocates nothing; never part of the parser's

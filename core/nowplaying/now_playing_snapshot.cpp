@@ -7,18 +7,20 @@ namespace tindra {
 
 bool operator==(const NowPlayingSnapshot::Artwork::Embedded& a,
                 const NowPlayingSnapshot::Artwork::Embedded& b) {
-  if (a.bytes == b.bytes) return true;
-  if (!a.bytes || !b.bytes) return false;
-  return *a.bytes == *b.bytes;
+  if (a.data == b.data && a.size == b.size) return true;
+  return std::ranges::equal(a.bytes(), b.bytes());
 }
 
-NowPlayingSnapshot::Artwork NowPlayingSnapshot::Artwork::embedded(std::vector<std::uint8_t> bytes) {
-  return {Embedded{std::make_shared<const std::vector<std::uint8_t>>(std::move(bytes))}};
+NowPlayingSnapshot::Artwork NowPlayingSnapshot::Artwork::embedded(
+    std::span<const std::uint8_t> bytes) {
+  auto data = std::make_shared_for_overwrite<std::uint8_t[]>(bytes.size());
+  std::ranges::copy(bytes, data.get());
+  return embedded(std::move(data), bytes.size());
 }
 
-const std::vector<std::uint8_t>* NowPlayingSnapshot::Artwork::embeddedBytes() const {
+std::optional<std::span<const std::uint8_t>> NowPlayingSnapshot::Artwork::embeddedBytes() const {
   const Embedded* embedded = std::get_if<Embedded>(&value);
-  return embedded ? embedded->bytes.get() : nullptr;
+  return embedded ? std::optional(embedded->bytes()) : std::nullopt;
 }
 
 const std::string* NowPlayingSnapshot::Artwork::remoteURL() const {

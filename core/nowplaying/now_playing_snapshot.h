@@ -2,12 +2,13 @@
 // positions are extrapolated from `now` (seconds since 1970) given by the caller.
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
 #include <variant>
-#include <vector>
 
 #include "nowplaying/now_playing_capabilities.h"
 #include "nowplaying/playback_modes.h"
@@ -20,7 +21,9 @@ struct NowPlayingSnapshot {
   // snapshot never copies a cover; equality still compares the bytes.
   struct Artwork {
     struct Embedded {
-      std::shared_ptr<const std::vector<std::uint8_t>> bytes;
+      std::shared_ptr<const std::uint8_t[]> data;
+      std::size_t size = 0;
+      std::span<const std::uint8_t> bytes() const { return {data.get(), size}; }
       friend bool operator==(const Embedded& a, const Embedded& b);
     };
     struct Remote {
@@ -30,10 +33,15 @@ struct NowPlayingSnapshot {
 
     std::variant<Embedded, Remote> value;
 
-    static Artwork embedded(std::vector<std::uint8_t> bytes);
+    // A cover holding a copy of `bytes`.
+    static Artwork embedded(std::span<const std::uint8_t> bytes);
+    // A cover sharing `size` bytes at `data`, which nobody may change any more.
+    static Artwork embedded(std::shared_ptr<const std::uint8_t[]> data, std::size_t size) {
+      return {Embedded{std::move(data), size}};
+    }
     static Artwork remote(std::string url) { return {Remote{std::move(url)}}; }
-    // The image bytes of an embedded cover; nullptr for a remote one.
-    const std::vector<std::uint8_t>* embeddedBytes() const;
+    // The image bytes of an embedded cover; none for a remote one.
+    std::optional<std::span<const std::uint8_t>> embeddedBytes() const;
     // The address of a remote cover; nullptr for an embedded one.
     const std::string* remoteURL() const;
 

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 #include <unordered_set>
@@ -70,13 +71,15 @@ TEST(NowPlayingSnapshotTest, EquivalenceIgnoresSamplingWithinTolerance) {
 
 TEST(NowPlayingSnapshotTest, ArtworkComparesContentNotSharing) {
   using Artwork = NowPlayingSnapshot::Artwork;
-  EXPECT_EQ(Artwork::embedded({1, 2, 3}), Artwork::embedded({1, 2, 3}));
-  EXPECT_NE(Artwork::embedded({1, 2, 3}), Artwork::embedded({1, 2}));
+  const std::vector<std::uint8_t> a{1, 2, 3}, b{1, 2, 3}, shorter{1, 2}, seven{7};
+  EXPECT_EQ(Artwork::embedded(a), Artwork::embedded(b));
+  EXPECT_NE(Artwork::embedded(a), Artwork::embedded(shorter));
   EXPECT_EQ(Artwork::remote("https://a/b"), Artwork::remote("https://a/b"));
   EXPECT_NE(Artwork::remote("https://a/b"), Artwork::remote("https://a/c"));
-  EXPECT_NE(Artwork::remote(""), Artwork::embedded({}));
-  EXPECT_EQ(*Artwork::embedded({7}).embeddedBytes(), std::vector<std::uint8_t>{7});
-  EXPECT_EQ(Artwork::embedded({7}).remoteURL(), nullptr);
+  EXPECT_NE(Artwork::remote(""), Artwork::embedded(std::span<const std::uint8_t>()));
+  EXPECT_TRUE(std::ranges::equal(*Artwork::embedded(seven).embeddedBytes(), seven));
+  EXPECT_EQ(Artwork::embedded(seven).remoteURL(), nullptr);
+  EXPECT_FALSE(Artwork::remote("x").embeddedBytes());
 }
 
 TEST(NowPlayingSnapshotTest, IdentityTellsAbsentFromEmptyAndIgnoresTheParent) {
