@@ -97,7 +97,8 @@ class PlainScanner {
         if (member.first == name) return false;
       }
       if (!colon()) return false;
-      JSONValue value;
+      auto& [memberName, value] = members.emplace_back();
+      memberName = name;
       if (p_ != end_ && *p_ == '"') {
         std::string_view text;
         if (!string(text)) return false;
@@ -105,7 +106,6 @@ class PlainScanner {
       } else if (!literalOrNumber(value)) {
         return false;
       }
-      members.emplace_back(name, std::move(value));
       skipWhiteSpace();
       if (consume('}')) return true;
       if (!consume(',')) return false;
@@ -218,7 +218,7 @@ void reset(AdapterEnvelope& envelope) {
   envelope.diff = false;
   envelope.payloadIsObject = false;
   envelope.payload.clear();
-  envelope.tree = JSONValue();
+  if (!envelope.tree.isNull()) envelope.tree = JSONValue();
 }
 
 }  // namespace
