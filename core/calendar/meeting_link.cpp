@@ -2,7 +2,7 @@
 
 #include <uriparser/Uri.h>
 
-#include "calendar/ascii_case.h"
+#include "settings/ascii_text.h"
 #include "calendar/meeting_link_parser.h"
 
 namespace tindra {

@@ -7,7 +7,7 @@
 #include <climits>
 #include <string>
 
-#include "calendar/ascii_case.h"
+#include "settings/ascii_text.h"
 #include "calendar/meeting_link_scan.h"
 #include "calendar/meeting_link_vocabulary.h"
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "power/ascii_text.h"
+#include "settings/ascii_text.h"
 
 namespace tindra {
 namespace {

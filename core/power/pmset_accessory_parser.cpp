@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "power/ascii_text.h"
+#include "settings/ascii_text.h"
 
 namespace tindra {
 namespace {

@@ -4,7 +4,7 @@
 #include <optional>
 #include <set>
 
-#include "power/ascii_text.h"
+#include "settings/ascii_text.h"
 #include "power/bluetooth_address.h"
 
 namespace tindra {

@@ -3,7 +3,7 @@
 #include <array>
 #include <cstddef>
 
-#include "weather/ascii_case.h"
+#include "settings/ascii_text.h"
 #include "weather/utc_date_fields.h"
 
 namespace tindra {

@@ -1,6 +1,6 @@
 #include "weather/http_transport.h"
 
-#include "weather/ascii_case.h"
+#include "settings/ascii_text.h"
 
 namespace tindra {
 

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "weather/ascii_case.h"
+#include "settings/ascii_text.h"
 
 namespace tindra {
 

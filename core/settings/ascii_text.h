@@ -1,5 +1,5 @@
-// Small ASCII text helpers for the device names, part labels and identifiers the power and
-// accessory parsers read. Bytes outside ASCII pass through untouched, so UTF-8 stays intact.
+// Small ASCII text helpers for the names, labels and identifiers the parsers read. Bytes outside
+// ASCII pass through untouched, so UTF-8 stays intact.
 #pragma once
 
 #include <cstdint>
@@ -9,8 +9,16 @@
 
 namespace tindra {
 
+// `c` with A-Z turned into a-z.
+constexpr char asciiLowercased(char c) {
+  return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c;
+}
+
 // `text` with A-Z turned into a-z.
 std::string asciiLowercased(std::string_view text);
+
+// Equal when equal after A-Z are turned into a-z.
+bool asciiEqualsIgnoringCase(std::string_view a, std::string_view b);
 
 // `text` without leading and trailing spaces, tabs and line breaks.
 std::string_view trimmedASCII(std::string_view text);

@@ -1,15 +1,20 @@
-#include "power/ascii_text.h"
+#include "settings/ascii_text.h"
 
+#include <algorithm>
 #include <charconv>
 
 namespace tindra {
 
 std::string asciiLowercased(std::string_view text) {
   std::string lowered(text);
-  for (char& c : lowered) {
-    if (c >= 'A' && c <= 'Z') c = static_cast<char>(c - 'A' + 'a');
-  }
+  for (char& c : lowered) c = asciiLowercased(c);
   return lowered;
+}
+
+bool asciiEqualsIgnoringCase(std::string_view a, std::string_view b) {
+  return a.size() == b.size() && std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) {
+           return asciiLowercased(x) == asciiLowercased(y);
+         });
 }
 
 std::string_view trimmedASCII(std::string_view text) {
