@@ -10,25 +10,30 @@ using Reason = LockScreenNotice::Reason;
 namespace {
 
 LockSessionPolicy::Launch disabled(Reason reason) {
-  return {LockSessionPolicy::Disable{reason}, LockSessionRecord::fresh(), true};
+  return {.verdict = LockSessionPolicy::Disable{reason},
+          .record = LockSessionRecord::fresh(),
+          .recordChanged = true};
 }
 
 }  // namespace
 
 LockSessionPolicy::Launch LockSessionPolicy::launchVerdict(std::string_view storedBytes,
                                                            std::string_view bootSessionID) {
-  if (storedBytes.empty()) return {Clean{}, LockSessionRecord::fresh(), true};
+  if (storedBytes.empty()) {
+    return {.verdict = Clean{}, .record = LockSessionRecord::fresh(), .recordChanged = true};
+  }
   auto record = LockSessionRecord::decode(storedBytes);
   if (!record) return disabled(Reason::unreadableRecord);
-  if (!record->openSession) return {Clean{}, std::move(*record), false};
-  if (record->openSession->bootSessionID == bootSessionID) {
+  const std::optional<LockSessionMarker>& session = record->openSession;
+  if (!session) return {.verdict = Clean{}, .record = std::move(*record), .recordChanged = false};
+  if (session->bootSessionID == bootSessionID) {
     return disabled(Reason::stoppedWhileLocked);
   }
   const long long strikes = static_cast<long long>(record->restartStrikes) + 1;
   if (strikes >= strikeLimit) return disabled(Reason::restartedWhileLocked);
   LockSessionRecord kept;
   kept.restartStrikes = static_cast<int>(strikes);
-  return {Tolerated{kept.restartStrikes}, kept, true};
+  return {.verdict = Tolerated{kept.restartStrikes}, .record = kept, .recordChanged = true};
 }
 
 LockSessionPolicy::Launch LockSessionPolicy::launchVerdictFromRead(
