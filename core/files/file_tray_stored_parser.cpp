@@ -8,6 +8,8 @@
 #include "settings/json_reader.h"
 #include "settings/json_writer.h"
 
+#include "files/hex_digit.h"
+
 namespace tindra {
 
 namespace {
@@ -26,20 +28,13 @@ std::string hexText(const std::vector<std::uint8_t>& bytes) {
   return text;
 }
 
-int hexDigit(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
-
 std::optional<std::vector<std::uint8_t>> bytesFromHex(std::string_view text) {
   if (text.size() % 2 != 0 || text.size() > 2 * FileTray::largestBookmark) return std::nullopt;
   std::vector<std::uint8_t> bytes;
   bytes.reserve(text.size() / 2);
   for (std::size_t i = 0; i < text.size(); i += 2) {
-    const int high = hexDigit(text[i]);
-    const int low = hexDigit(text[i + 1]);
+    const int high = hexDigitValue(text[i]);
+    const int low = hexDigitValue(text[i + 1]);
     if (high < 0 || low < 0) return std::nullopt;
     bytes.push_back(static_cast<std::uint8_t>(high << 4 | low));
   }

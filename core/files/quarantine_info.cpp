@@ -4,6 +4,8 @@
 #include <limits>
 #include <vector>
 
+#include "files/hex_digit.h"
+
 namespace tindra {
 
 namespace {
@@ -20,13 +22,6 @@ std::vector<std::string_view> leadingPieces(std::string_view value) {
   return pieces;
 }
 
-int hexDigit(char c) {
-  if (c >= '0' && c <= '9') return c - '0';
-  if (c >= 'a' && c <= 'f') return c - 'a' + 10;
-  if (c >= 'A' && c <= 'F') return c - 'A' + 10;
-  return -1;
-}
-
 // A signed hexadecimal integer that fits 64 bits ("-8000000000000000" just does).
 std::optional<std::int64_t> signedHex(std::string_view text) {
   const bool negative = text.starts_with('-');
@@ -36,7 +31,7 @@ std::optional<std::int64_t> signedHex(std::string_view text) {
       static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max()) + (negative ? 1 : 0);
   std::uint64_t magnitude = 0;
   for (char c : text) {
-    const int digit = hexDigit(c);
+    const int digit = hexDigitValue(c);
     if (digit < 0 || magnitude > (limit - static_cast<std::uint64_t>(digit)) / 16) {
       return std::nullopt;
     }
