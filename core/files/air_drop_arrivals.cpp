@@ -1,5 +1,6 @@
 #include "files/air_drop_arrivals.h"
 
+#include <algorithm>
 #include <array>
 #include <string_view>
 
@@ -13,10 +14,8 @@ namespace {
 bool isDownloadInProgress(std::string_view name) {
   static constexpr std::array<std::string_view, 3> suffixes{".download", ".part", ".crdownload"};
   const std::string lower = lowercased(name);
-  for (std::string_view suffix : suffixes) {
-    if (lower.ends_with(suffix)) return true;
-  }
-  return false;
+  return std::ranges::any_of(suffixes,
+                             [&](std::string_view suffix) { return lower.ends_with(suffix); });
 }
 
 }  // namespace

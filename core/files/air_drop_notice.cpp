@@ -7,7 +7,7 @@ namespace tindra {
 bool AirDropNotice::merge(std::span<const std::string> arrived, double now) {
   if (now - lastArrival > mergeWindow) return false;
   for (const std::string& name : arrived) {
-    if (std::find(files.begin(), files.end(), name) == files.end()) files.push_back(name);
+    if (std::ranges::find(files, name) == files.end()) files.push_back(name);
   }
   lastArrival = now;
   return true;

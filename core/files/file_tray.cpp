@@ -52,7 +52,8 @@ FileTray::AddResult FileTray::add(std::span<const FileTrayCandidate> candidates,
       ++result.invalid;
       continue;
     }
-    const std::string& key = candidate.copiedBytes ? *candidate.sourcePath : candidate.path;
+    // Valid candidates have a source exactly when they are copies.
+    const std::string key = candidate.sourcePath.value_or(candidate.path);
     if (known.contains(key) || known.contains(candidate.path)) {
       ++result.duplicates;
       continue;
@@ -122,8 +123,7 @@ std::int64_t FileTray::copiedBytes() const {
 }
 
 std::optional<FileTrayItem> FileTray::remove(const UUID& id) {
-  const auto found = std::find_if(items_.begin(), items_.end(),
-                                  [&](const FileTrayItem& item) { return item.id == id; });
+  const auto found = std::ranges::find(items_, id, &FileTrayItem::id);
   if (found == items_.end()) return std::nullopt;
   FileTrayItem item = std::move(*found);
   items_.erase(found);

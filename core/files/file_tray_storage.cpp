@@ -1,5 +1,6 @@
 #include "files/file_tray_storage.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
@@ -23,10 +24,7 @@ bool isStrictlyInside(const fs::path& path, const fs::path& folder) {
 }
 
 bool hasParentStep(const fs::path& path) {
-  for (const fs::path& part : path) {
-    if (part == "..") return true;
-  }
-  return false;
+  return std::ranges::any_of(path, [](const fs::path& part) { return part == ".."; });
 }
 
 std::optional<double> modifiedAt(const fs::directory_entry& entry) {

@@ -5,10 +5,9 @@
 #include <set>
 #include <utility>
 
+#include "files/hex_digit.h"
 #include "settings/json_reader.h"
 #include "settings/json_writer.h"
-
-#include "files/hex_digit.h"
 
 namespace tindra {
 
@@ -18,7 +17,7 @@ namespace {
 constexpr double largestExactInteger = 9'007'199'254'740'992.0;
 
 std::string hexText(const std::vector<std::uint8_t>& bytes) {
-  static constexpr char digits[] = "0123456789abcdef";
+  static constexpr std::string_view digits = "0123456789abcdef";
   std::string text;
   text.reserve(bytes.size() * 2);
   for (std::uint8_t byte : bytes) {
