@@ -59,9 +59,8 @@ TEST(FileTrayStoredParser, SkipsItemsThatAreMalformedOrBreakTheRules) {
       R"("displayName":"a","path":"/a","addedAt":5,"contentType":null})";
   auto item = [](std::string_view replace, std::string_view with) {
     std::string text =
-        R"({"id":"%ID","bookmark":"0a","isSecurityScoped":false,"displayName":"b","path":"/b",)"
-        R"("addedAt":5})";
-    text.replace(text.find("%ID"), 3, "00000000-0000-4000-8000-000000000001");
+        R"({"id":"00000000-0000-4000-8000-000000000001","bookmark":"0a","isSecurityScoped":false,)"
+        R"("displayName":"b","path":"/b","addedAt":5})";
     text.replace(text.find(replace), replace.size(), with);
     return text;
   };

@@ -36,9 +36,16 @@ TEST(FileTray, TwentyFiveFilesOnAnEmptyTrayAdmitTheFirstTwenty) {
   ASSERT_EQ(result.added.size(), 20u);
   EXPECT_EQ(result.refusedForCapacity, 5);
   EXPECT_EQ(tray.items(), result.added);
-  EXPECT_EQ(tray.items()[19].path, dropped[19].path);
   EXPECT_EQ(tray.items()[19].addedAt, now);
   EXPECT_NE(tray.items()[0].id, tray.items()[1].id);
+
+  // Removing one makes room for exactly one of the refused files.
+  const FileTrayItem removed = tray.items()[3];
+  EXPECT_EQ(tray.remove(removed.id), removed);
+  EXPECT_EQ(tray.remove(removed.id), std::nullopt);
+  EXPECT_EQ(tray.items()[3].path, dropped[4].path);
+  EXPECT_EQ(tray.add(dropped, now).added.size(), 1u);
+  EXPECT_EQ(tray.items().back().path, dropped[3].path);
 }
 
 TEST(FileTray, CopyStoreLimitIsExactlyTwoBillionBytes) {
@@ -127,17 +134,6 @@ TEST(FileTray, CopyAdmissionCountsPendingCopies) {
                 .admitCopies(std::vector<FileTrayCopyRequest>{{"/n", 0}}, huge)
                 .refusedForStoreLimit,
             1);
-}
-
-TEST(FileTray, RemoveFreesThePath) {
-  FileTray tray;
-  const std::vector<FileTrayCandidate> dropped = links(3);
-  tray.add(dropped, now);
-  const FileTrayItem middle = tray.items()[1];
-  EXPECT_EQ(tray.remove(middle.id), middle);
-  EXPECT_EQ(tray.remove(middle.id), std::nullopt);
-  EXPECT_EQ(tray.items()[1].path, dropped[2].path);
-  EXPECT_EQ(tray.add(std::vector<FileTrayCandidate>{dropped[1]}, now).added.size(), 1u);
 }
 
 }  // namespace
