@@ -1,0 +1,188 @@
+// Our JSON reader beside simdjson's DOM parser on the two shapes the adapter stream carries: one
+// huge line holding the artwork, and many small track-change lines.
+#include <benchmark/benchmark.h>
+#include <simdjson.h>
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "settings/json_reader.h"
+
+namespace {
+
+constexpr std::size_t artworkBase64Length = 11 * 1024 * 1024;
+constexpr std::size_t bigLineLength = 16 * 1024 * 1024;
+constexpr std::size_t smallLineCount = 100'000;
+
+// A fixed-seed generator so every run reads the same text.
+class Random {
+ public:
+  std::uint32_t next() {
+    state_ = state_ * 6364136223846793005ULL + 1442695040888963407ULL;
+    return static_cast<std::uint32_t>(state_ >> 33);
+  }
+  std::uint32_t below(std::uint32_t bound) { return next() % bound; }
+
+ private:
+  std::uint64_t state_ = 0x5EEDULL;
+};
+
+std::string base64Text(std::size_t length, Random& random) {
+  static constexpr char alphabet[] =
+      "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789+/";
+  std::string text(length, '=');
+  for (std::size_t i = 0; i + 2 < length; ++i) text[i] = alphabet[random.below(64)];
+  return text;
+}
+
+// Song lyrics as the adapter would send them: words, escaped line breaks, some accented letters.
+std::string lyricsText(std::size_t length, Random& random) {
+  static const char* const words[] = {"night",    "river", "caf\xC3\xA9",  "light", "home",
+                                      "\xC3\xA0", "again", "\\\"echo\\\"", "hold",  "on"};
+  std::string text;
+  text.reserve(length + 16);
+  while (text.size() < length) {
+    text += words[random.below(10)];
+    text += random.below(8) == 0 ? "\\n" : " ";
+  }
+  return text;
+}
+
+std::string bigLine() {
+  Random random;
+  std::string line =
+      R"({"type":"data","diff":false,"payload":{"bundleIdentifier":"com.apple.Music",)"
+      R"("title":"Caf\u00e9 del Mar","artist":"Ludovico Einaudi","album":"Elements",)"
+      R"("duration":421.826,"elapsedTime":12.5,"playbackRate":1,"playing":true,)"
+      R"("timestamp":1700000000.123456,"trackNumber":3,"artworkMimeType":"image/jpeg",)"
+      R"("artworkData":")";
+  line += base64Text(artworkBase64Length, random);
+  line += R"(","lyrics":")";
+  line += lyricsText(bigLineLength - line.size() - 4, random);
+  line += "\"}}";
+  return line;
+}
+
+std::string smallLine(Random& random) {
+  static const char* const artists[] = {"Ludovico Einaudi", "Daft Punk", "Bj\\u00f6rk",
+                                        "Sigur R\xC3\xB3s", "The Beatles"};
+  char line[512];
+  const int length = std::snprintf(
+      line, sizeof line,
+      R"({"type":"data","diff":false,"payload":{"bundleIdentifier":"com.spotify.client",)"
+      R"("title":"Track number %u of the evening","artist":"%s","album":"Album %u",)"
+      R"("duration":%u.%03u,"elapsedTime":%u.%u,"playbackRate":%u,"playing":%s,)"
+      R"("timestamp":17000%05u.%06u,"trackNumber":%u,"artworkMimeType":null,"shuffle":false}})",
+      random.below(100000), artists[random.below(5)], random.below(1000), 60 + random.below(600),
+      random.below(1000), random.below(300), random.below(10), random.below(2),
+      random.below(2) ? "true" : "false", random.below(100000), random.below(1000000),
+      1 + random.below(20));
+  return std::string(line, static_cast<std::size_t>(length));
+}
+
+// All small lines in one buffer, newline-separated and padded, so simdjson can read each in place.
+struct SmallLines {
+  simdjson::padded_string buffer;
+  std::vector<std::string_view> lines;
+};
+
+const SmallLines& smallLines() {
+  static const SmallLines lines = [] {
+    Random random;
+    std::string text;
+    std::vector<std::size_t> lengths;
+    for (std::size_t i = 0; i < smallLineCount; ++i) {
+      std::string line = smallLine(random);
+      lengths.push_back(line.size());
+      text += line;
+      text += '\n';
+    }
+    SmallLines result{simdjson::padded_string(text), {}};
+    const char* start = result.buffer.data();
+    for (std::size_t length : lengths) {
+      result.lines.emplace_back(start, length);
+      start += length + 1;
+    }
+    return result;
+  }();
+  return lines;
+}
+
+const simdjson::padded_string& bigLineText() {
+  static const simdjson::padded_string text(bigLine());
+  return text;
+}
+
+std::size_t totalBytes(const SmallLines& lines) {
+  std::size_t bytes = 0;
+  for (std::string_view line : lines.lines) bytes += line.size();
+  return bytes;
+}
+
+void requireParsed(bool parsed, const char* what) {
+  if (parsed) return;
+  std::fprintf(stderr, "%s failed to read the benchmark text\n", what);
+  std::abort();
+}
+
+void BM_BigLine_Tindra(benchmark::State& state) {
+  const std::string_view text(bigLineText().data(), bigLineText().size());
+  for (auto _ : state) {
+    auto value = tindra::JSONReader::parse(text);
+    requireParsed(value.has_value(), "JSONReader");
+    benchmark::DoNotOptimize(value);
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+}
+
+void BM_BigLine_Simdjson(benchmark::State& state) {
+  const simdjson::padded_string& text = bigLineText();
+  simdjson::dom::parser parser;
+  for (auto _ : state) {
+    auto document = parser.parse(text);
+    requireParsed(document.error() == simdjson::SUCCESS, "simdjson");
+    benchmark::DoNotOptimize(document);
+  }
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * text.size()));
+}
+
+void BM_SmallLines_Tindra(benchmark::State& state) {
+  const SmallLines& lines = smallLines();
+  for (auto _ : state) {
+    for (std::string_view line : lines.lines) {
+      auto value = tindra::JSONReader::parse(line);
+      requireParsed(value.has_value(), "JSONReader");
+      benchmark::DoNotOptimize(value);
+    }
+  }
+  state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * lines.lines.size()));
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * totalBytes(lines)));
+}
+
+void BM_SmallLines_Simdjson(benchmark::State& state) {
+  const SmallLines& lines = smallLines();
+  simdjson::dom::parser parser;
+  for (auto _ : state) {
+    for (std::string_view line : lines.lines) {
+      // The bytes after each line (the rest of the padded buffer) are readable, so no copy.
+      auto document = parser.parse(line.data(), line.size(), false);
+      requireParsed(document.error() == simdjson::SUCCESS, "simdjson");
+      benchmark::DoNotOptimize(document);
+    }
+  }
+  state.SetItemsProcessed(static_cast<std::int64_t>(state.iterations() * lines.lines.size()));
+  state.SetBytesProcessed(static_cast<std::int64_t>(state.iterations() * totalBytes(lines)));
+}
+
+BENCHMARK(BM_BigLine_Tindra)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_BigLine_Simdjson)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SmallLines_Tindra)->Unit(benchmark::kMillisecond);
+BENCHMARK(BM_SmallLines_Simdjson)->Unit(benchmark::kMillisecond);
+
+}  // namespace
+
+BENCHMARK_MAIN();
