@@ -23,8 +23,8 @@ struct NotchGeometry {
                                  std::optional<double> simulatedHeight, double simulatedWidth);
 
   Kind kind = Kind::simulated;
-  Rect screenFrame;
-  Rect notchRect;
+  Rect screenFrame{};
+  Rect notchRect{};
 
   friend bool operator==(const NotchGeometry&, const NotchGeometry&) = default;
 };

@@ -10,11 +10,11 @@
 namespace tindra {
 
 struct ScreenDescriptor {
-  Rect frame;                                 // the whole display
-  Rect visibleFrame;                          // the display minus the menu bar and the dock
-  double safeAreaTopInset = 0;                // the hardware notch's height; 0 without one
-  std::optional<Rect> auxiliaryTopLeftArea;   // usable menu-bar area left of the hardware notch
-  std::optional<Rect> auxiliaryTopRightArea;  // and right of it
+  Rect frame{};                                 // the whole display
+  Rect visibleFrame{};                          // the display minus the menu bar and the dock
+  double safeAreaTopInset = 0;                  // the hardware notch's height; 0 without one
+  std::optional<Rect> auxiliaryTopLeftArea{};   // usable menu-bar area left of the hardware notch
+  std::optional<Rect> auxiliaryTopRightArea{};  // and right of it
 
   friend bool operator==(const ScreenDescriptor&, const ScreenDescriptor&) = default;
 };

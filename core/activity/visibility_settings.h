@@ -13,7 +13,7 @@ struct VisibilitySettings {
   bool hideForGames = true;
   // Bundle identifiers the user marks as games, as GameListParser returns them; matched without
   // regard to case.
-  std::set<std::string> gameBundleIdentifiers;
+  std::set<std::string> gameBundleIdentifiers{};
 
   friend bool operator==(const VisibilitySettings&, const VisibilitySettings&) = default;
 };

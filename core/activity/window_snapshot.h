@@ -11,7 +11,7 @@ namespace tindra {
 struct WindowSnapshot {
   std::int32_t ownerProcessIdentifier = 0;
   int layer = 0;  // 0 is the normal application layer
-  Rect bounds;
+  Rect bounds{};
   double alpha = 1;  // opacity
 
   friend bool operator==(const WindowSnapshot&, const WindowSnapshot&) = default;
