@@ -23,8 +23,10 @@ def load(mock, parameters):
         MAIN_IFACE,
         [
             ("RegisterStatusNotifierItem", "s", "",
-             "self.EmitSignal('org.kde.StatusNotifierWatcher', "
-             "'StatusNotifierItemRegistered', 's', [args[0]])"),
+             "items = list(self.Get('org.kde.StatusNotifierWatcher', 'RegisteredStatusNotifierItems')) + [args[0]]; "
+             "self.Set('org.kde.StatusNotifierWatcher', 'RegisteredStatusNotifierItems', "
+             "dbus.Array(items, signature='s')); "
+             "self.EmitSignal('org.kde.StatusNotifierWatcher', 'StatusNotifierItemRegistered', 's', [args[0]])"),
             ("RegisterStatusNotifierHost", "s", "", ""),
         ],
     )
