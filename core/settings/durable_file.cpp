@@ -38,6 +38,8 @@ class Save {
       : calls_(calls), url_(url), temporary_(temporaryPath(url)) {}
   Save(const Save&) = delete;
   Save& operator=(const Save&) = delete;
+  Save(Save&&) = delete;
+  Save& operator=(Save&&) = delete;
   ~Save() { discardTemporary(); }
 
   std::expected<void, DurableFile::Failure> run(std::string_view data) {

@@ -47,7 +47,8 @@ class JSONValue {
   // The member `name` of an object; nullptr when this is not an object or has no such member.
   const JSONValue* find(std::string_view name) const;
 
-  // Structural equality; numbers compare as doubles (so NaN, which JSON cannot carry, never equals).
+  // Structural equality; numbers compare as doubles (so NaN, which JSON cannot carry, never
+  // equals).
   friend bool operator==(const JSONValue&, const JSONValue&) = default;
 
  private:

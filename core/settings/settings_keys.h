@@ -17,39 +17,53 @@ namespace tindra::settings {
 
 // The raw values of the enumeration keys. notchColorStyle's cases belong to the opened-notch
 // layout; the others mirror their subsystems' enumerations.
-inline constexpr std::array<std::string_view, 3> noticeDurationScaleCases{"short", "medium", "long"};
-inline constexpr std::array<std::string_view, 3> notchOpeningModeCases{"hover", "click", "pressAndHold"};
-inline constexpr std::array<std::string_view, 2> nowPlayingSourceModeCases{"automatic", "appleScriptOnly"};
-inline constexpr std::array<std::string_view, 3> nowPlayingPausedLingerCases{"short", "long", "untilResumed"};
+inline constexpr std::array<std::string_view, 3> noticeDurationScaleCases{"short", "medium",
+                                                                          "long"};
+inline constexpr std::array<std::string_view, 3> notchOpeningModeCases{"hover", "click",
+                                                                       "pressAndHold"};
+inline constexpr std::array<std::string_view, 2> nowPlayingSourceModeCases{"automatic",
+                                                                           "appleScriptOnly"};
+inline constexpr std::array<std::string_view, 3> nowPlayingPausedLingerCases{"short", "long",
+                                                                             "untilResumed"};
 inline constexpr std::array<std::string_view, 2> nowPlayingProgressTintCases{"standard", "artwork"};
-inline constexpr std::array<std::string_view, 3> hudBarStyleCases{"continuous", "segmented", "ring"};
+inline constexpr std::array<std::string_view, 3> hudBarStyleCases{"continuous", "segmented",
+                                                                  "ring"};
 inline constexpr std::array<std::string_view, 3> hudTintCases{"white", "level", "accent"};
 inline constexpr std::array<std::string_view, 2> accessoryBatteryStyleCases{"percentage", "ring"};
-inline constexpr std::array<std::string_view, 3> calendarTimeFormatCases{"countdown", "startTime", "both"};
-inline constexpr std::array<std::string_view, 3> travelTransportCases{"automobile", "walking", "transit"};
+inline constexpr std::array<std::string_view, 3> calendarTimeFormatCases{"countdown", "startTime",
+                                                                         "both"};
+inline constexpr std::array<std::string_view, 3> travelTransportCases{"automobile", "walking",
+                                                                      "transit"};
 inline constexpr std::array<std::string_view, 2> notchColorStyleCases{"monochrome", "colorful"};
-inline constexpr std::array<std::string_view, 3> lockScreenStyleCases{"clear", "lightFrost", "frosted"};
+inline constexpr std::array<std::string_view, 3> lockScreenStyleCases{"clear", "lightFrost",
+                                                                      "frosted"};
 inline constexpr std::array<std::string_view, 2> fileTrayModeCases{"link", "copy"};
 
 inline const SettingsKey<bool> onboardingCompleted{"onboardingCompleted", false};
 inline const SettingsKey<bool> playSounds{"playSounds", true};
 inline const SettingsKey<bool> showMenuBarIcon{"showMenuBarIcon", true};
-inline const SettingsKey<std::string> noticeDurationScale{"noticeDurationScale", "medium", noticeDurationScaleCases};
+inline const SettingsKey<std::string> noticeDurationScale{"noticeDurationScale", "medium",
+                                                          noticeDurationScaleCases};
 inline const SettingsKey<bool> receiveBetaUpdates{"receiveBetaUpdates", false};
 inline const SettingsKey<bool> showOnDisplaysWithoutNotch{"showOnDisplaysWithoutNotch", true};
 inline const SettingsKey<std::string> displaySelection{"displaySelection", "all"};
 inline const SettingsKey<double> simulatedNotchWidth{"simulatedNotchWidth", 190.0};
 inline const SettingsKey<bool> simulatedNotchMatchesMenuBar{"simulatedNotchMatchesMenuBar", true};
 inline const SettingsKey<double> simulatedNotchHeight{"simulatedNotchHeight", 32.0};
-inline const SettingsKey<std::string> notchOpeningMode{"notchOpeningMode", "hover", notchOpeningModeCases};
+inline const SettingsKey<std::string> notchOpeningMode{"notchOpeningMode", "hover",
+                                                       notchOpeningModeCases};
 inline const SettingsKey<double> hoverOpenDelay{"hoverOpenDelay", 0.12};
 inline const SettingsKey<double> holdOpenDuration{"holdOpenDuration", 0.5};
 inline const SettingsKey<std::vector<std::string>> pinnedWidgets{"pinnedWidgets", {}};
-inline const SettingsKey<std::string> nowPlayingSourceMode{"nowPlayingSourceMode", "automatic", nowPlayingSourceModeCases};
-inline const SettingsKey<std::optional<std::string>> nowPlayingFallbackNoticeOSVersion{"nowPlayingFallbackNoticeOSVersion", {}};
+inline const SettingsKey<std::string> nowPlayingSourceMode{"nowPlayingSourceMode", "automatic",
+                                                           nowPlayingSourceModeCases};
+inline const SettingsKey<std::optional<std::string>> nowPlayingFallbackNoticeOSVersion{
+    "nowPlayingFallbackNoticeOSVersion", {}};
 inline const SettingsKey<bool> artworkOnlineLookup{"artworkOnlineLookup", true};
-inline const SettingsKey<std::string> nowPlayingPausedLinger{"nowPlayingPausedLinger", "short", nowPlayingPausedLingerCases};
-inline const SettingsKey<std::string> nowPlayingProgressTint{"nowPlayingProgressTint", "standard", nowPlayingProgressTintCases};
+inline const SettingsKey<std::string> nowPlayingPausedLinger{"nowPlayingPausedLinger", "short",
+                                                             nowPlayingPausedLingerCases};
+inline const SettingsKey<std::string> nowPlayingProgressTint{"nowPlayingProgressTint", "standard",
+                                                             nowPlayingProgressTintCases};
 inline const SettingsKey<bool> volumeHUDEnabled{"volumeHUDEnabled", true};
 inline const SettingsKey<bool> brightnessHUDEnabled{"brightnessHUDEnabled", true};
 inline const SettingsKey<std::string> hudBarStyle{"hudBarStyle", "continuous", hudBarStyleCases};
@@ -66,17 +80,21 @@ inline const SettingsKey<bool> accessoryLowAlert{"accessoryLowAlert", true};
 inline const SettingsKey<std::int64_t> accessoryLowThreshold{"accessoryLowThreshold", 20};
 inline const SettingsKey<bool> accessoryRouteNotice{"accessoryRouteNotice", true};
 inline const SettingsKey<bool> accessoryDisconnectNotice{"accessoryDisconnectNotice", true};
-inline const SettingsKey<std::string> accessoryBatteryStyle{"accessoryBatteryStyle", "percentage", accessoryBatteryStyleCases};
+inline const SettingsKey<std::string> accessoryBatteryStyle{"accessoryBatteryStyle", "percentage",
+                                                            accessoryBatteryStyleCases};
 inline const SettingsKey<bool> calendarEnabled{"calendarEnabled", false};
 inline const SettingsKey<std::int64_t> calendarLeadMinutes{"calendarLeadMinutes", 10};
-inline const SettingsKey<std::vector<std::string>> calendarExcludedIdentifiers{"calendarExcludedIdentifiers", {}};
-inline const SettingsKey<std::string> calendarTimeFormat{"calendarTimeFormat", "countdown", calendarTimeFormatCases};
+inline const SettingsKey<std::vector<std::string>> calendarExcludedIdentifiers{
+    "calendarExcludedIdentifiers", {}};
+inline const SettingsKey<std::string> calendarTimeFormat{"calendarTimeFormat", "countdown",
+                                                         calendarTimeFormatCases};
 inline const SettingsKey<bool> calendarPrivacyMode{"calendarPrivacyMode", false};
 inline const SettingsKey<bool> calendarEventSound{"calendarEventSound", false};
 inline const SettingsKey<JSONValue::Object> calendarEventSoundLog{"calendarEventSoundLog", {}};
 inline const SettingsKey<bool> remindersEnabled{"remindersEnabled", false};
 inline const SettingsKey<bool> travelTimeEnabled{"travelTimeEnabled", false};
-inline const SettingsKey<std::string> travelTransport{"travelTransport", "automobile", travelTransportCases};
+inline const SettingsKey<std::string> travelTransport{"travelTransport", "automobile",
+                                                      travelTransportCases};
 inline const SettingsKey<std::int64_t> travelBufferMinutes{"travelBufferMinutes", 5};
 inline const SettingsKey<bool> weatherEnabled{"weatherEnabled", false};
 inline const SettingsKey<bool> focusShown{"focusShown", true};
@@ -92,19 +110,22 @@ inline const SettingsKey<std::string> gameBundleIdentifiers{"gameBundleIdentifie
 inline const SettingsKey<bool> hideDuringMissionControl{"hideDuringMissionControl", false};
 inline const SettingsKey<bool> hideFromScreenRecordings{"hideFromScreenRecordings", false};
 inline const SettingsKey<bool> glassBackground{"glassBackground", false};
-inline const SettingsKey<std::string> notchColorStyle{"notchColorStyle", "monochrome", notchColorStyleCases};
+inline const SettingsKey<std::string> notchColorStyle{"notchColorStyle", "monochrome",
+                                                      notchColorStyleCases};
 inline const SettingsKey<bool> auraGlowWhenOpen{"auraGlowWhenOpen", true};
 inline const SettingsKey<bool> auraFlashOnOpen{"auraFlashOnOpen", true};
 inline const SettingsKey<bool> auraColorfulBars{"auraColorfulBars", true};
 inline const SettingsKey<bool> auraRimWhenClosed{"auraRimWhenClosed", true};
 inline const SettingsKey<bool> liveWaveform{"liveWaveform", false};
 inline const SettingsKey<bool> experimentalLockScreen{"experimentalLockScreen", false};
-inline const SettingsKey<std::string> lockScreenStyle{"lockScreenStyle", "frosted", lockScreenStyleCases};
+inline const SettingsKey<std::string> lockScreenStyle{"lockScreenStyle", "frosted",
+                                                      lockScreenStyleCases};
 inline const SettingsKey<double> lockWidgetOffset{"lockWidgetOffset", 0.0};
 inline const SettingsKey<bool> lockScreenNotch{"lockScreenNotch", false};
 inline const SettingsKey<std::string> lockScreenNotice{"lockScreenNotice", ""};
 inline const SettingsKey<std::string> lockScreenNotchNotice{"lockScreenNotchNotice", ""};
-inline const SettingsKey<bool> experimentalKeyboardBacklight{"experimentalKeyboardBacklight", false};
+inline const SettingsKey<bool> experimentalKeyboardBacklight{"experimentalKeyboardBacklight",
+                                                             false};
 inline const SettingsKey<std::string> keyboardBacklightMissingOn{"keyboardBacklightMissingOn", ""};
 inline const SettingsKey<bool> experimentalCallNotices{"experimentalCallNotices", false};
 inline const SettingsKey<bool> experimentalMessageNotices{"experimentalMessageNotices", false};
@@ -113,7 +134,16 @@ inline const SettingsKey<std::string> fileTrayMode{"fileTrayMode", "link", fileT
 
 // What the Settings window needs to list and edit any key without knowing its C++ type.
 struct SettingsKeyDescription {
-  enum class Type { boolean, integer, number, string, enumeration, optionalString, list, dictionary };
+  enum class Type {
+    boolean,
+    integer,
+    number,
+    string,
+    enumeration,
+    optionalString,
+    list,
+    dictionary
+  };
   std::string_view name;
   Type type;
   JSONValue defaultValue;

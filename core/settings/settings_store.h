@@ -15,6 +15,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <vector>
 
 #include "settings/durable_file.h"
@@ -65,7 +66,7 @@ class SettingsStore {
   // Stores the value (also when it equals the default), saves the file and calls the key's
   // observers. The value stays in effect for this process even when saving fails.
   template <class T>
-  WriteResult write(const SettingsKey<T>& key, const T& value);
+  WriteResult write(const SettingsKey<T>& key, const std::type_identity_t<T>& value);
 
   // Removes the stored value so the default applies again.
   template <class T>
@@ -73,8 +74,8 @@ class SettingsStore {
 
   // Calls `onChange` with the new value after every write, reset or outside change of the key.
   template <class T>
-  [[nodiscard]] SettingsObservation observe(const SettingsKey<T>& key,
-                                            std::function<void(const T&)> onChange);
+  [[nodiscard]] SettingsObservation observe(
+      const SettingsKey<T>& key, std::function<void(const std::type_identity_t<T>&)> onChange);
 
   // Calls `onChange` with the key's name after every change of any of the named keys.
   [[nodiscard]] SettingsObservation observe(std::vector<std::string> names,
@@ -89,17 +90,21 @@ class SettingsStore {
   // Re-reads the file and notifies the observers of every key whose stored value changed.
   void reload();
 
+  // Where the last unreadable file was moved, if any, so the app can tell the user.
+  const std::optional<std::filesystem::path>& keptAside() const { return keptAside_; }
+
  private:
   std::vector<std::string> load();  // names whose stored values changed
   WriteResult save();
   WriteResult change(std::string_view name, std::optional<JSONValue> value);
   void notify(std::string_view name);
-  void keepAside(std::string_view reason);
+  void keepAside();
 
   std::filesystem::path file_;
   Clock clock_;
   JSONValue::Object values_;
   std::shared_ptr<SettingsObservation::Registry> registry_;
+  std::optional<std::filesystem::path> keptAside_;
 };
 
 // ---- template members ----
@@ -120,7 +125,8 @@ T SettingsStore::read(const SettingsKey<T>& key) const {
 }
 
 template <class T>
-SettingsStore::WriteResult SettingsStore::write(const SettingsKey<T>& key, const T& value) {
+SettingsStore::WriteResult SettingsStore::write(const SettingsKey<T>& key,
+                                                const std::type_identity_t<T>& value) {
   return change(key.name, SettingsCodec<T>::encode(value));
 }
 
@@ -130,12 +136,11 @@ SettingsStore::WriteResult SettingsStore::reset(const SettingsKey<T>& key) {
 }
 
 template <class T>
-SettingsObservation SettingsStore::observe(const SettingsKey<T>& key,
-                                           std::function<void(const T&)> onChange) {
-  return observe(std::vector<std::string>{std::string(key.name)},
-                 [this, key, onChange = std::move(onChange)](std::string_view) {
-                   onChange(read(key));
-                 });
+SettingsObservation SettingsStore::observe(
+    const SettingsKey<T>& key, std::function<void(const std::type_identity_t<T>&)> onChange) {
+  return observe(
+      std::vector<std::string>{std::string(key.name)},
+      [this, key, onChange = std::move(onChange)](std::string_view) { onChange(read(key)); });
 }
 
 }  // namespace tindra
