@@ -20,7 +20,6 @@ class ActivityCenterTest : public ::testing::Test {
   SettingsStore store_{file(), [] { return 0.0; }};
 };
 
-
 ActivityKind kindAt(const QSignalSpy& spy, qsizetype index) {
   return spy.at(index).at(0).value<ActivityKind>();
 }
@@ -66,7 +65,7 @@ TEST_F(ActivityCenterTest, ObserversHearOnlyRealChanges) {
   ActivityCenter center(store_);
   QSignalSpy changes(&center, &ActivityCenter::currentChanged);
   center.offer(ActivityEvent::began(ActivityKind::hud));
-  center.offer(ActivityEvent::began(ActivityKind::hud, 30));  // same kind, new time
+  center.offer(ActivityEvent::began(ActivityKind::hud, 30));     // same kind, new time
   center.offer(ActivityEvent::began(ActivityKind::nowPlaying));  // below hud
   center.offer(ActivityEvent::ended(ActivityKind::accessory));   // never began
   center.offer(ActivityEvent::began(ActivityKind::idle, 5));

@@ -7,7 +7,6 @@
 #include <QTextStream>
 #include <cstdio>
 
-#include "notch/notch_shape_item.h"
 #include "platform/display_platform.h"
 #include "shell/demo_tour.h"
 #include "tindra_app.h"
@@ -31,19 +30,17 @@ int main(int argc, char* argv[]) {
   options.addOption(demo);
   options.process(app);
 
-  tindra::NotchShapeItem::registerType();
   tindra::TindraApp tindra({.animated = true});
   if (!options.isSet(demo)) return QApplication::exec();
 
   tindra::DemoTour tour(tindra, QDir(options.value(demo)));
-  QObject::connect(&tour, &tindra::DemoTour::finished, &app,
-                   [](const QStringList& shots, bool ok) {
-                     QTextStream out(stdout);
-                     for (const QString& shot : shots) out << shot << '\n';
-                     out.flush();
-                     if (!ok) std::fputs("tindra: some screenshots could not be taken\n", stderr);
-                     QCoreApplication::exit(ok ? 0 : 1);
-                   });
+  QObject::connect(&tour, &tindra::DemoTour::finished, &app, [](const QStringList& shots, bool ok) {
+    QTextStream out(stdout);
+    for (const QString& shot : shots) out << shot << '\n';
+    out.flush();
+    if (!ok) std::fputs("tindra: some screenshots could not be taken\n", stderr);
+    QCoreApplication::exit(ok ? 0 : 1);
+  });
   tour.start();
   return QApplication::exec();
 }

@@ -21,8 +21,7 @@ SettingsFileWatcher::SettingsFileWatcher(SettingsStore& store, QObject* parent)
   settle_.setInterval(settleMilliseconds);
   connect(&settle_, &QTimer::timeout, this, &SettingsFileWatcher::reload);
   connect(&watcher_, &QFileSystemWatcher::fileChanged, &settle_, qOverload<>(&QTimer::start));
-  connect(&watcher_, &QFileSystemWatcher::directoryChanged, &settle_,
-          qOverload<>(&QTimer::start));
+  connect(&watcher_, &QFileSystemWatcher::directoryChanged, &settle_, qOverload<>(&QTimer::start));
   watch();
 }
 

@@ -37,12 +37,12 @@ Item {
             anchors.right: parent.right
             anchors.rightMargin: 14
             anchors.verticalCenter: parent.verticalCenter
-            width: 52
+            width: 72
             horizontalAlignment: Text.AlignRight
             elide: Text.ElideRight
             text: notch.activityLabel
             color: notch.activityAccent
-            font.pixelSize: Math.max(9, Math.min(12, parent.height * 0.45))
+            font.pixelSize: Math.max(9, Math.min(11, parent.height * 0.45))
             font.weight: Font.DemiBold
         }
     }

@@ -12,8 +12,7 @@ namespace tindra {
 
 NotchScreenManager::NotchScreenManager(ScreenSource& screens, SettingsStore& settings,
                                        ActivityCenter& activities,
-                                       std::function<void(NotchWindow&)> prepare,
-                                       QObject* parent)
+                                       std::function<void(NotchWindow&)> prepare, QObject* parent)
     : QObject(parent),
       screens_(screens),
       settings_(settings),

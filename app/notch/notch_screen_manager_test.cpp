@@ -58,7 +58,10 @@ const FakeScreenSource::Screen small{2, "HDMI-1", {1920, 200, 1280, 800}, {1920,
 
 class NotchScreenManagerTest : public ::testing::Test {
  protected:
-  NotchScreenManagerTest() { source_.set({wide, small}); }
+  NotchScreenManagerTest() {
+    source_.set({wide, small});
+    manager_.rebuild();
+  }
 
   // The closed notch of each window, in global top-left coordinates.
   std::vector<QRectF> notches() {
@@ -82,8 +85,8 @@ TEST_F(NotchScreenManagerTest, OneNotchAtTheTopCentreOfEachDisplay) {
   // The notch matches the panel's height where there is one, else takes 24 points.
   EXPECT_EQ(notches(), (std::vector<QRectF>{{865, 0, 190, 30}, {2465, 200, 190, 24}}));
   for (NotchWindow* window : manager_.windows()) {
-    const QRect screen = window->notchGeometry().screenFrame.width == 1920 ? wide.geometry
-                                                                            : small.geometry;
+    const QRect screen =
+        window->notchGeometry().screenFrame.width == 1920 ? wide.geometry : small.geometry;
     EXPECT_TRUE(screen.contains(window->geometry())) << window->geometry().x();
     EXPECT_EQ(window->geometry().top(), screen.top());
   }

@@ -9,7 +9,9 @@ NotchShapeItem::NotchShapeItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
   setAntialiasing(true);
 }
 
-void NotchShapeItem::registerType() { qmlRegisterType<NotchShapeItem>("Tindra", 1, 0, "NotchShape"); }
+void NotchShapeItem::registerType() {
+  qmlRegisterType<NotchShapeItem>("Tindra", 1, 0, "NotchShape");
+}
 
 void NotchShapeItem::paint(QPainter* painter) {
   painter->setRenderHint(QPainter::Antialiasing);

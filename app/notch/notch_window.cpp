@@ -12,6 +12,7 @@
 
 #include "activity_center.h"
 #include "notch/activity_presentation.h"
+#include "notch/notch_shape_item.h"
 #include "platform/display_platform.h"
 #include "settings/settings_keys.h"
 
@@ -24,7 +25,9 @@ constexpr int deadlinePollInterval = 20;
 // Pointer travel, in pixels, that counts as a full pull of the rubber band.
 constexpr double fullPullDistance = 80;
 
-double lerp(double from, double to, double t) { return from + (to - from) * t; }
+double lerp(double from, double to, double t) {
+  return from + (to - from) * t;
+}
 
 }  // namespace
 
@@ -74,6 +77,8 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, QW
   });
   compactProgress_ = activities_.current() == ActivityKind::idle ? 0.0 : 1.0;
 
+  static const bool shapeTypeKnown = (NotchShapeItem::registerType(), true);
+  Q_UNUSED(shapeTypeKnown);
   rootContext()->setContextProperty(QStringLiteral("notch"), this);
   setSource(QUrl(QStringLiteral("qrc:/tindra/notch/Notch.qml")));
 }
@@ -264,11 +269,11 @@ void NotchWindow::releasePull() {
 void NotchWindow::updateShape() {
   const double compactWidth =
       lerp(layout_.notchRect.width(), layout_.compactWidthWithEars, compactProgress_);
-  const double width = lerp(compactWidth, layout_.panelSize.width(), openProgress_) *
-                       stretch_.widthScale();
-  const double height = lerp(layout_.notchRect.height(), layout_.panelSize.height(),
-                             openProgress_) *
-                        stretch_.heightScale();
+  const double width =
+      lerp(compactWidth, layout_.panelSize.width(), openProgress_) * stretch_.widthScale();
+  const double height =
+      lerp(layout_.notchRect.height(), layout_.panelSize.height(), openProgress_) *
+      stretch_.heightScale();
   const double flare = NotchWindowLayout::flareRadius;
   const double maxWidth = std::max(1.0, this->width() - 2 * flare);
   const double bodyWidth = std::min(width, maxWidth);
@@ -285,7 +290,10 @@ void NotchWindow::updateShape() {
 void NotchWindow::updateClock() {
   const QDateTime now = QDateTime::currentDateTime();
   const QLocale locale;
-  timeText_ = locale.toString(now.time(), QLocale::ShortFormat);
+  // The panel shows hours and minutes; some locales' short format (C's among them) has seconds.
+  QString timeFormat = locale.timeFormat(QLocale::ShortFormat);
+  timeFormat.remove(QStringLiteral(":ss"));
+  timeText_ = locale.toString(now.time(), timeFormat);
   dateText_ = locale.toString(now.date(), QStringLiteral("dddd d MMMM"));
   emit clockChanged();
   if (!machine_.isExpanded()) return;

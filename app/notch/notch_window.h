@@ -21,8 +21,6 @@
 #include "notch/notch_window_layout.h"
 #include "settings/settings_store.h"
 
-
-
 namespace tindra {
 
 class ActivityCenter;

@@ -26,7 +26,8 @@ NotchWindowLayout NotchWindowLayout::forGeometry(const NotchGeometry& geometry,
       std::min(screen.height(), std::ceil(std::max(panelHeight, stretchedHeight) + 4)));
 
   const double centredLeft = std::round(notch.center().x() - width / 2.0);
-  const double left = std::clamp(centredLeft, screen.left(), screen.left() + screen.width() - width);
+  const double left =
+      std::clamp(centredLeft, screen.left(), screen.left() + screen.width() - width);
   const double top = std::round(screen.top());
   layout.windowRect = QRect(static_cast<int>(left), static_cast<int>(top), width, height);
   layout.notchRect = notch.translated(-left, -top);

@@ -13,16 +13,16 @@
 namespace tindra {
 
 struct NotchWindowLayout {
-  static constexpr double earWidth = 64;       // room for compact content beside the notch
-  static constexpr double flareRadius = 6;     // the outline's concave flares at the top edge
+  static constexpr double earWidth = 88;    // room for compact content beside the notch
+  static constexpr double flareRadius = 6;  // the outline's concave flares at the top edge
   static constexpr double minPanelWidth = 560;
   static constexpr double panelContentHeight = 156;  // the opened panel below the notch
   static constexpr double maxWidthStretch = 0.12;    // the largest stretch amount
   static constexpr double maxHeightStretch = 0.24;
 
-  QRect windowRect;   // global
-  QRectF notchRect;   // the closed notch, in window coordinates
-  QSizeF panelSize;   // the opened notch
+  QRect windowRect;  // global
+  QRectF notchRect;  // the closed notch, in window coordinates
+  QSizeF panelSize;  // the opened notch
   double compactWidthWithEars = 0;
 
   static NotchWindowLayout forGeometry(const NotchGeometry& geometry,

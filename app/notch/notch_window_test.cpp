@@ -31,6 +31,7 @@ std::vector<std::unique_ptr<QWidget>> showDesktops() {
     widget->setWindowFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnBottomHint);
     widget->setAutoFillBackground(true);
     widget->setPalette(QPalette(desktop));
+    widget->setScreen(screen);
     widget->setGeometry(screen->geometry());
     widget->show();
     EXPECT_TRUE(QTest::qWaitForWindowExposed(widget.get()));
@@ -39,12 +40,9 @@ std::vector<std::unique_ptr<QWidget>> showDesktops() {
   return result;
 }
 
-// What the X server shows, root window and all.
-QImage grabDisplay() {
-  QScreen* screen = QGuiApplication::primaryScreen();
-  return screen->grabWindow(0, 0, 0, screen->virtualSize().width(),
-                            screen->virtualSize().height())
-      .toImage();
+// What the X server shows on `screen`, root window and all.
+QImage grabDisplay(QScreen* screen = QGuiApplication::primaryScreen()) {
+  return screen->grabWindow(0).toImage();
 }
 
 bool isDesktop(const QImage& image, QPoint p) {
@@ -54,7 +52,9 @@ bool isDesktop(const QImage& image, QPoint p) {
          12;
 }
 // The notch's content is drawn inside it, so whatever is not desktop belongs to the notch.
-bool isNotch(const QImage& image, QPoint p) { return !isDesktop(image, p); }
+bool isNotch(const QImage& image, QPoint p) {
+  return !isDesktop(image, p);
+}
 
 // The notch's run through `row` around `x`: its first and one-past-last columns.
 std::pair<int, int> blackRun(const QImage& image, int row, int x) {
@@ -124,8 +124,7 @@ TEST(NotchWindowOnDisplayTest, DrawnWhereItsGeometrySaysClosedAndOpened) {
   window.open();
   QTest::qWait(150);
   const QSize panel = window.layout().panelSize.toSize();
-  const QRect opened(closed.center().x() + 1 - panel.width() / 2, 0, panel.width(),
-                     panel.height());
+  const QRect opened(closed.center().x() + 1 - panel.width() / 2, 0, panel.width(), panel.height());
   expectDrawnAt(grabDisplay(), opened, "opened");
 
   window.close();
@@ -157,12 +156,13 @@ TEST(NotchWindowOnDisplayTest, OpensWhenThePointerRestsAndClosesWhenItLeaves) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return window.isExpanded(); }, 1000));
 }
 
+// Xvfb offers two displays of different sizes as two X screens, each with its own origin.
 TEST(TwoDisplaysTest, EachDisplayGetsItsNotchAtItsOwnTop) {
   Displays displays;
   ASSERT_EQ(QGuiApplication::screens().size(), 2);
   ASSERT_EQ(displays.manager_->windows().size(), 2u);
-  const QImage image = grabDisplay();
   for (NotchWindow* window : displays.manager_->windows()) {
+    const QImage image = grabDisplay(window->screen());
     const QRect screen = window->screen()->geometry();
     const QRect notch(screen.center().x() + 1 - 95, screen.top(), 190, 24);
     EXPECT_EQ(window->notchRect().translated(window->geometry().topLeft()).toRect(), notch);

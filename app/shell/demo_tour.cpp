@@ -61,7 +61,11 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
     QCursor::setPos(notch->screen(), target);
   };
   steps_ = {
-      {0, [this, pointerTo] { showBackdrops(); pointerTo(false); }},
+      {0,
+       [this, pointerTo] {
+         showBackdrops();
+         pointerTo(false);
+       }},
       {700, [this] { shoot(QStringLiteral("1-closed-idle.png")); }},
       {0, [&activities] { activities.offer(ActivityEvent::began(ActivityKind::nowPlaying)); }},
       {600, [this] { shoot(QStringLiteral("2-closed-now-playing.png")); }},
@@ -112,8 +116,8 @@ void DemoTour::shoot(const QString& name) {
   }
   // The root window holds what the display shows, transparency around the notch included.
   const QRect area = notch->geometry().adjusted(-48, 0, 48, 24) & notch->screen()->geometry();
-  const QPixmap picture = notch->screen()->grabWindow(0, area.x(), area.y(), area.width(),
-                                                      area.height());
+  const QPixmap picture =
+      notch->screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
   const QString path = folder_.absoluteFilePath(name);
   if (picture.isNull() || !picture.save(path)) {
     ok_ = false;

@@ -56,9 +56,8 @@ SettingsWindow::SettingsWindow(SettingsStore& settings, QWidget* parent)
   layout->addWidget(&search_);
   layout->addWidget(scroll);
 
-  observation_ = settings_.observe(std::move(names), [this](std::string_view name) {
-    refresh(name);
-  });
+  observation_ =
+      settings_.observe(std::move(names), [this](std::string_view name) { refresh(name); });
 }
 
 QWidget* SettingsWindow::editorFor(std::string_view name) const {

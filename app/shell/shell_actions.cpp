@@ -18,7 +18,9 @@ ShellActions::ShellActions(SettingsStore& settings, QObject* parent)
   menu_.addAction(&quitAction_);
 }
 
-ShellActions::~ShellActions() { delete settingsWindow_; }
+ShellActions::~ShellActions() {
+  delete settingsWindow_;
+}
 
 void ShellActions::openSettings() {
   if (settingsWindow_ == nullptr) settingsWindow_ = new SettingsWindow(settings_);

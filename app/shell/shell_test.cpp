@@ -115,8 +115,7 @@ TEST_F(SettingsWindowTest, EditsGoThroughTheStoreAndOutsideChangesShow) {
   EXPECT_EQ(store_.stored(settings::pinnedWidgets.name), nullptr);
   pinned->setText(QStringLiteral("[\"weather\", \"battery\"]"));
   emit pinned->editingFinished();
-  EXPECT_EQ(store_.read(settings::pinnedWidgets),
-            (std::vector<std::string>{"weather", "battery"}));
+  EXPECT_EQ(store_.read(settings::pinnedWidgets), (std::vector<std::string>{"weather", "battery"}));
 }
 
 }  // namespace
