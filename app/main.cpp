@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 #include <QTextStream>
 #include <cstdio>
+#include <cstdlib>
 
 #include "platform/display_platform.h"
 #include "shell/demo_tour.h"
@@ -13,6 +14,13 @@
 
 int main(int argc, char* argv[]) {
   tindra::selectDisplayPlatform();
+  if (!tindra::hasGraphicalSession() && std::getenv("QT_QPA_PLATFORM") == nullptr) {
+    std::fputs(
+        "tindra: no graphical session (DISPLAY or WAYLAND_DISPLAY is not set); `make run` "
+        "plays the demo on a virtual display\n",
+        stderr);
+    return 1;
+  }
   // The notch is a few flat shapes and some text; the software renderer draws them with less
   // memory than a GL context costs and works on every X server, virtual ones included.
   QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);

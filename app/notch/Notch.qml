@@ -35,9 +35,9 @@ Item {
         }
         Text {
             anchors.right: parent.right
-            anchors.rightMargin: 14
+            anchors.rightMargin: 8
             anchors.verticalCenter: parent.verticalCenter
-            width: 72
+            width: 80
             horizontalAlignment: Text.AlignRight
             elide: Text.ElideRight
             text: notch.activityLabel

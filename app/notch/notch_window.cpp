@@ -59,11 +59,8 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, QW
     compactProgress_ = v.toDouble();
     updateShape();
   });
-  connect(&stretchAnimation_, &QVariantAnimation::valueChanged, this, [this](const QVariant& v) {
-    stretchAmount_ = v.toDouble();
-    stretch_ = NotchStretch(1 + stretchAmount_, 1 + 2 * stretchAmount_, stretch_.anchorX());
-    updateShape();
-  });
+  connect(&stretchAnimation_, &QVariantAnimation::valueChanged, this,
+          [this](const QVariant& v) { setStretch(v.toDouble(), stretch_.anchorX()); });
 
   deadlineTimer_.setInterval(deadlinePollInterval);
   connect(&deadlineTimer_, &QTimer::timeout, this, &NotchWindow::sample);
@@ -73,7 +70,7 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, QW
   connect(&activities_, &ActivityCenter::currentChanged, this, [this](ActivityKind kind) {
     emit activityChanged();
     const double target = kind == ActivityKind::idle ? 0.0 : 1.0;
-    animate(compactAnimation_, compactProgress_, target, 260, QEasingCurve::OutCubic);
+    animate(compactAnimation_, compactProgress_, target, 260, QEasingCurve(QEasingCurve::OutCubic));
   });
   compactProgress_ = activities_.current() == ActivityKind::idle ? 0.0 : 1.0;
 
@@ -232,17 +229,13 @@ void NotchWindow::showPresentation() {
   emit expandedChanged(expanded);
 }
 
-void NotchWindow::animate(QVariantAnimation& animation, double& value, double target, int ms,
-                          QEasingCurve curve) {
+void NotchWindow::animate(QVariantAnimation& animation, double from, double to, int ms,
+                          const QEasingCurve& curve) {
   animation.stop();
-  if (!animated_ || !isVisible()) {
-    value = target;
-    updateShape();
-    return;
-  }
-  animation.setStartValue(value);
-  animation.setEndValue(target);
-  animation.setDuration(ms);
+  animation.setStartValue(from);
+  animation.setEndValue(to);
+  // A zero-length animation lands on its end value at once, through the same handler.
+  animation.setDuration(animated_ && isVisible() ? ms : 0);
   animation.setEasingCurve(curve);
   animation.start();
 }
@@ -250,10 +243,14 @@ void NotchWindow::animate(QVariantAnimation& animation, double& value, double ta
 void NotchWindow::pull(const QPointF& position) {
   stretchAnimation_.stop();
   const QPointF delta = position - pressPoint_;
-  stretchAmount_ = NotchStretch::amount(delta.y() / fullPullDistance);
   // Pulling sideways keeps the far side in place and lets the near side give.
   const double anchor = 0.5 - delta.x() / std::max(1.0, 2 * shape_.body.width());
-  stretch_ = NotchStretch(1 + stretchAmount_, 1 + 2 * stretchAmount_, anchor);
+  setStretch(NotchStretch::amount(delta.y() / fullPullDistance), anchor);
+}
+
+void NotchWindow::setStretch(double amount, double anchorX) {
+  stretchAmount_ = amount;
+  stretch_ = NotchStretch(1 + amount, 1 + 2 * amount, anchorX);
   updateShape();
 }
 
@@ -263,7 +260,6 @@ void NotchWindow::releasePull() {
   spring.setAmplitude(1.0);
   spring.setPeriod(0.4);
   animate(stretchAnimation_, stretchAmount_, 0.0, 450, spring);
-  if (!animated_) stretch_ = NotchStretch::identity();
 }
 
 void NotchWindow::updateShape() {

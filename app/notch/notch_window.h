@@ -83,9 +83,10 @@ class NotchWindow : public QQuickView {
   void readTiming();
   void sample();
   void showPresentation();
-  void animate(QVariantAnimation& animation, double& value, double target, int ms,
-               QEasingCurve curve);
+  void animate(QVariantAnimation& animation, double from, double to, int ms,
+               const QEasingCurve& curve);
   void pull(const QPointF& position);
+  void setStretch(double amount, double anchorX);
   void releasePull();
   void updateShape();
   void updateClock();

@@ -7,6 +7,7 @@
 #include <QCursor>
 #include <QGuiApplication>
 #include <QImage>
+#include <QMimeData>
 #include <QPainter>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -154,6 +155,36 @@ TEST(NotchWindowOnDisplayTest, OpensWhenThePointerRestsAndClosesWhenItLeaves) {
   QTest::mousePress(&window, Qt::LeftButton, {}, local);
   QTest::mouseRelease(&window, Qt::LeftButton, {}, local);
   EXPECT_TRUE(QTest::qWaitFor([&] { return window.isExpanded(); }, 1000));
+}
+
+TEST(NotchWindowOnDisplayTest, StretchesWhilePulledAndOpensForAFileDragInAnyMode) {
+  Displays displays;
+  ASSERT_TRUE(displays.store_.write(settings::notchOpeningMode, std::string("click")));
+  NotchWindow& window = *displays.manager_->windows().front();
+  const QRectF rest = window.shapeRect();
+  const QPoint centre = window.notchRect().center().toPoint();
+
+  // A full pull grows the notch by the stretch's largest amount; letting go outside it springs
+  // back without opening.
+  QTest::mousePress(&window, Qt::LeftButton, {}, centre);
+  QTest::mouseMove(&window, centre + QPoint(0, 80));
+  EXPECT_NEAR(window.shapeRect().width(), rest.width() * 1.12, 0.5);
+  EXPECT_NEAR(window.shapeRect().height(), rest.height() * 1.24, 0.5);
+  EXPECT_NEAR(window.shapeRect().center().x(), rest.center().x(), 0.5);
+  QTest::mouseRelease(&window, Qt::LeftButton, {}, centre + QPoint(0, 80));
+  EXPECT_EQ(window.shapeRect(), rest);
+  EXPECT_FALSE(window.isExpanded());
+
+  // Files dragged over the closed notch open it even in click mode, and leaving closes it.
+  QMimeData files;
+  files.setUrls({QUrl::fromLocalFile(QStringLiteral("/tmp/report.pdf"))});
+  QDragEnterEvent enter(centre, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+  QCoreApplication::sendEvent(&window, &enter);
+  EXPECT_TRUE(enter.isAccepted());
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window.isExpanded(); }, 3000));
+  QDragLeaveEvent leave;
+  QCoreApplication::sendEvent(&window, &leave);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isExpanded(); }, 3000));
 }
 
 // Xvfb offers two displays of different sizes as two X screens, each with its own origin.
