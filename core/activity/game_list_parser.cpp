@@ -27,9 +27,12 @@ std::size_t separatorLength(std::string_view text, std::size_t at) {
   }
   // Every non-ASCII white space is a two- or three-byte sequence; anything malformed is left to
   // the piece, which it makes invalid.
-  const std::size_t length = lead >= 0xE0 && lead < 0xF0 ? 3 : lead >= 0xC0 && lead < 0xE0 ? 2 : 0;
-  if (length == 0 || at + length > text.size()) return 0;
-  char32_t code = lead & (length == 2 ? 0x1F : 0x0F);
+  const bool twoBytes = lead >= 0xC0 && lead < 0xE0;
+  const bool threeBytes = lead >= 0xE0 && lead < 0xF0;
+  if (!twoBytes && !threeBytes) return 0;
+  const std::size_t length = twoBytes ? 2 : 3;
+  if (at + length > text.size()) return 0;
+  char32_t code = lead & (twoBytes ? 0x1F : 0x0F);
   for (std::size_t i = 1; i < length; ++i) {
     if ((byte(at + i) & 0xC0) != 0x80) return 0;
     code = (code << 6) | (byte(at + i) & 0x3F);

@@ -31,7 +31,7 @@ Rect simulatedNotch(const ScreenDescriptor& screen, std::optional<double> simula
       std::min(heightGiven ? *simulatedHeight : menuBarHeight(screen), frame.height);
   // fmax: a width that is not a number takes the 1-point minimum.
   const double width = std::min(std::fmax(simulatedWidth, 1.0), frame.width);
-  return Rect{frame.midX() - width / 2, frame.maxY() - height, width, height};
+  return Rect{frame.midX() - (width / 2), frame.maxY() - height, width, height};
 }
 
 }  // namespace

@@ -18,11 +18,6 @@ double justBefore(double t) {
   return std::nextafter(t, 0.0);
 }
 
-TEST(NotchOpeningMode, RawValuesRoundTripAndUnknownHasNone) {
-  for (Mode mode : allNotchOpeningModes) EXPECT_EQ(notchOpeningModeFromRaw(rawValue(mode)), mode);
-  EXPECT_EQ(notchOpeningModeFromRaw("Hover"), std::nullopt);
-}
-
 TEST(NotchHoverStateMachine, HoverOpensWhenItsUnmovedDeadlineIsReachedExactly) {
   auto m = machine(Mode::hover);
   EXPECT_FALSE(m.update(true, false, false, 10.0));

@@ -27,10 +27,10 @@ struct Rect {
 
   constexpr double minX() const { return x; }
   constexpr double maxX() const { return x + width; }
-  constexpr double midX() const { return x + width / 2; }
+  constexpr double midX() const { return x + (width / 2); }
   constexpr double minY() const { return y; }
   constexpr double maxY() const { return y + height; }
-  constexpr double midY() const { return y + height / 2; }
+  constexpr double midY() const { return y + (height / 2); }
   constexpr Point origin() const { return {x, y}; }
   constexpr Size size() const { return {width, height}; }
 
