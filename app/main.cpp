@@ -1,0 +1,54 @@
+// Tindra: the notch as a small live display. `tindra` runs it; `tindra --demo DIR` plays a short
+// tour and writes screenshots of the closed and opened notch to DIR.
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QDir>
+#include <QQuickWindow>
+#include <QTextStream>
+#include <cstdio>
+#include <cstdlib>
+
+#include "platform/display_platform.h"
+#include "shell/demo_tour.h"
+#include "tindra_app.h"
+
+int main(int argc, char* argv[]) {
+  tindra::selectDisplayPlatform();
+  if (!tindra::hasGraphicalSession() && std::getenv("QT_QPA_PLATFORM") == nullptr) {
+    std::fputs(
+        "tindra: no graphical session (DISPLAY or WAYLAND_DISPLAY is not set); `make run` "
+        "plays the demo on a virtual display\n",
+        stderr);
+    return 1;
+  }
+  // The notch is a few flat shapes and some text; the software renderer draws them with less
+  // memory than a GL context costs and works on every X server, virtual ones included.
+  QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+  QApplication app(argc, argv);
+  QApplication::setApplicationName(QStringLiteral("Tindra"));
+  QApplication::setOrganizationName(QStringLiteral("Brenvik"));
+  QApplication::setQuitOnLastWindowClosed(false);
+
+  QCommandLineParser options;
+  options.setApplicationDescription(QStringLiteral("The notch as a small live display."));
+  options.addHelpOption();
+  const QCommandLineOption demo(QStringLiteral("demo"),
+                                QStringLiteral("Play a short tour and write screenshots to <dir>."),
+                                QStringLiteral("dir"));
+  options.addOption(demo);
+  options.process(app);
+
+  tindra::TindraApp tindra({.animated = true});
+  if (!options.isSet(demo)) return QApplication::exec();
+
+  tindra::DemoTour tour(tindra, QDir(options.value(demo)));
+  QObject::connect(&tour, &tindra::DemoTour::finished, &app, [](const QStringList& shots, bool ok) {
+    QTextStream out(stdout);
+    for (const QString& shot : shots) out << shot << '\n';
+    out.flush();
+    if (!ok) std::fputs("tindra: some screenshots could not be taken\n", stderr);
+    QCoreApplication::exit(ok ? 0 : 1);
+  });
+  tour.start();
+  return QApplication::exec();
+}

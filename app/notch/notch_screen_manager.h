@@ -1,0 +1,51 @@
+// NotchScreenManager: one NotchWindow per display that the user's display choice picks, placed by
+// that display's notch geometry. Follows displays being added, removed or resized and the
+// display and notch-size settings while running; windows of displays that stay are moved, not
+// rebuilt.
+#pragma once
+
+#include <QObject>
+#include <QTimer>
+#include <functional>
+#include <map>
+#include <memory>
+#include <vector>
+
+#include "platform/screen_source.h"
+#include "settings/settings_store.h"
+
+namespace tindra {
+
+class ActivityCenter;
+class NotchWindow;
+
+class NotchScreenManager : public QObject {
+  Q_OBJECT
+
+ public:
+  // `prepare` is called on every new window before it is first shown.
+  NotchScreenManager(ScreenSource& screens, SettingsStore& settings, ActivityCenter& activities,
+                     std::function<void(NotchWindow&)> prepare = {}, QObject* parent = nullptr);
+  ~NotchScreenManager() override;
+
+  // The windows in display id order.
+  std::vector<NotchWindow*> windows() const;
+  // Applies the current displays and settings now (otherwise done on the next event-loop turn).
+  void rebuild();
+
+ signals:
+  void windowsChanged();
+
+ private:
+  std::optional<double> simulatedHeight() const;
+
+  ScreenSource& screens_;
+  SettingsStore& settings_;
+  ActivityCenter& activities_;
+  std::function<void(NotchWindow&)> prepare_;
+  SettingsObservation observation_;
+  QTimer pending_;
+  std::map<std::uint32_t, std::unique_ptr<NotchWindow>> windows_;
+};
+
+}  // namespace tindra

@@ -1,0 +1,127 @@
+// NotchWindow: the notch on one display. A frameless, always-on-top, never-focused window hangs
+// from the display's top edge; only the notch outline is drawn and hit, the rest is cut away.
+// It samples pointer, button and file-drag state into the NotchHoverStateMachine, animates
+// between closed and opened, stretches while the pointer pulls, and shows the current activity's
+// compact view when closed and the panel when opened.
+#pragma once
+
+#include <QColor>
+#include <QMenu>
+#include <QPointF>
+#include <QPointer>
+#include <QQuickView>
+#include <QTimer>
+#include <QVariantAnimation>
+
+#include "activity/activity_kind.h"
+#include "activity/notch_geometry.h"
+#include "activity/notch_hover_state_machine.h"
+#include "activity/notch_stretch.h"
+#include "notch/notch_shape.h"
+#include "notch/notch_window_layout.h"
+#include "settings/settings_store.h"
+
+namespace tindra {
+
+class ActivityCenter;
+
+class NotchWindow : public QQuickView {
+  Q_OBJECT
+  Q_PROPERTY(QRectF shapeRect READ shapeRect NOTIFY shapeChanged)
+  Q_PROPERTY(double bottomRadius READ bottomRadius NOTIFY shapeChanged)
+  Q_PROPERTY(double flareRadius READ flareRadius CONSTANT)
+  Q_PROPERTY(double openProgress READ openProgress NOTIFY shapeChanged)
+  Q_PROPERTY(double compactProgress READ compactProgress NOTIFY shapeChanged)
+  Q_PROPERTY(QRectF notchRect READ notchRect NOTIFY placementChanged)
+  Q_PROPERTY(QString activityLabel READ activityLabel NOTIFY activityChanged)
+  Q_PROPERTY(QColor activityAccent READ activityAccent NOTIFY activityChanged)
+  Q_PROPERTY(QString timeText READ timeText NOTIFY clockChanged)
+  Q_PROPERTY(QString dateText READ dateText NOTIFY clockChanged)
+
+ public:
+  NotchWindow(ActivityCenter& activities, SettingsStore& settings, QWindow* parent = nullptr);
+  ~NotchWindow() override;
+
+  // Moves the window to the display that `geometry` describes.
+  void place(const NotchGeometry& geometry, const ScreenCoordinates& coordinates, QScreen* screen);
+  const NotchGeometry& notchGeometry() const { return geometry_; }
+  const NotchWindowLayout& layout() const { return layout_; }
+
+  // Off: every change shows at once (screenshots, tests).
+  void setAnimated(bool animated) { animated_ = animated; }
+  // The menu a right click on the notch shows; none when null.
+  void setContextMenu(QMenu* menu) { contextMenu_ = menu; }
+  QMenu* contextMenu() const { return contextMenu_; }
+
+  bool isExpanded() const { return machine_.isExpanded(); }
+  // Opens or closes on purpose, as a click in click mode does.
+  void open();
+  void close();
+
+  QRectF shapeRect() const { return shape_.body; }
+  double bottomRadius() const { return shape_.bottomRadius; }
+  double flareRadius() const { return NotchWindowLayout::flareRadius; }
+  double openProgress() const { return openProgress_; }
+  double compactProgress() const { return compactProgress_; }
+  QRectF notchRect() const { return layout_.notchRect; }
+  QString activityLabel() const;
+  QColor activityAccent() const;
+  QString timeText() const { return timeText_; }
+  QString dateText() const { return dateText_; }
+
+ signals:
+  void shapeChanged();
+  void placementChanged();
+  void activityChanged();
+  void clockChanged();
+  void expandedChanged(bool expanded);
+
+ protected:
+  bool event(QEvent* event) override;
+
+ private:
+  void readTiming();
+  void sample();
+  void showPresentation();
+  void animate(QVariantAnimation& animation, double from, double to, int ms,
+               const QEasingCurve& curve);
+  void pull(const QPointF& position);
+  void setStretch(double amount, double anchorX);
+  void releasePull();
+  void updateShape();
+  void updateClock();
+  bool handleMouse(QEvent* event);
+  bool handleDrag(QEvent* event);
+
+  ActivityCenter& activities_;
+  SettingsStore& settings_;
+  SettingsObservation timingObservation_;
+  NotchHoverStateMachine machine_;
+  NotchGeometry geometry_;
+  NotchWindowLayout layout_;
+  NotchShape shape_;
+  NotchStretch stretch_ = NotchStretch::identity();
+  QPointer<QMenu> contextMenu_;
+
+  bool animated_ = true;
+  bool pointerInside_ = false;
+  bool buttonDown_ = false;
+  bool fileDrag_ = false;
+  QPointF pointer_;
+  QPointF pressPoint_;
+  bool pressInside_ = false;
+  bool shownExpanded_ = false;
+
+  double openProgress_ = 0;
+  double compactProgress_ = 0;
+  double stretchAmount_ = 0;
+  QVariantAnimation openAnimation_;
+  QVariantAnimation compactAnimation_;
+  QVariantAnimation stretchAnimation_;
+  QTimer deadlineTimer_;
+  QTimer clockTimer_;
+  QString timeText_;
+  QString dateText_;
+};
+
+}  // namespace tindra

@@ -1,0 +1,129 @@
+#include "shell/demo_tour.h"
+
+#include <QCursor>
+#include <QGuiApplication>
+#include <QLinearGradient>
+#include <QPainter>
+#include <QScreen>
+#include <QWidget>
+
+#include "activity/activity_event.h"
+#include "activity_center.h"
+#include "notch/notch_screen_manager.h"
+#include "notch/notch_window.h"
+#include "tindra_app.h"
+
+namespace tindra {
+
+namespace {
+
+// Stands in for a desktop wallpaper, so the screenshots show the notch over something.
+class Backdrop : public QWidget {
+ public:
+  explicit Backdrop(QScreen* screen) {
+    setWindowFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnBottomHint);
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setGeometry(screen->geometry());
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QPainter painter(this);
+    QLinearGradient sky(0, 0, width(), height());
+    sky.setColorAt(0, QColor(0x3a, 0x7b, 0xd5));
+    sky.setColorAt(1, QColor(0xc9, 0x6d, 0xd8));
+    painter.fillRect(rect(), sky);
+    // A top panel, as most desktops have one.
+    painter.fillRect(QRect(0, 0, width(), 24), QColor(255, 255, 255, 70));
+  }
+};
+
+NotchWindow* firstNotch(TindraApp& app) {
+  const std::vector<NotchWindow*> windows = app.notches().windows();
+  return windows.empty() ? nullptr : windows.front();
+}
+
+}  // namespace
+
+DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
+    : QObject(parent), app_(app), folder_(std::move(folder)) {
+  timer_.setSingleShot(true);
+  connect(&timer_, &QTimer::timeout, this, &DemoTour::next);
+
+  ActivityCenter& activities = app_.activities();
+  const auto pointerTo = [this](bool onNotch) {
+    NotchWindow* notch = firstNotch(app_);
+    if (notch == nullptr) return;
+    const QRect window = notch->geometry();
+    const QPointF centre = notch->notchRect().center();
+    const QPoint target = onNotch ? window.topLeft() + centre.toPoint()
+                                  : window.topLeft() + QPoint(window.width() / 2, 400);
+    QCursor::setPos(notch->screen(), target);
+  };
+  steps_ = {
+      {0,
+       [this, pointerTo] {
+         showBackdrops();
+         pointerTo(false);
+       }},
+      {700, [this] { shoot(QStringLiteral("1-closed-idle.png")); }},
+      {0, [&activities] { activities.offer(ActivityEvent::began(ActivityKind::nowPlaying)); }},
+      {600, [this] { shoot(QStringLiteral("2-closed-now-playing.png")); }},
+      {0, [&activities] { activities.offer(ActivityEvent::began(ActivityKind::hud, 1.5)); }},
+      {500, [this] { shoot(QStringLiteral("3-closed-level.png")); }},
+      // The level lapses after 1.5 s and the playing track comes back on its own.
+      {1500, [this] { shoot(QStringLiteral("4-closed-after-level.png")); }},
+      {0, [pointerTo] { pointerTo(true); }},
+      {900, [this] { shoot(QStringLiteral("5-opened.png")); }},
+      {0, [pointerTo] { pointerTo(false); }},
+      {900, [&activities] { activities.reset(); }},
+      {600, [this] { shoot(QStringLiteral("6-closed-after-reset.png")); }},
+  };
+}
+
+DemoTour::~DemoTour() = default;
+
+void DemoTour::start() {
+  folder_.mkpath(QStringLiteral("."));
+  position_ = 0;
+  timer_.start(steps_.empty() ? 0 : steps_.front().waitMs);
+}
+
+void DemoTour::next() {
+  if (position_ >= steps_.size()) {
+    emit finished(shots_, ok_);
+    return;
+  }
+  steps_[position_].run();
+  ++position_;
+  timer_.start(position_ < steps_.size() ? steps_[position_].waitMs : 0);
+}
+
+void DemoTour::showBackdrops() {
+  for (QScreen* screen : QGuiApplication::screens()) {
+    auto backdrop = std::make_unique<Backdrop>(screen);
+    backdrop->show();
+    backdrops_.push_back(std::move(backdrop));
+  }
+  for (NotchWindow* notch : app_.notches().windows()) notch->raise();
+}
+
+void DemoTour::shoot(const QString& name) {
+  NotchWindow* notch = firstNotch(app_);
+  if (notch == nullptr || notch->screen() == nullptr) {
+    ok_ = false;
+    return;
+  }
+  // The root window holds what the display shows, transparency around the notch included.
+  const QRect area = notch->geometry().adjusted(-48, 0, 48, 24) & notch->screen()->geometry();
+  const QPixmap picture =
+      notch->screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
+  const QString path = folder_.absoluteFilePath(name);
+  if (picture.isNull() || !picture.save(path)) {
+    ok_ = false;
+    return;
+  }
+  shots_ << path;
+}
+
+}  // namespace tindra

@@ -1,0 +1,53 @@
+// DemoTour: a short scripted tour through the real ActivityCenter and notch windows (a playing
+// track, a level indicator that lapses back to it, the pointer resting on the notch to open it,
+// and leaving again), with a desktop backdrop behind the notch and screenshots of the closed and
+// opened notch written to a folder. Emits `finished` with the paths of the pictures.
+#pragma once
+
+#include <QDir>
+#include <QObject>
+#include <QStringList>
+#include <QTimer>
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QWidget;
+
+namespace tindra {
+
+class TindraApp;
+
+class DemoTour : public QObject {
+  Q_OBJECT
+
+ public:
+  DemoTour(TindraApp& app, QDir folder, QObject* parent = nullptr);
+  ~DemoTour() override;
+
+  void start();
+
+ signals:
+  void finished(const QStringList& screenshots, bool ok);
+
+ private:
+  struct Step {
+    int waitMs;  // before the step runs
+    std::function<void()> run;
+  };
+
+  void next();
+  void shoot(const QString& name);
+  void showBackdrops();
+
+  TindraApp& app_;
+  QDir folder_;
+  std::vector<Step> steps_;
+  std::size_t position_ = 0;
+  QTimer timer_;
+  QStringList shots_;
+  bool ok_ = true;
+  std::vector<std::unique_ptr<QWidget>> backdrops_;
+};
+
+}  // namespace tindra

@@ -1,0 +1,198 @@
+#include "shell/settings_window.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QGridLayout>
+#include <QLabel>
+#include <QScrollArea>
+#include <QSignalBlocker>
+#include <QSpinBox>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <cmath>
+
+#include "settings/json_reader.h"
+#include "settings/json_writer.h"
+
+namespace tindra {
+
+namespace {
+
+using Type = settings::SettingsKeyDescription::Type;
+
+QString qstr(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+// Whole numbers a double carries exactly, as the store keeps integers.
+constexpr double maxExactInteger = 9007199254740992.0;
+
+}  // namespace
+
+SettingsWindow::SettingsWindow(SettingsStore& settings, QWidget* parent)
+    : QWidget(parent), settings_(settings) {
+  setWindowTitle(tr("Tindra Settings"));
+  resize(620, 720);
+  search_.setPlaceholderText(tr("Search"));
+  search_.setClearButtonEnabled(true);
+  connect(&search_, &QLineEdit::textChanged, this, &SettingsWindow::filter);
+
+  auto* content = new QWidget;
+  auto* grid = new QGridLayout(content);
+  grid->setColumnStretch(1, 1);
+  std::vector<std::string> names;
+  int line = 0;
+  for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
+    addRow(*grid, line++, key);
+    names.emplace_back(key.name);
+  }
+  grid->setRowStretch(line, 1);
+
+  auto* scroll = new QScrollArea;
+  scroll->setWidgetResizable(true);
+  scroll->setWidget(content);
+  auto* layout = new QVBoxLayout(this);
+  layout->addWidget(&search_);
+  layout->addWidget(scroll);
+
+  observation_ =
+      settings_.observe(std::move(names), [this](std::string_view name) { refresh(name); });
+}
+
+QWidget* SettingsWindow::editorFor(std::string_view name) const {
+  auto row = rows_.find(name);
+  return row == rows_.end() ? nullptr : row->second.editor;
+}
+
+void SettingsWindow::addRow(QGridLayout& grid, int line,
+                            const settings::SettingsKeyDescription& key) {
+  Row row = makeEditor(key);
+  row.label = new QLabel(qstr(key.name));
+  auto* reset = new QToolButton;
+  reset->setText(tr("Reset"));
+  reset->setToolTip(tr("Use the default value"));
+  const std::string name(key.name);
+  connect(reset, &QToolButton::clicked, this, [this, name] { (void)settings_.resetStored(name); });
+  row.reset = reset;
+  grid.addWidget(row.label, line, 0);
+  grid.addWidget(row.editor, line, 1);
+  grid.addWidget(row.reset, line, 2);
+  rows_.emplace(name, std::move(row));
+  refresh(name);
+}
+
+SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescription& key) {
+  const std::string name(key.name);
+  Row row;
+  switch (key.type) {
+    case Type::boolean: {
+      auto* box = new QCheckBox;
+      connect(box, &QCheckBox::toggled, this, [this, name](bool on) { write(name, on); });
+      row.editor = box;
+      row.show = [box](const JSONValue& v) {
+        box->setChecked(v.asBool() != nullptr && *v.asBool());
+      };
+      break;
+    }
+    case Type::integer: {
+      // QSpinBox holds ints; thresholds and minutes fit with room to spare.
+      auto* box = new QSpinBox;
+      box->setRange(-1'000'000'000, 1'000'000'000);
+      connect(box, &QSpinBox::valueChanged, this, [this, name](int v) { write(name, v); });
+      row.editor = box;
+      row.show = [box](const JSONValue& v) {
+        const double* n = v.asNumber();
+        if (n != nullptr && std::abs(*n) <= maxExactInteger) box->setValue(static_cast<int>(*n));
+      };
+      break;
+    }
+    case Type::number: {
+      auto* box = new QDoubleSpinBox;
+      box->setRange(-1e6, 1e6);
+      box->setDecimals(2);
+      box->setSingleStep(0.05);
+      connect(box, &QDoubleSpinBox::valueChanged, this, [this, name](double v) { write(name, v); });
+      row.editor = box;
+      row.show = [box](const JSONValue& v) {
+        if (v.asNumber() != nullptr) box->setValue(*v.asNumber());
+      };
+      break;
+    }
+    case Type::enumeration: {
+      auto* box = new QComboBox;
+      for (std::string_view c : key.cases) box->addItem(qstr(c));
+      connect(box, &QComboBox::textActivated, this,
+              [this, name](const QString& text) { write(name, text.toStdString()); });
+      row.editor = box;
+      row.show = [box](const JSONValue& v) {
+        if (v.asString() != nullptr) box->setCurrentText(QString::fromStdString(*v.asString()));
+      };
+      break;
+    }
+    case Type::string:
+    case Type::optionalString: {
+      auto* edit = new QLineEdit;
+      if (key.type == Type::optionalString) edit->setPlaceholderText(tr("(none)"));
+      const bool optional = key.type == Type::optionalString;
+      connect(edit, &QLineEdit::editingFinished, this, [this, edit, name, optional] {
+        if (optional && edit->text().isEmpty()) {
+          (void)settings_.resetStored(name);
+        } else {
+          write(name, edit->text().toStdString());
+        }
+      });
+      row.editor = edit;
+      row.show = [edit](const JSONValue& v) {
+        edit->setText(v.asString() != nullptr ? QString::fromStdString(*v.asString()) : QString());
+      };
+      break;
+    }
+    case Type::list:
+    case Type::dictionary: {
+      // Lists and dictionaries are edited as JSON text; text that does not read is not written.
+      auto* edit = new QLineEdit;
+      const Type type = key.type;
+      connect(edit, &QLineEdit::editingFinished, this, [this, edit, name, type] {
+        auto parsed = JSONReader::parse(edit->text().toStdString());
+        const bool fits = parsed && (type == Type::list ? parsed->asArray() != nullptr
+                                                        : parsed->asObject() != nullptr);
+        edit->setStyleSheet(fits ? QString() : QStringLiteral("color: #d70015"));
+        if (fits) write(name, *std::move(parsed));
+      });
+      row.editor = edit;
+      row.show = [edit](const JSONValue& v) {
+        edit->setStyleSheet(QString());
+        edit->setText(QString::fromStdString(JSONWriter::write(v)));
+      };
+      break;
+    }
+  }
+  return row;
+}
+
+void SettingsWindow::write(std::string_view name, JSONValue value) {
+  const JSONValue* stored = settings_.stored(name);
+  if (stored != nullptr && *stored == value) return;
+  (void)settings_.writeStored(name, std::move(value));
+}
+
+void SettingsWindow::refresh(std::string_view name) {
+  auto row = rows_.find(name);
+  const settings::SettingsKeyDescription* key = settings::describeKey(name);
+  if (row == rows_.end() || key == nullptr) return;
+  const QSignalBlocker quiet(row->second.editor);
+  const JSONValue* stored = settings_.stored(name);
+  row->second.show(stored != nullptr ? *stored : key->defaultValue);
+}
+
+void SettingsWindow::filter(const QString& text) {
+  for (const auto& [name, row] : rows_) {
+    const bool match = text.isEmpty() || qstr(name).contains(text, Qt::CaseInsensitive);
+    row.label->setVisible(match);
+    row.editor->setVisible(match);
+    row.reset->setVisible(match);
+  }
+}
+
+}  // namespace tindra

@@ -1,0 +1,48 @@
+// SettingsWindow: every preference Tindra keeps, listed from the key descriptions with an editor
+// that fits its type, a search field, and a reset per key. Edits are written through the store at
+// once; changes from elsewhere (another process, the program itself) show up as they happen.
+#pragma once
+
+#include <QLineEdit>
+#include <QWidget>
+#include <functional>
+#include <map>
+#include <string>
+
+#include "settings/settings_keys.h"
+#include "settings/settings_store.h"
+
+class QGridLayout;
+
+namespace tindra {
+
+class SettingsWindow : public QWidget {
+  Q_OBJECT
+
+ public:
+  explicit SettingsWindow(SettingsStore& settings, QWidget* parent = nullptr);
+
+  // The editor of the key called `name` (for tests), or nullptr.
+  QWidget* editorFor(std::string_view name) const;
+
+ private:
+  struct Row {
+    QWidget* label = nullptr;
+    QWidget* editor = nullptr;
+    QWidget* reset = nullptr;
+    std::function<void(const JSONValue&)> show;  // puts a value in the editor
+  };
+
+  void addRow(QGridLayout& grid, int line, const settings::SettingsKeyDescription& key);
+  Row makeEditor(const settings::SettingsKeyDescription& key);
+  void refresh(std::string_view name);
+  void filter(const QString& text);
+  void write(std::string_view name, JSONValue value);
+
+  SettingsStore& settings_;
+  SettingsObservation observation_;
+  QLineEdit search_;
+  std::map<std::string, Row, std::less<>> rows_;
+};
+
+}  // namespace tindra

@@ -1,0 +1,122 @@
+// The shell on a display: the tray item where a StatusNotifierItem host exists, and the notch's
+// own menu where none does; and the Settings window editing through the store.
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusVariant>
+#include <QLineEdit>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "notch/notch_screen_manager.h"
+#include "notch/notch_window.h"
+#include "settings/settings_keys.h"
+#include "settings/settings_store.h"
+#include "shell/settings_window.h"
+#include "shell/shell_actions.h"
+#include "shell/tray_item.h"
+#include "tindra_app.h"
+
+namespace tindra {
+namespace {
+
+bool notchesOfferTheMenu(TindraApp& app) {
+  for (NotchWindow* window : app.notches().windows()) {
+    if (window->contextMenu() == nullptr) return false;
+  }
+  return !app.notches().windows().empty();
+}
+
+// The items registered with the mocked StatusNotifierWatcher.
+QStringList registeredTrayItems() {
+  QDBusMessage call = QDBusMessage::createMethodCall(
+      QStringLiteral("org.kde.StatusNotifierWatcher"), QStringLiteral("/StatusNotifierWatcher"),
+      QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("Get"));
+  call << QStringLiteral("org.kde.StatusNotifierWatcher")
+       << QStringLiteral("RegisteredStatusNotifierItems");
+  const QDBusMessage reply = QDBusConnection::sessionBus().call(call);
+  if (reply.arguments().isEmpty()) return {};
+  return reply.arguments().first().value<QDBusVariant>().variant().toStringList();
+}
+
+TEST(TrayAvailableTest, TheItemRegistersAndTheNotchKeepsItsMenuOnlyWhileItIsHidden) {
+  ASSERT_TRUE(TrayItem::isTrayAvailable());
+  TindraApp app({.animated = false});
+  EXPECT_TRUE(app.tray().isShown());
+  EXPECT_FALSE(notchesOfferTheMenu(app));
+  EXPECT_TRUE(QTest::qWaitFor([] { return registeredTrayItems().size() == 1; }, 3000));
+
+  // Turning the icon off must not strand Settings and Quit.
+  ASSERT_TRUE(app.settings().write(settings::showMenuBarIcon, false));
+  EXPECT_FALSE(app.tray().isShown());
+  EXPECT_TRUE(notchesOfferTheMenu(app));
+  ASSERT_TRUE(app.settings().write(settings::showMenuBarIcon, true));
+  EXPECT_TRUE(app.tray().isShown());
+  EXPECT_FALSE(notchesOfferTheMenu(app));
+}
+
+TEST(TrayUnavailableTest, SettingsAndQuitStayReachableFromTheNotch) {
+  ASSERT_FALSE(TrayItem::isTrayAvailable());
+  TindraApp app({.animated = false});
+  EXPECT_FALSE(app.tray().isShown());
+  ASSERT_TRUE(notchesOfferTheMenu(app));
+
+  QMenu* menu = app.notches().windows().front()->contextMenu();
+  QStringList labels;
+  for (QAction* action : menu->actions()) {
+    if (!action->isSeparator()) labels << action->text();
+  }
+  EXPECT_EQ(labels, (QStringList{QStringLiteral("Settings…"), QStringLiteral("Quit Tindra")}));
+
+  app.shell().settingsAction()->trigger();
+  ASSERT_NE(app.shell().settingsWindow(), nullptr);
+  EXPECT_TRUE(app.shell().settingsWindow()->isVisible());
+  for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
+    EXPECT_NE(app.shell().settingsWindow()->editorFor(key.name), nullptr) << key.name;
+  }
+}
+
+class SettingsWindowTest : public ::testing::Test {
+ protected:
+  QTemporaryDir dir_;
+  std::filesystem::path file_ = dir_.filePath("settings.json").toStdString();
+  SettingsStore store_{file_, [] { return 0.0; }};
+};
+
+TEST_F(SettingsWindowTest, EditsGoThroughTheStoreAndOutsideChangesShow) {
+  SettingsWindow window(store_);
+  // Opening the window writes nothing: defaults stay unstored.
+  EXPECT_FALSE(std::filesystem::exists(file_));
+
+  auto* sounds = qobject_cast<QCheckBox*>(window.editorFor(settings::playSounds.name));
+  ASSERT_NE(sounds, nullptr);
+  EXPECT_TRUE(sounds->isChecked());
+  sounds->click();
+  EXPECT_FALSE(store_.read(settings::playSounds));
+  EXPECT_TRUE(std::filesystem::exists(file_));
+
+  auto* mode = qobject_cast<QComboBox*>(window.editorFor(settings::notchOpeningMode.name));
+  ASSERT_NE(mode, nullptr);
+  EXPECT_EQ(mode->count(), 3);
+  ASSERT_TRUE(store_.write(settings::notchOpeningMode, std::string("pressAndHold")));
+  EXPECT_EQ(mode->currentText(), QStringLiteral("pressAndHold"));
+  ASSERT_TRUE(store_.reset(settings::notchOpeningMode));
+  EXPECT_EQ(mode->currentText(), QStringLiteral("hover"));
+
+  // A list edited as JSON text: only a JSON array is written.
+  auto* pinned = qobject_cast<QLineEdit*>(window.editorFor(settings::pinnedWidgets.name));
+  ASSERT_NE(pinned, nullptr);
+  EXPECT_EQ(pinned->text(), QStringLiteral("[]"));
+  pinned->setText(QStringLiteral("{\"not\": \"a list\"}"));
+  emit pinned->editingFinished();
+  EXPECT_EQ(store_.stored(settings::pinnedWidgets.name), nullptr);
+  pinned->setText(QStringLiteral("[\"weather\", \"battery\"]"));
+  emit pinned->editingFinished();
+  EXPECT_EQ(store_.read(settings::pinnedWidgets), (std::vector<std::string>{"weather", "battery"}));
+}
+
+}  // namespace
+}  // namespace tindra

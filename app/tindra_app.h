@@ -1,0 +1,49 @@
+// TindraApp: the running program's parts wired together: the settings store and its file
+// watch, the activity centre, the displays and their notch windows, the tray item and the shell
+// menu. Where no tray shows the item, the notch offers the shell menu on a right click.
+#pragma once
+
+#include <QObject>
+#include <memory>
+
+namespace tindra {
+
+class ActivityCenter;
+class NotchScreenManager;
+class ScreenSource;
+class SettingsFileWatcher;
+class SettingsStore;
+class ShellActions;
+class TrayItem;
+
+class TindraApp : public QObject {
+  Q_OBJECT
+
+ public:
+  struct Options {
+    bool animated = true;
+  };
+
+  explicit TindraApp(Options options, QObject* parent = nullptr);
+  ~TindraApp() override;
+
+  SettingsStore& settings() { return *settings_; }
+  ActivityCenter& activities() { return *activities_; }
+  NotchScreenManager& notches() { return *notches_; }
+  ShellActions& shell() { return *shell_; }
+  TrayItem& tray() { return *tray_; }
+
+ private:
+  void offerMenuOnNotches();
+
+  Options options_;
+  std::unique_ptr<SettingsStore> settings_;
+  std::unique_ptr<SettingsFileWatcher> watcher_;
+  std::unique_ptr<ActivityCenter> activities_;
+  std::unique_ptr<ShellActions> shell_;
+  std::unique_ptr<TrayItem> tray_;
+  std::unique_ptr<ScreenSource> screens_;
+  std::unique_ptr<NotchScreenManager> notches_;
+};
+
+}  // namespace tindra

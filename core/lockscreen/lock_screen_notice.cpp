@@ -1,0 +1,68 @@
+#include "lockscreen/lock_screen_notice.h"
+
+#include "settings/json_reader.h"
+#include "settings/json_writer.h"
+
+namespace tindra {
+
+using Reason = LockScreenNotice::Reason;
+
+std::string_view LockScreenNotice::message(Reason reason, LockScreenFeature feature) {
+  switch (reason) {
+    case Reason::stoppedWhileLocked:
+      return "Tindra stopped while the screen was locked.";
+    case Reason::restartedWhileLocked:
+      return "The Mac restarted twice in a row while the screen was locked.";
+    case Reason::unreadableRecord:
+      return "Tindra could not tell whether the last lock ended normally.";
+    case Reason::unsupportedSystem:
+      return feature == LockScreenFeature::notch
+                 ? "This version of macOS does not let Tindra show the notch on the lock screen."
+                 : "This version of macOS does not let Tindra show widgets on the lock screen.";
+  }
+  return "";
+}
+
+std::string LockScreenNotice::settingText() const {
+  return JSONWriter::write(JSONValue(
+      JSONValue::Object{{"reason", rawValue(reason)}, {"date", date}, {"osVersion", osVersion}}));
+}
+
+std::optional<LockScreenNotice> LockScreenNotice::fromSettingText(std::string_view text) {
+  if (text.empty()) return std::nullopt;
+  const auto json = JSONReader::parse(text);
+  if (!json) return std::nullopt;
+  const JSONValue* reason = json->find("reason");
+  const JSONValue* date = json->find("date");
+  const JSONValue* osVersion = json->find("osVersion");
+  if (!reason || !reason->asString() || !date || !date->asNumber() || !osVersion ||
+      !osVersion->asString()) {
+    return std::nullopt;
+  }
+  const std::optional<Reason> known = lockScreenNoticeReasonFromRaw(*reason->asString());
+  if (!known) return std::nullopt;
+  return LockScreenNotice{*known, *date->asNumber(), *osVersion->asString()};
+}
+
+std::string_view rawValue(Reason reason) {
+  switch (reason) {
+    case Reason::stoppedWhileLocked:
+      return "stoppedWhileLocked";
+    case Reason::restartedWhileLocked:
+      return "restartedWhileLocked";
+    case Reason::unreadableRecord:
+      return "unreadableRecord";
+    case Reason::unsupportedSystem:
+      return "unsupportedSystem";
+  }
+  return "unreadableRecord";
+}
+
+std::optional<Reason> lockScreenNoticeReasonFromRaw(std::string_view raw) {
+  for (Reason reason : allLockScreenNoticeReasons) {
+    if (rawValue(reason) == raw) return reason;
+  }
+  return std::nullopt;
+}
+
+}  // namespace tindra
