@@ -39,15 +39,24 @@ std::string base64Text(std::size_t length, Random& random) {
   return text;
 }
 
-// Song lyrics as the adapter would send them: words, escaped line breaks, some accented letters.
+// Song lyrics as the adapter would send them: lines of words with escaped line breaks, now and
+// then an accented word or a quotation.
 std::string lyricsText(std::size_t length, Random& random) {
-  static const char* const words[] = {"night",    "river", "caf\xC3\xA9",  "light", "home",
-                                      "\xC3\xA0", "again", "\\\"echo\\\"", "hold",  "on"};
+  static const char* const words[] = {"night", "river", "light", "home",  "again", "hold",
+                                      "on",    "we",    "were",  "young", "under", "the",
+                                      "stars", "and",   "you",   "said",  "never", "go"};
   std::string text;
-  text.reserve(length + 16);
+  text.reserve(length + 64);
   while (text.size() < length) {
-    text += words[random.below(10)];
-    text += random.below(8) == 0 ? "\\n" : " ";
+    for (std::uint32_t word = 0, count = 5 + random.below(5); word < count; ++word) {
+      text += words[random.below(18)];
+      text += ' ';
+    }
+    if (random.below(15) == 0) text += "caf\\u00e9 Montr\\u00e9al ";
+    if (random.below(15) == 0) text += "caf\xC3\xA9 ";
+    if (random.below(20) == 0) text += "\\\"echo\\\" ";
+    text.back() = '\\';
+    text += 'n';
   }
   return text;
 }

@@ -6,6 +6,7 @@
 #include <cstring>
 #include <limits>
 #include <utility>
+#include <vector>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -126,6 +127,23 @@ int hexDigitValue(char c) {
   return -1;
 }
 
+// A member name as a map key; compares with the stored names mostly by its first byte alone,
+// where std::string's own comparison always calls memcmp.
+struct NameKey {
+  std::string_view name;
+};
+
+int compareNames(std::string_view a, std::string_view b) {
+  if (!a.empty() && !b.empty() && a[0] != b[0]) {
+    return static_cast<unsigned char>(a[0]) - static_cast<unsigned char>(b[0]);
+  }
+  return a.compare(b);
+}
+
+bool operator<(const std::string& stored, NameKey key) {
+  return compareNames(stored, key.name) < 0;
+}
+
 class Parser {
  public:
   Parser(std::string_view text, std::size_t maxDepth)
@@ -135,9 +153,9 @@ class Parser {
         maxDepth_(maxDepth) {}
 
   std::expected<JSONValue, JSONParseError> parseDocument() {
-    JSONValue value;
     skipWhiteSpace();
-    if (!parseValue(value, 0)) return std::unexpected(error_);
+    JSONValue value = parseValue(0);
+    if (failed_) return std::unexpected(error_);
     skipWhiteSpace();
     if (p_ != end_) return std::unexpected(JSONParseError{Code::trailingContent, offset(p_)});
     return value;
@@ -148,134 +166,155 @@ class Parser {
   const char* p_;
   const char* end_;
   std::size_t maxDepth_;
+  bool failed_ = false;
   JSONParseError error_{Code::unexpectedEnd, 0};
 
   std::size_t offset(const char* at) const { return static_cast<std::size_t>(at - begin_); }
 
-  bool fail(Code code, const char* at) {
-    error_ = {code, offset(at)};
-    return false;
+  // Records the first fault; the callers unwind as soon as they see `failed_`.
+  JSONValue fail(Code code, const char* at) {
+    if (!failed_) error_ = {code, offset(at)};
+    failed_ = true;
+    return JSONValue();
   }
 
+  static bool isWhiteSpace(char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; }
+
   void skipWhiteSpace() {
-    while (p_ != end_ && (*p_ == ' ' || *p_ == '\n' || *p_ == '\r' || *p_ == '\t')) ++p_;
+    while (p_ != end_ && isWhiteSpace(*p_)) ++p_;
   }
 
   // `depth` counts the arrays and objects that enclose this value.
-  bool parseValue(JSONValue& out, std::size_t depth) {
+  JSONValue parseValue(std::size_t depth) {
     if (p_ == end_) return fail(Code::unexpectedEnd, p_);
     switch (*p_) {
       case '{':
-        return parseObject(out, depth);
+        return parseObject(depth);
       case '[':
-        return parseArray(out, depth);
-      case '"': {
-        std::string text;
-        if (!parseString(text)) return false;
-        out = JSONValue(std::move(text));
-        return true;
-      }
+        return parseArray(depth);
+      case '"':
+        return JSONValue(parseString());
       case 't':
-        out = JSONValue(true);
-        return parseLiteral("true");
+        return parseLiteral("true", JSONValue(true));
       case 'f':
-        out = JSONValue(false);
-        return parseLiteral("false");
+        return parseLiteral("false", JSONValue(false));
       case 'n':
-        out = JSONValue(nullptr);
-        return parseLiteral("null");
+        return parseLiteral("null", JSONValue());
       default:
-        if (*p_ == '-' || isDigit(*p_)) return parseNumber(out);
+        if (*p_ == '-' || isDigit(*p_)) return parseNumber();
         return fail(Code::unexpectedCharacter, p_);
     }
   }
 
-  bool parseLiteral(std::string_view literal) {
-    for (char expected : literal) {
+  JSONValue parseLiteral(std::string_view literal, JSONValue value) {
+    if (static_cast<std::size_t>(end_ - p_) >= literal.size() &&
+        std::memcmp(p_, literal.data(), literal.size()) == 0) {
+      p_ += literal.size();
+      return value;
+    }
+    for (char expected : literal) {  // find where it went wrong
       if (p_ == end_) return fail(Code::unexpectedEnd, p_);
       if (*p_ != expected) return fail(Code::unexpectedCharacter, p_);
       ++p_;
     }
-    return true;
+    return value;
   }
 
   bool openContainer(std::size_t depth) {
-    if (depth >= maxDepth_) return fail(Code::tooDeep, p_);
+    if (depth >= maxDepth_) {
+      fail(Code::tooDeep, p_);
+      return false;
+    }
     ++p_;
     skipWhiteSpace();
     return true;
   }
 
   // After a member or element: consumes the comma (true, more follow) or the closing bracket.
-  bool continueOrClose(char closing, bool& more) {
+  bool continueOrClose(char closing) {
     skipWhiteSpace();
-    if (p_ == end_) return fail(Code::unexpectedEnd, p_);
+    if (p_ == end_) {
+      fail(Code::unexpectedEnd, p_);
+      return false;
+    }
     if (*p_ == ',') {
       ++p_;
       skipWhiteSpace();
-      more = true;
       return true;
     }
-    if (*p_ == closing) {
-      ++p_;
-      more = false;
-      return true;
-    }
-    return fail(Code::unexpectedCharacter, p_);
+    if (*p_ != closing) fail(Code::unexpectedCharacter, p_);
+    ++p_;
+    return false;
   }
 
-  bool parseArray(JSONValue& out, std::size_t depth) {
-    if (!openContainer(depth)) return false;
+  JSONValue parseArray(std::size_t depth) {
+    if (!openContainer(depth)) return JSONValue();
     JSONValue::Array elements;
     if (p_ != end_ && *p_ == ']') {
       ++p_;
-    } else {
-      for (bool more = true; more;) {
-        elements.emplace_back();
-        if (!parseValue(elements.back(), depth + 1)) return false;
-        if (!continueOrClose(']', more)) return false;
-      }
+      return JSONValue(std::move(elements));
     }
-    out = JSONValue(std::move(elements));
-    return true;
+    do {
+      elements.push_back(parseValue(depth + 1));
+      if (failed_) return JSONValue();
+    } while (continueOrClose(']'));
+    if (failed_) return JSONValue();
+    return JSONValue(std::move(elements));
   }
 
-  bool parseObject(JSONValue& out, std::size_t depth) {
-    if (!openContainer(depth)) return false;
-    JSONValue::Object members;
+  JSONValue parseObject(std::size_t depth) {
+    if (!openContainer(depth)) return JSONValue();
     if (p_ != end_ && *p_ == '}') {
       ++p_;
-    } else {
-      for (bool more = true; more;) {
-        if (p_ == end_) return fail(Code::unexpectedEnd, p_);
-        if (*p_ != '"') return fail(Code::unexpectedCharacter, p_);
-        std::string name;
-        if (!parseString(name)) return false;
-        skipWhiteSpace();
-        if (p_ == end_) return fail(Code::unexpectedEnd, p_);
-        if (*p_ != ':') return fail(Code::unexpectedCharacter, p_);
-        ++p_;
-        skipWhiteSpace();
-        JSONValue value;
-        if (!parseValue(value, depth + 1)) return false;
-        // A repeated name replaces the earlier member: the last one wins. Senders usually write
-        // names in order, so the end is a good first guess for where the member belongs.
-        members.insert_or_assign(members.end(), std::move(name), std::move(value));
-        if (!continueOrClose('}', more)) return false;
-      }
+      return JSONValue(JSONValue::Object());
     }
-    out = JSONValue(std::move(members));
-    return true;
+    JSONValue::Object members;
+    do {
+      if (p_ == end_) return fail(Code::unexpectedEnd, p_);
+      if (*p_ != '"') return fail(Code::unexpectedCharacter, p_);
+      std::string name = parseString();
+      if (failed_) return JSONValue();
+      skipWhiteSpace();
+      if (p_ == end_) return fail(Code::unexpectedEnd, p_);
+      if (*p_ != ':') return fail(Code::unexpectedCharacter, p_);
+      ++p_;
+      skipWhiteSpace();
+      JSONValue value = parseValue(depth + 1);
+      if (failed_) return JSONValue();
+      addMember(members, std::move(name), std::move(value));
+    } while (continueOrClose('}'));
+    if (failed_) return JSONValue();
+    return JSONValue(std::move(members));
   }
 
-  // Reads four hex digits after the "\u" at `escape`; false with the error set otherwise.
+  // A repeated name replaces the earlier member: the last one wins, as in most readers. Senders
+  // often write names in order, and then the member simply goes at the end.
+  static void addMember(JSONValue::Object& members, std::string&& name, JSONValue&& value) {
+    if (members.empty() || members.rbegin()->first < NameKey{name}) {
+      members.emplace_hint(members.end(), std::move(name), std::move(value));
+      return;
+    }
+    const auto position = members.lower_bound(NameKey{name});
+    if (position != members.end() && position->first == name) {
+      position->second = std::move(value);
+    } else {
+      members.emplace_hint(position, std::move(name), std::move(value));
+    }
+  }
+
+  bool stop(Code code, const char* at) {
+    fail(code, at);
+    return false;
+  }
+
+  // Reads four hex digits after the "\u" at `escape`.
   bool parseHex4(const char* escape, std::uint32_t& value) {
     const char* digits = escape + 2;
     value = 0;
     for (int i = 0; i < 4; ++i) {
-      if (digits + i == end_) return fail(Code::unexpectedEnd, end_);
+      if (digits + i == end_) return stop(Code::unexpectedEnd, end_);
       const int digit = hexDigitValue(digits[i]);
-      if (digit < 0) return fail(Code::invalidEscape, escape);
+      if (digit < 0) return stop(Code::invalidEscape, escape);
       value = value * 16 + static_cast<std::uint32_t>(digit);
     }
     return true;
@@ -286,13 +325,13 @@ class Parser {
     std::uint32_t unit;
     if (!parseHex4(escape, unit)) return false;
     p_ = escape + 6;
-    if (unit >= 0xDC00 && unit <= 0xDFFF) return fail(Code::invalidEscape, escape);
+    if (unit >= 0xDC00 && unit <= 0xDFFF) return stop(Code::invalidEscape, escape);
     if (unit >= 0xD800 && unit <= 0xDBFF) {
       // A high surrogate is only valid when a low one follows at once.
-      if (end_ - p_ < 2 || p_[0] != '\\' || p_[1] != 'u') return fail(Code::invalidEscape, escape);
+      if (end_ - p_ < 2 || p_[0] != '\\' || p_[1] != 'u') return stop(Code::invalidEscape, escape);
       std::uint32_t low;
       if (!parseHex4(p_, low)) return false;
-      if (low < 0xDC00 || low > 0xDFFF) return fail(Code::invalidEscape, escape);
+      if (low < 0xDC00 || low > 0xDFFF) return stop(Code::invalidEscape, escape);
       p_ += 6;
       unit = 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
     }
@@ -300,56 +339,58 @@ class Parser {
     return true;
   }
 
-  bool parseEscape(std::string& out) {
-    if (end_ - p_ < 2) return fail(Code::unexpectedEnd, end_);
-    char decoded;
-    switch (p_[1]) {
+  static char decodedShortEscape(char c) {
+    switch (c) {
       case '"':
-        decoded = '"';
-        break;
+        return '"';
       case '\\':
-        decoded = '\\';
-        break;
+        return '\\';
       case '/':
-        decoded = '/';
-        break;
+        return '/';
       case 'b':
-        decoded = '\b';
-        break;
+        return '\b';
       case 'f':
-        decoded = '\f';
-        break;
+        return '\f';
       case 'n':
-        decoded = '\n';
-        break;
+        return '\n';
       case 'r':
-        decoded = '\r';
-        break;
+        return '\r';
       case 't':
-        decoded = '\t';
-        break;
-      case 'u':
-        return parseUnicodeEscape(out);
+        return '\t';
       default:
-        return fail(Code::invalidEscape, p_);
+        return 0;
     }
+  }
+
+  // `p_` is at the backslash; leaves it after the escape.
+  bool parseEscape(std::string& out) {
+    if (end_ - p_ < 2) return stop(Code::unexpectedEnd, end_);
+    if (p_[1] == 'u') return parseUnicodeEscape(out);
+    const char decoded = decodedShortEscape(p_[1]);
+    if (decoded == 0) return stop(Code::invalidEscape, p_);
     out.push_back(decoded);
     p_ += 2;
     return true;
   }
 
   // `p_` is at the opening quote; leaves it after the closing one.
-  bool parseString(std::string& out) {
+  std::string parseString() {
     const char* run = ++p_;
-    const char* p = skipPlainStringBytes(p_, end_);
-    if (p != end_ && *p == '"') {  // the common case: nothing to decode
-      out.assign(run, p);
+    const char* p = skipPlainStringBytes(run, end_);
+    if (p != end_ && *p == '"') {  // the common case: nothing to decode or check
       p_ = p + 1;
-      return true;
+      return std::string(run, p);
     }
-    out.clear();
+    std::string text(run, p);
+    if (!decodeRestOfString(p, text)) return std::string();
+    return text;
+  }
+
+  // Continues a string at the first byte that needs a closer look.
+  bool decodeRestOfString(const char* p, std::string& out) {
+    const char* run = p;
     for (;;) {
-      if (p == end_) return fail(Code::unexpectedEnd, p);
+      if (p == end_) return stop(Code::unexpectedEnd, p);
       const auto byte = static_cast<unsigned char>(*p);
       if (byte == '"') break;
       if (byte == '\\') {
@@ -358,10 +399,10 @@ class Parser {
         if (!parseEscape(out)) return false;
         p = run = p_;
       } else if (byte < 0x20) {
-        return fail(Code::controlCharacter, p);
+        return stop(Code::controlCharacter, p);
       } else {
         const std::size_t length = utf8SequenceLength(p, end_);
-        if (length == 0) return fail(Code::invalidUTF8, p);
+        if (length == 0) return stop(Code::invalidUTF8, p);
         p += length;
       }
       p = skipPlainStringBytes(p, end_);
@@ -376,7 +417,7 @@ class Parser {
     return p;
   }
 
-  bool parseNumber(JSONValue& out) {
+  JSONValue parseNumber() {
     const char* start = p_;
     const char* p = p_;
     if (*p == '-') ++p;
@@ -412,9 +453,8 @@ class Parser {
     } else if (result.ec != std::errc() || result.ptr != p) {
       return fail(Code::invalidNumber, start);
     }
-    out = JSONValue(value);
     p_ = p;
-    return true;
+    return JSONValue(value);
   }
 
   // from_chars reports both overflow and underflow as out of range. The decimal exponent of the
