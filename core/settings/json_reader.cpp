@@ -90,6 +90,12 @@ const char* skipPlainStringBytes(const char* p, const char* end) {
                      _mm_cmplt_epi8(bytes, space));
     return static_cast<unsigned>(_mm_movemask_epi8(special));
   };
+  // Most names and values are short: try one block before setting out on long strides.
+  if (end - p >= 16) {
+    const unsigned mask = specialMask(p);
+    if (mask != 0) return p + __builtin_ctz(mask);
+    p += 16;
+  }
   while (end - p >= 64) {
     const unsigned m0 = specialMask(p), m1 = specialMask(p + 16);
     const unsigned m2 = specialMask(p + 32), m3 = specialMask(p + 48);
@@ -127,23 +133,6 @@ int hexDigitValue(char c) {
   return -1;
 }
 
-// A member name as a map key; compares with the stored names mostly by its first byte alone,
-// where std::string's own comparison always calls memcmp.
-struct NameKey {
-  std::string_view name;
-};
-
-int compareNames(std::string_view a, std::string_view b) {
-  if (!a.empty() && !b.empty() && a[0] != b[0]) {
-    return static_cast<unsigned char>(a[0]) - static_cast<unsigned char>(b[0]);
-  }
-  return a.compare(b);
-}
-
-bool operator<(const std::string& stored, NameKey key) {
-  return compareNames(stored, key.name) < 0;
-}
-
 class Parser {
  public:
   Parser(std::string_view text, std::size_t maxDepth)
@@ -168,6 +157,7 @@ class Parser {
   std::size_t maxDepth_;
   bool failed_ = false;
   JSONParseError error_{Code::unexpectedEnd, 0};
+  std::string decodedName_;
 
   std::size_t offset(const char* at) const { return static_cast<std::size_t>(at - begin_); }
 
@@ -272,34 +262,36 @@ class Parser {
     do {
       if (p_ == end_) return fail(Code::unexpectedEnd, p_);
       if (*p_ != '"') return fail(Code::unexpectedCharacter, p_);
-      std::string name = parseString();
+      const std::string_view name = parseName();
       if (failed_) return JSONValue();
       skipWhiteSpace();
       if (p_ == end_) return fail(Code::unexpectedEnd, p_);
       if (*p_ != ':') return fail(Code::unexpectedCharacter, p_);
       ++p_;
       skipWhiteSpace();
-      JSONValue value = parseValue(depth + 1);
+      // The slot is made before the value is read: the name may live in a buffer the value's own
+      // members reuse.
+      JSONValue& slot = memberSlot(members, name);
+      slot = parseValue(depth + 1);
       if (failed_) return JSONValue();
-      addMember(members, std::move(name), std::move(value));
     } while (continueOrClose('}'));
     if (failed_) return JSONValue();
     return JSONValue(std::move(members));
   }
 
-  // A repeated name replaces the earlier member: the last one wins, as in most readers. Senders
-  // often write names in order, and then the member simply goes at the end.
-  static void addMember(JSONValue::Object& members, std::string&& name, JSONValue&& value) {
-    if (members.empty() || members.rbegin()->first < NameKey{name}) {
-      members.emplace_hint(members.end(), std::move(name), std::move(value));
-      return;
+  // Where the value of member `name` goes. A repeated name gets the earlier member's slot: the
+  // last one wins, as in most readers. Senders often write names in order, and then the member
+  // simply goes at the end.
+  static JSONValue& memberSlot(JSONValue::Object& members, std::string_view name) {
+    if (members.empty() || JSONNameOrder()(members.rbegin()->first, name)) {
+      return members
+          .emplace_hint(members.end(), std::piecewise_construct, std::forward_as_tuple(name),
+                        std::forward_as_tuple())
+          ->second;
     }
-    const auto position = members.lower_bound(NameKey{name});
-    if (position != members.end() && position->first == name) {
-      position->second = std::move(value);
-    } else {
-      members.emplace_hint(position, std::move(name), std::move(value));
-    }
+    return members
+        .emplace(std::piecewise_construct, std::forward_as_tuple(name), std::forward_as_tuple())
+        .first->second;
   }
 
   bool stop(Code code, const char* at) {
@@ -373,6 +365,19 @@ class Parser {
     return true;
   }
 
+  // A member name: a view of the text itself when it holds no escapes, else of `decodedName_`.
+  std::string_view parseName() {
+    const char* run = ++p_;
+    const char* p = skipPlainStringBytes(run, end_);
+    if (p != end_ && *p == '"') {
+      p_ = p + 1;
+      return std::string_view(run, static_cast<std::size_t>(p - run));
+    }
+    decodedName_.assign(run, p);
+    if (!decodeRestOfString(p, decodedName_)) return {};
+    return decodedName_;
+  }
+
   // `p_` is at the opening quote; leaves it after the closing one.
   std::string parseString() {
     const char* run = ++p_;
@@ -435,6 +440,7 @@ class Parser {
       if (p == end_ || !isDigit(*p)) return fail(Code::invalidNumber, p);
       p = skipDigits(p, end_);
     }
+    const char* significandEnd = p;
     const char* exponentStart = nullptr;
     if (p != end_ && (*p == 'e' || *p == 'E')) {
       ++p;
@@ -444,6 +450,10 @@ class Parser {
       p = skipDigits(p, end_);
     }
     double value = 0;
+    if (readSimpleNumber(integerStart, significandEnd, exponentStart, p, value)) {
+      p_ = p;
+      return JSONValue(*start == '-' ? -value : value);
+    }
     const auto result = std::from_chars(start, p, value);
     if (result.ec == std::errc::result_out_of_range) {
       if (isOverflow(integerStart, integerEnd, exponentStart, p)) {
@@ -455,6 +465,41 @@ class Parser {
     }
     p_ = p;
     return JSONValue(value);
+  }
+
+  // Most numbers have few digits and a small exponent. Then the digits, read as an integer, and
+  // the power of ten are both exact doubles, and one multiplication or division rounds correctly
+  // (Clinger's fast path). Gives up on everything else, which from_chars then reads.
+  static bool readSimpleNumber(const char* digits, const char* significandEnd,
+                               const char* exponentStart, const char* numberEnd, double& value) {
+    static constexpr double powersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                             1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                             1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+    constexpr int maxDigits = 15;  // below 2^53
+    constexpr int maxPower = 22;
+    std::uint64_t significand = 0;
+    int digitCount = 0;
+    int exponent = 0;
+    bool inFraction = false;
+    for (const char* d = digits; d != significandEnd; ++d) {
+      if (*d == '.') {
+        inFraction = true;
+        continue;
+      }
+      if (++digitCount > maxDigits) return false;
+      significand = significand * 10 + static_cast<std::uint64_t>(*d - '0');
+      if (inFraction) --exponent;
+    }
+    if (exponentStart != nullptr) {
+      if (numberEnd - exponentStart > 3) return false;
+      int written = 0;
+      for (const char* d = exponentStart; d != numberEnd; ++d) written = written * 10 + (*d - '0');
+      exponent += exponentStart[-1] == '-' ? -written : written;
+    }
+    if (exponent < -maxPower || exponent > maxPower) return false;
+    const auto exact = static_cast<double>(significand);
+    value = exponent < 0 ? exact / powersOfTen[-exponent] : exact * powersOfTen[exponent];
+    return true;
   }
 
   // from_chars reports both overflow and underflow as out of range. The decimal exponent of the

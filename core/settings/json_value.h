@@ -13,10 +13,24 @@
 
 namespace tindra {
 
+// Byte-wise order of member names (the order of std::string's own comparison), done inline:
+// names are short and mostly differ early, where memcmp's call costs more than the comparing.
+// Transparent, so members can be found by string_view or C string.
+struct JSONNameOrder {
+  using is_transparent = void;
+  bool operator()(std::string_view a, std::string_view b) const noexcept {
+    const std::size_t common = a.size() < b.size() ? a.size() : b.size();
+    for (std::size_t i = 0; i < common; ++i) {
+      if (a[i] != b[i]) return static_cast<unsigned char>(a[i]) < static_cast<unsigned char>(b[i]);
+    }
+    return a.size() < b.size();
+  }
+};
+
 class JSONValue {
  public:
   using Array = std::vector<JSONValue>;
-  using Object = std::map<std::string, JSONValue, std::less<>>;
+  using Object = std::map<std::string, JSONValue, JSONNameOrder>;
   enum class Type { boolean, number, string, array, object, null };
 
   JSONValue() = default;  // null
@@ -47,7 +61,8 @@ class JSONValue {
   // The member `name` of an object; nullptr when this is not an object or has no such member.
   const JSONValue* find(std::string_view name) const;
 
-  // Structural equality; numbers compare as doubles (so NaN, which JSON cannot carry, never equals).
+  // Structural equality; numbers compare as doubles (so NaN, which JSON cannot carry, never
+  // equals).
   friend bool operator==(const JSONValue&, const JSONValue&) = default;
 
  private:
