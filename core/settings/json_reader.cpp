@@ -143,11 +143,13 @@ class Parser {
 
   std::expected<JSONValue, JSONParseError> parseDocument() {
     skipWhiteSpace();
-    JSONValue value = parseValue(0);
+    JSONValue document;
+    parseValue(0,
+               [&](auto&& value) { document = JSONValue(std::forward<decltype(value)>(value)); });
     if (failed_) return std::unexpected(error_);
     skipWhiteSpace();
     if (p_ != end_) return std::unexpected(JSONParseError{Code::trailingContent, offset(p_)});
-    return value;
+    return document;
   }
 
  private:
@@ -162,10 +164,14 @@ class Parser {
   std::size_t offset(const char* at) const { return static_cast<std::size_t>(at - begin_); }
 
   // Records the first fault; the callers unwind as soon as they see `failed_`.
-  JSONValue fail(Code code, const char* at) {
+  void fail(Code code, const char* at) {
     if (!failed_) error_ = {code, offset(at)};
     failed_ = true;
-    return JSONValue();
+  }
+
+  bool stop(Code code, const char* at) {
+    fail(code, at);
+    return false;
   }
 
   static bool isWhiteSpace(char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; }
@@ -174,47 +180,62 @@ class Parser {
     while (p_ != end_ && isWhiteSpace(*p_)) ++p_;
   }
 
-  // `depth` counts the arrays and objects that enclose this value.
-  JSONValue parseValue(std::size_t depth) {
+  // Reads one value and hands it to `deliver` as the std::string, double, bool, nullptr, Array or
+  // Object it is, so the JSONValue is built once, where it will live, instead of being moved
+  // there. `depth` counts the arrays and objects that enclose the value.
+  template <class Deliver>
+  void parseValue(std::size_t depth, Deliver&& deliver) {
     if (p_ == end_) return fail(Code::unexpectedEnd, p_);
     switch (*p_) {
-      case '{':
-        return parseObject(depth);
-      case '[':
-        return parseArray(depth);
-      case '"':
-        return JSONValue(parseString());
+      case '{': {
+        JSONValue::Object members;
+        if (parseObject(depth, members)) deliver(std::move(members));
+        return;
+      }
+      case '[': {
+        JSONValue::Array elements;
+        if (parseArray(depth, elements)) deliver(std::move(elements));
+        return;
+      }
+      case '"': {
+        std::string text = parseString();
+        if (!failed_) deliver(std::move(text));
+        return;
+      }
       case 't':
-        return parseLiteral("true", JSONValue(true));
+        if (parseLiteral("true")) deliver(true);
+        return;
       case 'f':
-        return parseLiteral("false", JSONValue(false));
+        if (parseLiteral("false")) deliver(false);
+        return;
       case 'n':
-        return parseLiteral("null", JSONValue());
-      default:
-        if (*p_ == '-' || isDigit(*p_)) return parseNumber();
-        return fail(Code::unexpectedCharacter, p_);
+        if (parseLiteral("null")) deliver(nullptr);
+        return;
+      default: {
+        if (*p_ != '-' && !isDigit(*p_)) return fail(Code::unexpectedCharacter, p_);
+        double number;
+        if (parseNumber(number)) deliver(number);
+        return;
+      }
     }
   }
 
-  JSONValue parseLiteral(std::string_view literal, JSONValue value) {
+  bool parseLiteral(std::string_view literal) {
     if (static_cast<std::size_t>(end_ - p_) >= literal.size() &&
         std::memcmp(p_, literal.data(), literal.size()) == 0) {
       p_ += literal.size();
-      return value;
+      return true;
     }
     for (char expected : literal) {  // find where it went wrong
-      if (p_ == end_) return fail(Code::unexpectedEnd, p_);
-      if (*p_ != expected) return fail(Code::unexpectedCharacter, p_);
+      if (p_ == end_) return stop(Code::unexpectedEnd, p_);
+      if (*p_ != expected) return stop(Code::unexpectedCharacter, p_);
       ++p_;
     }
-    return value;
+    return true;
   }
 
   bool openContainer(std::size_t depth) {
-    if (depth >= maxDepth_) {
-      fail(Code::tooDeep, p_);
-      return false;
-    }
+    if (depth >= maxDepth_) return stop(Code::tooDeep, p_);
     ++p_;
     skipWhiteSpace();
     return true;
@@ -223,80 +244,76 @@ class Parser {
   // After a member or element: consumes the comma (true, more follow) or the closing bracket.
   bool continueOrClose(char closing) {
     skipWhiteSpace();
-    if (p_ == end_) {
-      fail(Code::unexpectedEnd, p_);
-      return false;
-    }
+    if (p_ == end_) return stop(Code::unexpectedEnd, p_);
     if (*p_ == ',') {
       ++p_;
       skipWhiteSpace();
       return true;
     }
-    if (*p_ != closing) fail(Code::unexpectedCharacter, p_);
+    if (*p_ != closing) return stop(Code::unexpectedCharacter, p_);
     ++p_;
     return false;
   }
 
-  JSONValue parseArray(std::size_t depth) {
-    if (!openContainer(depth)) return JSONValue();
-    JSONValue::Array elements;
+  bool parseArray(std::size_t depth, JSONValue::Array& elements) {
+    if (!openContainer(depth)) return false;
     if (p_ != end_ && *p_ == ']') {
       ++p_;
-      return JSONValue(std::move(elements));
+      return true;
     }
+    auto append = [&](auto&& value) {
+      elements.emplace_back(std::forward<decltype(value)>(value));
+    };
     do {
-      elements.push_back(parseValue(depth + 1));
-      if (failed_) return JSONValue();
+      parseValue(depth + 1, append);
+      if (failed_) return false;
     } while (continueOrClose(']'));
-    if (failed_) return JSONValue();
-    return JSONValue(std::move(elements));
+    return !failed_;
   }
 
-  JSONValue parseObject(std::size_t depth) {
-    if (!openContainer(depth)) return JSONValue();
+  bool parseObject(std::size_t depth, JSONValue::Object& members) {
+    if (!openContainer(depth)) return false;
     if (p_ != end_ && *p_ == '}') {
       ++p_;
-      return JSONValue(JSONValue::Object());
+      return true;
     }
-    JSONValue::Object members;
+    std::string nameHeldAside;
     do {
-      if (p_ == end_) return fail(Code::unexpectedEnd, p_);
-      if (*p_ != '"') return fail(Code::unexpectedCharacter, p_);
-      const std::string_view name = parseName();
-      if (failed_) return JSONValue();
+      if (p_ == end_) return stop(Code::unexpectedEnd, p_);
+      if (*p_ != '"') return stop(Code::unexpectedCharacter, p_);
+      std::string_view name = parseName();
+      if (failed_) return false;
       skipWhiteSpace();
-      if (p_ == end_) return fail(Code::unexpectedEnd, p_);
-      if (*p_ != ':') return fail(Code::unexpectedCharacter, p_);
+      if (p_ == end_) return stop(Code::unexpectedEnd, p_);
+      if (*p_ != ':') return stop(Code::unexpectedCharacter, p_);
       ++p_;
       skipWhiteSpace();
-      // The slot is made before the value is read: the name may live in a buffer the value's own
-      // members reuse.
-      JSONValue& slot = memberSlot(members, name);
-      slot = parseValue(depth + 1);
-      if (failed_) return JSONValue();
+      if (name.data() == decodedName_.data()) {  // the value's own members may reuse that buffer
+        nameHeldAside = name;
+        name = nameHeldAside;
+      }
+      parseValue(depth + 1, [&](auto&& value) {
+        addMember(members, name, std::forward<decltype(value)>(value));
+      });
+      if (failed_) return false;
     } while (continueOrClose('}'));
-    if (failed_) return JSONValue();
-    return JSONValue(std::move(members));
+    return !failed_;
   }
 
-  // Where the value of member `name` goes. A repeated name gets the earlier member's slot: the
-  // last one wins, as in most readers. Senders often write names in order, and then the member
-  // simply goes at the end.
-  static JSONValue& memberSlot(JSONValue::Object& members, std::string_view name) {
-    if (members.empty() || JSONNameOrder()(members.rbegin()->first, name)) {
-      return members
-          .emplace_hint(members.end(), std::piecewise_construct, std::forward_as_tuple(name),
-                        std::forward_as_tuple())
-          ->second;
+  // A repeated name replaces the earlier member: the last one wins, as in most readers. Senders
+  // often write names in order, and then the member simply goes at the end.
+  template <class Value>
+  static void addMember(JSONValue::Object& members, std::string_view name, Value&& value) {
+    auto position = members.end();
+    if (!members.empty() && !JSONNameOrder()(members.rbegin()->first, name)) {
+      position = members.lower_bound(name);
+      if (position != members.end() && position->first == name) {
+        position->second = JSONValue(std::forward<Value>(value));
+        return;
+      }
     }
-    return members
-        .emplace(std::piecewise_construct, std::forward_as_tuple(name), std::forward_as_tuple())
-        .first->second;
-  }
-
-  bool stop(Code code, const char* at) {
-    fail(code, at);
-    return false;
+    members.emplace_hint(position, std::piecewise_construct, std::forward_as_tuple(name),
+                         std::forward_as_tuple(std::forward<Value>(value)));
   }
 
   // Reads four hex digits after the "\u" at `escape`.
@@ -422,22 +439,22 @@ class Parser {
     return p;
   }
 
-  JSONValue parseNumber() {
+  bool parseNumber(double& value) {
     const char* start = p_;
     const char* p = p_;
     if (*p == '-') ++p;
-    if (p == end_ || !isDigit(*p)) return fail(Code::invalidNumber, p);
+    if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
     const char* integerStart = p;
     if (*p == '0') {
       ++p;
-      if (p != end_ && isDigit(*p)) return fail(Code::invalidNumber, p);
+      if (p != end_ && isDigit(*p)) return stop(Code::invalidNumber, p);
     } else {
       p = skipDigits(p, end_);
     }
     const char* integerEnd = p;
     if (p != end_ && *p == '.') {
       ++p;
-      if (p == end_ || !isDigit(*p)) return fail(Code::invalidNumber, p);
+      if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
       p = skipDigits(p, end_);
     }
     const char* significandEnd = p;
@@ -445,26 +462,26 @@ class Parser {
     if (p != end_ && (*p == 'e' || *p == 'E')) {
       ++p;
       if (p != end_ && (*p == '+' || *p == '-')) ++p;
-      if (p == end_ || !isDigit(*p)) return fail(Code::invalidNumber, p);
+      if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
       exponentStart = p;
       p = skipDigits(p, end_);
     }
-    double value = 0;
     if (readSimpleNumber(integerStart, significandEnd, exponentStart, p, value)) {
+      if (*start == '-') value = -value;
       p_ = p;
-      return JSONValue(*start == '-' ? -value : value);
+      return true;
     }
     const auto result = std::from_chars(start, p, value);
     if (result.ec == std::errc::result_out_of_range) {
       if (isOverflow(integerStart, integerEnd, exponentStart, p)) {
-        return fail(Code::numberOutOfRange, start);
+        return stop(Code::numberOutOfRange, start);
       }
       value = *start == '-' ? -0.0 : 0.0;  // too small for a double: the nearest is zero
     } else if (result.ec != std::errc() || result.ptr != p) {
-      return fail(Code::invalidNumber, start);
+      return stop(Code::invalidNumber, start);
     }
     p_ = p;
-    return JSONValue(value);
+    return true;
   }
 
   // Most numbers have few digits and a small exponent. Then the digits, read as an integer, and
