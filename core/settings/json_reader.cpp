@@ -126,6 +126,10 @@ bool isDigit(char c) {
   return c >= '0' && c <= '9';
 }
 
+std::uint64_t digitValue(char c) {
+  return static_cast<std::uint64_t>(c - '0');
+}
+
 int hexDigitValue(char c) {
   if (c >= '0' && c <= '9') return c - '0';
   if (c >= 'a' && c <= 'f') return c - 'a' + 10;
@@ -434,40 +438,56 @@ class Parser {
     return true;
   }
 
-  static const char* skipDigits(const char* p, const char* end) {
-    while (p != end && isDigit(*p)) ++p;
-    return p;
-  }
-
+  // Reads a number, checking the grammar and gathering its digits in one pass. Most numbers have
+  // at most 15 digits and a power of ten up to 22: then digits and power are both exact doubles
+  // and one multiplication or division rounds correctly (Clinger's fast path). from_chars reads
+  // the rest.
   bool parseNumber(double& value) {
+    static constexpr double powersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                             1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                             1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+    constexpr int maxExactDigits = 15;  // below 2^53
+    constexpr int maxExactPower = 22;
     const char* start = p_;
     const char* p = p_;
-    if (*p == '-') ++p;
+    const bool negative = *p == '-';
+    if (negative) ++p;
     if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
     const char* integerStart = p;
+    std::uint64_t digits = 0;  // wraps harmlessly when there are too many to use
+    int digitCount = 0;
+    int power = 0;
     if (*p == '0') {
       ++p;
       if (p != end_ && isDigit(*p)) return stop(Code::invalidNumber, p);
     } else {
-      p = skipDigits(p, end_);
+      for (; p != end_ && isDigit(*p); ++p, ++digitCount) digits = digits * 10 + digitValue(*p);
     }
     const char* integerEnd = p;
     if (p != end_ && *p == '.') {
       ++p;
       if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
-      p = skipDigits(p, end_);
+      for (; p != end_ && isDigit(*p); ++p, ++digitCount, --power) {
+        digits = digits * 10 + digitValue(*p);
+      }
     }
-    const char* significandEnd = p;
     const char* exponentStart = nullptr;
     if (p != end_ && (*p == 'e' || *p == 'E')) {
       ++p;
+      const bool negativeExponent = p != end_ && *p == '-';
       if (p != end_ && (*p == '+' || *p == '-')) ++p;
       if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
       exponentStart = p;
-      p = skipDigits(p, end_);
+      int exponent = 0;
+      for (; p != end_ && isDigit(*p); ++p) {
+        exponent = std::min(exponent * 10 + static_cast<int>(digitValue(*p)), 1'000'000);
+      }
+      power += negativeExponent ? -exponent : exponent;
     }
-    if (readSimpleNumber(integerStart, significandEnd, exponentStart, p, value)) {
-      if (*start == '-') value = -value;
+    if (digitCount <= maxExactDigits && power >= -maxExactPower && power <= maxExactPower) {
+      const auto exact = static_cast<double>(digits);
+      value = power < 0 ? exact / powersOfTen[-power] : exact * powersOfTen[power];
+      if (negative) value = -value;
       p_ = p;
       return true;
     }
@@ -476,46 +496,11 @@ class Parser {
       if (isOverflow(integerStart, integerEnd, exponentStart, p)) {
         return stop(Code::numberOutOfRange, start);
       }
-      value = *start == '-' ? -0.0 : 0.0;  // too small for a double: the nearest is zero
+      value = negative ? -0.0 : 0.0;  // too small for a double: the nearest is zero
     } else if (result.ec != std::errc() || result.ptr != p) {
       return stop(Code::invalidNumber, start);
     }
     p_ = p;
-    return true;
-  }
-
-  // Most numbers have few digits and a small exponent. Then the digits, read as an integer, and
-  // the power of ten are both exact doubles, and one multiplication or division rounds correctly
-  // (Clinger's fast path). Gives up on everything else, which from_chars then reads.
-  static bool readSimpleNumber(const char* digits, const char* significandEnd,
-                               const char* exponentStart, const char* numberEnd, double& value) {
-    static constexpr double powersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                             1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                             1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-    constexpr int maxDigits = 15;  // below 2^53
-    constexpr int maxPower = 22;
-    std::uint64_t significand = 0;
-    int digitCount = 0;
-    int exponent = 0;
-    bool inFraction = false;
-    for (const char* d = digits; d != significandEnd; ++d) {
-      if (*d == '.') {
-        inFraction = true;
-        continue;
-      }
-      if (++digitCount > maxDigits) return false;
-      significand = significand * 10 + static_cast<std::uint64_t>(*d - '0');
-      if (inFraction) --exponent;
-    }
-    if (exponentStart != nullptr) {
-      if (numberEnd - exponentStart > 3) return false;
-      int written = 0;
-      for (const char* d = exponentStart; d != numberEnd; ++d) written = written * 10 + (*d - '0');
-      exponent += exponentStart[-1] == '-' ? -written : written;
-    }
-    if (exponent < -maxPower || exponent > maxPower) return false;
-    const auto exact = static_cast<double>(significand);
-    value = exponent < 0 ? exact / powersOfTen[-exponent] : exact * powersOfTen[exponent];
     return true;
   }
 
