@@ -75,30 +75,24 @@ bool isSpecialByte(char c) {
   return byte == '"' || byte == '\\' || byte < 0x20 || byte >= 0x80;
 }
 
-// The first byte at or after `p` that needs a closer look inside a string (see specialByteFlags),
-// or `end`. Strings are mostly plain ASCII, so this scans many bytes per step.
-const char* skipPlainStringBytes(const char* p, const char* end) {
 #if defined(__SSE2__)
-  const __m128i quote = _mm_set1_epi8('"');
-  const __m128i backslash = _mm_set1_epi8('\\');
-  const __m128i space = _mm_set1_epi8(0x20);
-  auto specialMask = [&](const char* at) {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    // A signed compare: bytes of 0x80 and above are negative, so "below space" catches them too.
-    const __m128i special =
-        _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bytes, quote), _mm_cmpeq_epi8(bytes, backslash)),
-                     _mm_cmplt_epi8(bytes, space));
-    return static_cast<unsigned>(_mm_movemask_epi8(special));
-  };
-  // Most names and values are short: try one block before setting out on long strides.
-  if (end - p >= 16) {
-    const unsigned mask = specialMask(p);
-    if (mask != 0) return p + __builtin_ctz(mask);
-    p += 16;
-  }
+// Bit i set when byte i of the 16 at `at` would end a plain run (see specialByteFlags).
+unsigned specialByteMask(const char* at) {
+  const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+  // A signed compare: bytes of 0x80 and above are negative, so "below space" catches them too.
+  const __m128i special = _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('"')),
+                                                    _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\'))),
+                                       _mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20)));
+  return static_cast<unsigned>(_mm_movemask_epi8(special));
+}
+#endif
+
+// skipPlainStringBytes past its first block: long strides for long strings.
+[[gnu::noinline]] const char* skipLongPlainRun(const char* p, const char* end) {
+#if defined(__SSE2__)
   while (end - p >= 64) {
-    const unsigned m0 = specialMask(p), m1 = specialMask(p + 16);
-    const unsigned m2 = specialMask(p + 32), m3 = specialMask(p + 48);
+    const unsigned m0 = specialByteMask(p), m1 = specialByteMask(p + 16);
+    const unsigned m2 = specialByteMask(p + 32), m3 = specialByteMask(p + 48);
     if ((m0 | m1 | m2 | m3) != 0) {
       const std::uint64_t mask = m0 | (m1 << 16) | (static_cast<std::uint64_t>(m2) << 32) |
                                  (static_cast<std::uint64_t>(m3) << 48);
@@ -107,7 +101,7 @@ const char* skipPlainStringBytes(const char* p, const char* end) {
     p += 64;
   }
   while (end - p >= 16) {
-    const unsigned mask = specialMask(p);
+    const unsigned mask = specialByteMask(p);
     if (mask != 0) return p + __builtin_ctz(mask);
     p += 16;
   }
@@ -120,6 +114,20 @@ const char* skipPlainStringBytes(const char* p, const char* end) {
   }
   while (p != end && !isSpecialByte(*p)) ++p;
   return p;
+}
+
+// The first byte at or after `p` that needs a closer look inside a string (see specialByteFlags),
+// or `end`. Strings are mostly plain ASCII, so this scans many bytes per step; most names and
+// values are short, so the first block is checked right here.
+inline const char* skipPlainStringBytes(const char* p, const char* end) {
+#if defined(__SSE2__)
+  if (end - p >= 16) {
+    const unsigned mask = specialByteMask(p);
+    if (mask != 0) return p + __builtin_ctz(mask);
+    p += 16;
+  }
+#endif
+  return skipLongPlainRun(p, end);
 }
 
 bool isDigit(char c) {
@@ -438,15 +446,16 @@ class Parser {
     return true;
   }
 
-  // Reads a number, checking the grammar and gathering its digits in one pass. Most numbers have
-  // at most 15 digits and a power of ten up to 22: then digits and power are both exact doubles
-  // and one multiplication or division rounds correctly (Clinger's fast path). from_chars reads
-  // the rest.
+  // Reads a number, checking the grammar and gathering its digits in one pass. In most numbers
+  // the digits, read as an integer, stay within 2^53 and the power of ten within 22: then both are
+  // exact doubles and one multiplication or division rounds correctly (Clinger's fast path).
+  // from_chars reads the rest.
   bool parseNumber(double& value) {
     static constexpr double powersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
                                              1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
                                              1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
-    constexpr int maxExactDigits = 15;  // below 2^53
+    constexpr int maxGatheredDigits = 19;  // what a 64-bit integer holds without wrapping
+    constexpr std::uint64_t maxExactDigits = std::uint64_t{1} << 53;
     constexpr int maxExactPower = 22;
     const char* start = p_;
     const char* p = p_;
@@ -484,7 +493,8 @@ class Parser {
       }
       power += negativeExponent ? -exponent : exponent;
     }
-    if (digitCount <= maxExactDigits && power >= -maxExactPower && power <= maxExactPower) {
+    if (digitCount <= maxGatheredDigits && digits <= maxExactDigits && power >= -maxExactPower &&
+        power <= maxExactPower) {
       const auto exact = static_cast<double>(digits);
       value = power < 0 ? exact / powersOfTen[-power] : exact * powersOfTen[power];
       if (negative) value = -value;
