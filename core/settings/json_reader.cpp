@@ -189,7 +189,8 @@ class Parser {
   static bool isWhiteSpace(char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; }
 
   void skipWhiteSpace() {
-    while (p_ != end_ && isWhiteSpace(*p_)) ++p_;
+    // Compact text has none: anything above space ends it at once.
+    while (p_ != end_ && static_cast<unsigned char>(*p_) <= ' ' && isWhiteSpace(*p_)) ++p_;
   }
 
   // Reads one value and hands it to `deliver` as the std::string, double, bool, nullptr, Array or
