@@ -44,8 +44,17 @@ TEST(JSONReaderTest, ReadsEveryKindOfValue) {
 }
 
 TEST(JSONReaderTest, LastOfRepeatedNamesWins) {
-  const JSONValue value = parsed(R"({"a":1,"b":2,"a":3})");
-  EXPECT_EQ(value, JSONValue(JSONValue::Object{{"a", 3}, {"b", 2}}));
+  EXPECT_EQ(parsed(R"({"a":1,"b":2,"a":3})"), JSONValue(JSONValue::Object{{"a", 3}, {"b", 2}}));
+  EXPECT_EQ(parsed(R"({"b":{"x":1},"a":0,"b":[]})"),
+            JSONValue(JSONValue::Object{{"a", 0}, {"b", JSONValue::Array{}}}));
+  EXPECT_EQ(parsed(R"({"\u0061":1,"a":2})"), JSONValue(JSONValue::Object{{"a", 2}}));
+}
+
+TEST(JSONReaderTest, EscapedNamesSurviveTheNamesInsideTheirValue) {
+  EXPECT_EQ(
+      parsed(R"({"z\u0061":{"\u0063d":{"\u0065":1}},"b\n":[{"\u0066":2}]})"),
+      JSONValue(JSONValue::Object{{"za", JSONValue::Object{{"cd", JSONValue::Object{{"e", 1}}}}},
+                                  {"b\n", JSONValue::Array{JSONValue::Object{{"f", 2}}}}}));
 }
 
 TEST(JSONReaderTest, NumbersFollowTheGrammar) {
