@@ -36,7 +36,7 @@ format:
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i
 
 tidy: build
-	git ls-files 'core/*.cpp' | grep -v _test.cpp | xargs clang-tidy -p build/default --quiet
+	git ls-files 'core/*.cpp' | grep -v _test.cpp | xargs clang-tidy-19 -p build/default --quiet
 
 clean:
 	rm -rf build

@@ -21,12 +21,14 @@ enum class ActivityKind : int {
 };
 
 inline constexpr std::array<ActivityKind, 10> allActivityKinds{
-    ActivityKind::idle,    ActivityKind::nowPlaying, ActivityKind::upcomingEvent,
-    ActivityKind::focus,   ActivityKind::airDrop,    ActivityKind::message,
-    ActivityKind::accessory, ActivityKind::batteryAlert, ActivityKind::hud,
+    ActivityKind::idle,        ActivityKind::nowPlaying,   ActivityKind::upcomingEvent,
+    ActivityKind::focus,       ActivityKind::airDrop,      ActivityKind::message,
+    ActivityKind::accessory,   ActivityKind::batteryAlert, ActivityKind::hud,
     ActivityKind::incomingCall};
 
-constexpr int rawValue(ActivityKind kind) { return static_cast<int>(kind); }
+constexpr int rawValue(ActivityKind kind) {
+  return static_cast<int>(kind);
+}
 
 // No value outside 0...9.
 constexpr std::optional<ActivityKind> activityKindFromRaw(int raw) {

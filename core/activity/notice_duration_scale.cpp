@@ -7,9 +7,12 @@ namespace tindra {
 
 std::string_view rawValue(NoticeDurationScale scale) {
   switch (scale) {
-    case NoticeDurationScale::short_: return "short";
-    case NoticeDurationScale::medium: return "medium";
-    case NoticeDurationScale::long_: return "long";
+    case NoticeDurationScale::short_:
+      return "short";
+    case NoticeDurationScale::medium:
+      return "medium";
+    case NoticeDurationScale::long_:
+      return "long";
   }
   return "medium";
 }

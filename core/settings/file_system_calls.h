@@ -13,6 +13,7 @@ class FileSystemCalls {
   virtual ~FileSystemCalls() = default;
 
   virtual int open(const char* path, int flags, mode_t mode);
+  virtual ssize_t read(int fd, void* bytes, std::size_t count);
   virtual ssize_t write(int fd, const void* bytes, std::size_t count);
   virtual int fullSync(int fd);  // F_FULLFSYNC where the platform has it; -1 with ENOTSUP elsewhere
   virtual int fsync(int fd);

@@ -1,0 +1,22 @@
+// Small ASCII text helpers for the device names, part labels and identifiers the power and
+// accessory parsers read. Bytes outside ASCII pass through untouched, so UTF-8 stays intact.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tindra {
+
+// `text` with A-Z turned into a-z.
+std::string asciiLowercased(std::string_view text);
+
+// `text` without leading and trailing spaces, tabs and line breaks.
+std::string_view trimmedASCII(std::string_view text);
+
+// The whole of `digits` read as an unsigned number in `base` (10 or 16); none when empty, when any
+// character is not a digit of that base, or when the value exceeds `limit`.
+std::optional<std::uint32_t> unsignedNumber(std::string_view digits, int base, std::uint32_t limit);
+
+}  // namespace tindra
