@@ -1,12 +1,11 @@
 #include "settings/json_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <cstring>
-#include <limits>
 #include <utility>
-#include <vector>
 
 #if defined(__SSE2__)
 #include <emmintrin.h>
@@ -16,38 +15,37 @@
 
 namespace tindra {
 
-std::string JSONParseError::message() const {
-  const char* reason = "";
+namespace {
+
+const char* reasonText(JSONParseError::Code code) {
+  using Code = JSONParseError::Code;
   switch (code) {
     case Code::unexpectedEnd:
-      reason = "the text ends inside a value";
-      break;
+      return "the text ends inside a value";
     case Code::unexpectedCharacter:
-      reason = "unexpected character";
-      break;
+      return "unexpected character";
     case Code::invalidNumber:
-      reason = "malformed number";
-      break;
+      return "malformed number";
     case Code::numberOutOfRange:
-      reason = "number too large";
-      break;
+      return "number too large";
     case Code::invalidEscape:
-      reason = "invalid escape sequence";
-      break;
+      return "invalid escape sequence";
     case Code::invalidUTF8:
-      reason = "invalid UTF-8";
-      break;
+      return "invalid UTF-8";
     case Code::controlCharacter:
-      reason = "unescaped control character in a string";
-      break;
+      return "unescaped control character in a string";
     case Code::tooDeep:
-      reason = "arrays and objects nested too deeply";
-      break;
+      return "arrays and objects nested too deeply";
     case Code::trailingContent:
-      reason = "unexpected text after the value";
-      break;
+      return "unexpected text after the value";
   }
-  return "invalid JSON at byte " + std::to_string(offset) + ": " + reason;
+  return "";
+}
+
+}  // namespace
+
+std::string JSONParseError::message() const {
+  return "invalid JSON at byte " + std::to_string(offset) + ": " + reasonText(code);
 }
 
 namespace {
@@ -91,8 +89,10 @@ unsigned specialByteMask(const char* at) {
 [[gnu::noinline]] const char* skipLongPlainRun(const char* p, const char* end) {
 #if defined(__SSE2__)
   while (end - p >= 64) {
-    const unsigned m0 = specialByteMask(p), m1 = specialByteMask(p + 16);
-    const unsigned m2 = specialByteMask(p + 32), m3 = specialByteMask(p + 48);
+    const unsigned m0 = specialByteMask(p);
+    const unsigned m1 = specialByteMask(p + 16);
+    const unsigned m2 = specialByteMask(p + 32);
+    const unsigned m3 = specialByteMask(p + 48);
     if ((m0 | m1 | m2 | m3) != 0) {
       const std::uint64_t mask = m0 | (m1 << 16) | (static_cast<std::uint64_t>(m2) << 32) |
                                  (static_cast<std::uint64_t>(m3) << 48);
@@ -107,7 +107,7 @@ unsigned specialByteMask(const char* at) {
   }
 #endif
   while (end - p >= 8) {
-    std::uint64_t word;
+    std::uint64_t word = 0;
     std::memcpy(&word, p, sizeof word);
     if (specialByteFlags(word) != 0) break;
     p += 8;
@@ -160,7 +160,9 @@ class Parser {
                [&](auto&& value) { document = JSONValue(std::forward<decltype(value)>(value)); });
     if (failed_) return std::unexpected(error_);
     skipWhiteSpace();
-    if (p_ != end_) return std::unexpected(JSONParseError{Code::trailingContent, offset(p_)});
+    if (p_ != end_) {
+      return std::unexpected(JSONParseError{.code = Code::trailingContent, .offset = offset(p_)});
+    }
     return document;
   }
 
@@ -170,14 +172,14 @@ class Parser {
   const char* end_;
   std::size_t maxDepth_;
   bool failed_ = false;
-  JSONParseError error_{Code::unexpectedEnd, 0};
+  JSONParseError error_{.code = Code::unexpectedEnd, .offset = 0};
   std::string decodedName_;
 
   std::size_t offset(const char* at) const { return static_cast<std::size_t>(at - begin_); }
 
   // Records the first fault; the callers unwind as soon as they see `failed_`.
   void fail(Code code, const char* at) {
-    if (!failed_) error_ = {code, offset(at)};
+    if (!failed_) error_ = {.code = code, .offset = offset(at)};
     failed_ = true;
   }
 
@@ -197,8 +199,11 @@ class Parser {
   // Object it is, so the JSONValue is built once, where it will live, instead of being moved
   // there. `depth` counts the arrays and objects that enclose the value.
   template <class Deliver>
-  void parseValue(std::size_t depth, Deliver&& deliver) {
-    if (p_ == end_) return fail(Code::unexpectedEnd, p_);
+  void parseValue(std::size_t depth, const Deliver& deliver) {
+    if (p_ == end_) {
+      fail(Code::unexpectedEnd, p_);
+      return;
+    }
     switch (*p_) {
       case '{': {
         JSONValue::Object members;
@@ -225,8 +230,11 @@ class Parser {
         if (parseLiteral("null")) deliver(nullptr);
         return;
       default: {
-        if (*p_ != '-' && !isDigit(*p_)) return fail(Code::unexpectedCharacter, p_);
-        double number;
+        if (*p_ != '-' && !isDigit(*p_)) {
+          fail(Code::unexpectedCharacter, p_);
+          return;
+        }
+        double number = 0;
         if (parseNumber(number)) deliver(number);
         return;
       }
@@ -277,10 +285,10 @@ class Parser {
     auto append = [&](auto&& value) {
       elements.emplace_back(std::forward<decltype(value)>(value));
     };
-    do {
+    for (bool more = true; more; more = continueOrClose(']')) {
       parseValue(depth + 1, append);
       if (failed_) return false;
-    } while (continueOrClose(']'));
+    }
     return !failed_;
   }
 
@@ -291,7 +299,7 @@ class Parser {
       return true;
     }
     std::string nameHeldAside;
-    do {
+    for (bool more = true; more; more = continueOrClose('}')) {
       if (p_ == end_) return stop(Code::unexpectedEnd, p_);
       if (*p_ != '"') return stop(Code::unexpectedCharacter, p_);
       std::string_view name = parseName();
@@ -309,7 +317,7 @@ class Parser {
         addMember(members, name, std::forward<decltype(value)>(value));
       });
       if (failed_) return false;
-    } while (continueOrClose('}'));
+    }
     return !failed_;
   }
 
@@ -337,21 +345,21 @@ class Parser {
       if (digits + i == end_) return stop(Code::unexpectedEnd, end_);
       const int digit = hexDigitValue(digits[i]);
       if (digit < 0) return stop(Code::invalidEscape, escape);
-      value = value * 16 + static_cast<std::uint32_t>(digit);
+      value = (value * 16) + static_cast<std::uint32_t>(digit);
     }
     return true;
   }
 
   bool parseUnicodeEscape(std::string& out) {
     const char* escape = p_;
-    std::uint32_t unit;
+    std::uint32_t unit = 0;
     if (!parseHex4(escape, unit)) return false;
     p_ = escape + 6;
     if (unit >= 0xDC00 && unit <= 0xDFFF) return stop(Code::invalidEscape, escape);
     if (unit >= 0xD800 && unit <= 0xDBFF) {
       // A high surrogate is only valid when a low one follows at once.
       if (end_ - p_ < 2 || p_[0] != '\\' || p_[1] != 'u') return stop(Code::invalidEscape, escape);
-      std::uint32_t low;
+      std::uint32_t low = 0;
       if (!parseHex4(p_, low)) return false;
       if (low < 0xDC00 || low > 0xDFFF) return stop(Code::invalidEscape, escape);
       p_ += 6;
@@ -401,7 +409,7 @@ class Parser {
     const char* p = skipPlainStringBytes(run, end_);
     if (p != end_ && *p == '"') {
       p_ = p + 1;
-      return std::string_view(run, static_cast<std::size_t>(p - run));
+      return {run, static_cast<std::size_t>(p - run)};
     }
     decodedName_.assign(run, p);
     if (!decodeRestOfString(p, decodedName_)) return {};
@@ -414,10 +422,10 @@ class Parser {
     const char* p = skipPlainStringBytes(run, end_);
     if (p != end_ && *p == '"') {  // the common case: nothing to decode or check
       p_ = p + 1;
-      return std::string(run, p);
+      return {run, p};
     }
     std::string text(run, p);
-    if (!decodeRestOfString(p, text)) return std::string();
+    if (!decodeRestOfString(p, text)) return {};
     return text;
   }
 
@@ -452,9 +460,9 @@ class Parser {
   // exact doubles and one multiplication or division rounds correctly (Clinger's fast path).
   // from_chars reads the rest.
   bool parseNumber(double& value) {
-    static constexpr double powersOfTen[] = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
-                                             1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
-                                             1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+    static constexpr std::array<double, 23> powersOfTen = {
+        1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+        1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
     constexpr int maxGatheredDigits = 19;  // what a 64-bit integer holds without wrapping
     constexpr std::uint64_t maxExactDigits = std::uint64_t{1} << 53;
     constexpr int maxExactPower = 22;
@@ -465,46 +473,50 @@ class Parser {
     if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
     const char* integerStart = p;
     std::uint64_t digits = 0;  // wraps harmlessly when there are too many to use
-    int digitCount = 0;
-    int power = 0;
+    std::int64_t digitCount = 0;
+    std::int64_t power = 0;
     if (*p == '0') {
       ++p;
       if (p != end_ && isDigit(*p)) return stop(Code::invalidNumber, p);
     } else {
-      for (; p != end_ && isDigit(*p); ++p, ++digitCount) digits = digits * 10 + digitValue(*p);
+      for (; p != end_ && isDigit(*p); ++p, ++digitCount) digits = (digits * 10) + digitValue(*p);
     }
     const char* integerEnd = p;
     if (p != end_ && *p == '.') {
       ++p;
       if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
       for (; p != end_ && isDigit(*p); ++p, ++digitCount, --power) {
-        digits = digits * 10 + digitValue(*p);
+        digits = (digits * 10) + digitValue(*p);
       }
     }
-    const char* exponentStart = nullptr;
+    // As written, held below a bound that no count of digits in a text in memory comes near.
+    std::int64_t exponent = 0;
+    constexpr std::int64_t exponentBound = 1'000'000'000'000'000;
     if (p != end_ && (*p == 'e' || *p == 'E')) {
       ++p;
       const bool negativeExponent = p != end_ && *p == '-';
       if (p != end_ && (*p == '+' || *p == '-')) ++p;
       if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
-      exponentStart = p;
-      int exponent = 0;
       for (; p != end_ && isDigit(*p); ++p) {
-        exponent = std::min(exponent * 10 + static_cast<int>(digitValue(*p)), 1'000'000);
+        exponent =
+            std::min((exponent * 10) + static_cast<std::int64_t>(digitValue(*p)), exponentBound);
       }
-      power += negativeExponent ? -exponent : exponent;
+      if (negativeExponent) exponent = -exponent;
+      power += exponent;
     }
     if (digitCount <= maxGatheredDigits && digits <= maxExactDigits && power >= -maxExactPower &&
         power <= maxExactPower) {
       const auto exact = static_cast<double>(digits);
-      value = power < 0 ? exact / powersOfTen[-power] : exact * powersOfTen[power];
+      const auto index = static_cast<std::size_t>(power < 0 ? -power : power);
+      const double scale = powersOfTen[index];  // NOLINT(*-constant-array-index): 22 at most
+      value = power < 0 ? exact / scale : exact * scale;
       if (negative) value = -value;
       p_ = p;
       return true;
     }
     const auto result = std::from_chars(start, p, value);
     if (result.ec == std::errc::result_out_of_range) {
-      if (isOverflow(integerStart, integerEnd, exponentStart, p)) {
+      if (isOverflow(integerStart, integerEnd, p, exponent)) {
         return stop(Code::numberOutOfRange, start);
       }
       value = negative ? -0.0 : 0.0;  // too small for a double: the nearest is zero
@@ -518,26 +530,16 @@ class Parser {
   // from_chars reports both overflow and underflow as out of range. The decimal exponent of the
   // first significant digit tells them apart: a number that does not fit and is at least 1 is too
   // large.
-  static bool isOverflow(const char* integerStart, const char* integerEnd,
-                         const char* exponentStart, const char* numberEnd) {
-    long long magnitude;
-    if (*integerStart != '0') {
-      magnitude = integerEnd - integerStart - 1;
-    } else {
+  static bool isOverflow(const char* integerStart, const char* integerEnd, const char* numberEnd,
+                         std::int64_t exponent) {
+    std::ptrdiff_t magnitude = integerEnd - integerStart - 1;
+    if (*integerStart == '0') {
       const char* fraction = integerEnd + 1;  // a number that does not fit is not plain zero
       const char* firstSignificant = fraction;
       while (firstSignificant != numberEnd && *firstSignificant == '0') ++firstSignificant;
       magnitude = -(firstSignificant - fraction + 1);
     }
-    if (exponentStart != nullptr) {
-      const bool negative = exponentStart[-1] == '-';
-      long long exponent = 0;
-      for (const char* d = exponentStart; d != numberEnd; ++d) {
-        exponent = std::min(exponent * 10 + (*d - '0'), 1'000'000'000LL);
-      }
-      magnitude += negative ? -exponent : exponent;
-    }
-    return magnitude >= 0;
+    return magnitude + exponent >= 0;
   }
 };
 

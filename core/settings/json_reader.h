@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <expected>
 #include <string>
 #include <string_view>
@@ -13,7 +14,7 @@
 namespace tindra {
 
 struct JSONParseError {
-  enum class Code {
+  enum class Code : std::uint8_t {
     unexpectedEnd,        // the text stops inside a value
     unexpectedCharacter,  // a character that cannot start or continue the value here
     invalidNumber,        // a number that breaks the grammar (leading zero, lone minus, "1.", "1e")

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <initializer_list>
 #include <map>
 #include <string>
@@ -31,7 +32,7 @@ class JSONValue {
  public:
   using Array = std::vector<JSONValue>;
   using Object = std::map<std::string, JSONValue, JSONNameOrder>;
-  enum class Type { boolean, number, string, array, object, null };
+  enum class Type : std::uint8_t { boolean, number, string, array, object, null };
 
   JSONValue() = default;  // null
   JSONValue(std::nullptr_t) {}
