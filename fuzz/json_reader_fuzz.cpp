@@ -1,4 +1,6 @@
-// Reads arbitrary bytes as JSON; whatever reads must survive writing and reading again unchanged.
+// Reads arbitrary bytes as JSON; whatever reads must survive writing and reading again unchanged,
+// and a lone number must read as the double from_chars finds.
+#include <charconv>
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
@@ -22,6 +24,20 @@ void checkRoundTrip(const tindra::JSONValue& value, const std::string& text) {
   }
 }
 
+// A number read on its own must be the double from_chars gives for the same digits.
+void checkNumber(const tindra::JSONValue& value, std::string_view text) {
+  const double* number = value.asNumber();
+  if (number == nullptr) return;
+  const auto first = text.find_first_not_of(" \t\r\n");
+  const auto last = text.find_last_not_of(" \t\r\n");
+  double expected = 0;
+  const auto result = std::from_chars(text.data() + first, text.data() + last + 1, expected);
+  if (result.ec == std::errc() && *number != expected) {
+    std::fprintf(stderr, "number reads as %.17g, from_chars gives %.17g\n", *number, expected);
+    std::abort();
+  }
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -31,6 +47,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (value.error().offset > size) std::abort();
     return 0;
   }
+  checkNumber(*value, text);
   checkRoundTrip(*value, tindra::JSONWriter::write(*value));
   checkRoundTrip(*value, tindra::JSONWriter::writePretty(*value));
   return 0;

@@ -1,10 +1,10 @@
 #include "settings/json_reader.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <cstring>
-#include <limits>
 #include <utility>
 
 #if defined(__SSE2__)
@@ -15,38 +15,37 @@
 
 namespace tindra {
 
-std::string JSONParseError::message() const {
-  const char* reason = "";
+namespace {
+
+const char* reasonText(JSONParseError::Code code) {
+  using Code = JSONParseError::Code;
   switch (code) {
     case Code::unexpectedEnd:
-      reason = "the text ends inside a value";
-      break;
+      return "the text ends inside a value";
     case Code::unexpectedCharacter:
-      reason = "unexpected character";
-      break;
+      return "unexpected character";
     case Code::invalidNumber:
-      reason = "malformed number";
-      break;
+      return "malformed number";
     case Code::numberOutOfRange:
-      reason = "number too large";
-      break;
+      return "number too large";
     case Code::invalidEscape:
-      reason = "invalid escape sequence";
-      break;
+      return "invalid escape sequence";
     case Code::invalidUTF8:
-      reason = "invalid UTF-8";
-      break;
+      return "invalid UTF-8";
     case Code::controlCharacter:
-      reason = "unescaped control character in a string";
-      break;
+      return "unescaped control character in a string";
     case Code::tooDeep:
-      reason = "arrays and objects nested too deeply";
-      break;
+      return "arrays and objects nested too deeply";
     case Code::trailingContent:
-      reason = "unexpected text after the value";
-      break;
+      return "unexpected text after the value";
   }
-  return "invalid JSON at byte " + std::to_string(offset) + ": " + reason;
+  return "";
+}
+
+}  // namespace
+
+std::string JSONParseError::message() const {
+  return "invalid JSON at byte " + std::to_string(offset) + ": " + reasonText(code);
 }
 
 namespace {
@@ -74,24 +73,26 @@ bool isSpecialByte(char c) {
   return byte == '"' || byte == '\\' || byte < 0x20 || byte >= 0x80;
 }
 
-// The first byte at or after `p` that needs a closer look inside a string (see specialByteFlags),
-// or `end`. Strings are mostly plain ASCII, so this scans many bytes per step.
-const char* skipPlainStringBytes(const char* p, const char* end) {
 #if defined(__SSE2__)
-  const __m128i quote = _mm_set1_epi8('"');
-  const __m128i backslash = _mm_set1_epi8('\\');
-  const __m128i space = _mm_set1_epi8(0x20);
-  auto specialMask = [&](const char* at) {
-    const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
-    // A signed compare: bytes of 0x80 and above are negative, so "below space" catches them too.
-    const __m128i special =
-        _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bytes, quote), _mm_cmpeq_epi8(bytes, backslash)),
-                     _mm_cmplt_epi8(bytes, space));
-    return static_cast<unsigned>(_mm_movemask_epi8(special));
-  };
+// Bit i set when byte i of the 16 at `at` would end a plain run (see specialByteFlags).
+unsigned specialByteMask(const char* at) {
+  const __m128i bytes = _mm_loadu_si128(reinterpret_cast<const __m128i*>(at));
+  // A signed compare: bytes of 0x80 and above are negative, so "below space" catches them too.
+  const __m128i special = _mm_or_si128(_mm_or_si128(_mm_cmpeq_epi8(bytes, _mm_set1_epi8('"')),
+                                                    _mm_cmpeq_epi8(bytes, _mm_set1_epi8('\\'))),
+                                       _mm_cmplt_epi8(bytes, _mm_set1_epi8(0x20)));
+  return static_cast<unsigned>(_mm_movemask_epi8(special));
+}
+#endif
+
+// skipPlainStringBytes past its first block: long strides for long strings.
+[[gnu::noinline]] const char* skipLongPlainRun(const char* p, const char* end) {
+#if defined(__SSE2__)
   while (end - p >= 64) {
-    const unsigned m0 = specialMask(p), m1 = specialMask(p + 16);
-    const unsigned m2 = specialMask(p + 32), m3 = specialMask(p + 48);
+    const unsigned m0 = specialByteMask(p);
+    const unsigned m1 = specialByteMask(p + 16);
+    const unsigned m2 = specialByteMask(p + 32);
+    const unsigned m3 = specialByteMask(p + 48);
     if ((m0 | m1 | m2 | m3) != 0) {
       const std::uint64_t mask = m0 | (m1 << 16) | (static_cast<std::uint64_t>(m2) << 32) |
                                  (static_cast<std::uint64_t>(m3) << 48);
@@ -100,13 +101,13 @@ const char* skipPlainStringBytes(const char* p, const char* end) {
     p += 64;
   }
   while (end - p >= 16) {
-    const unsigned mask = specialMask(p);
+    const unsigned mask = specialByteMask(p);
     if (mask != 0) return p + __builtin_ctz(mask);
     p += 16;
   }
 #endif
   while (end - p >= 8) {
-    std::uint64_t word;
+    std::uint64_t word = 0;
     std::memcpy(&word, p, sizeof word);
     if (specialByteFlags(word) != 0) break;
     p += 8;
@@ -115,8 +116,26 @@ const char* skipPlainStringBytes(const char* p, const char* end) {
   return p;
 }
 
+// The first byte at or after `p` that needs a closer look inside a string (see specialByteFlags),
+// or `end`. Strings are mostly plain ASCII, so this scans many bytes per step; most names and
+// values are short, so the first block is checked right here.
+inline const char* skipPlainStringBytes(const char* p, const char* end) {
+#if defined(__SSE2__)
+  if (end - p >= 16) {
+    const unsigned mask = specialByteMask(p);
+    if (mask != 0) return p + __builtin_ctz(mask);
+    p += 16;
+  }
+#endif
+  return skipLongPlainRun(p, end);
+}
+
 bool isDigit(char c) {
   return c >= '0' && c <= '9';
+}
+
+std::uint64_t digitValue(char c) {
+  return static_cast<std::uint64_t>(c - '0');
 }
 
 int hexDigitValue(char c) {
@@ -135,12 +154,16 @@ class Parser {
         maxDepth_(maxDepth) {}
 
   std::expected<JSONValue, JSONParseError> parseDocument() {
-    JSONValue value;
     skipWhiteSpace();
-    if (!parseValue(value, 0)) return std::unexpected(error_);
+    JSONValue document;
+    parseValue(0,
+               [&](auto&& value) { document = JSONValue(std::forward<decltype(value)>(value)); });
+    if (failed_) return std::unexpected(error_);
     skipWhiteSpace();
-    if (p_ != end_) return std::unexpected(JSONParseError{Code::trailingContent, offset(p_)});
-    return value;
+    if (p_ != end_) {
+      return std::unexpected(JSONParseError{.code = Code::trailingContent, .offset = offset(p_)});
+    }
+    return document;
   }
 
  private:
@@ -148,151 +171,197 @@ class Parser {
   const char* p_;
   const char* end_;
   std::size_t maxDepth_;
-  JSONParseError error_{Code::unexpectedEnd, 0};
+  bool failed_ = false;
+  JSONParseError error_{.code = Code::unexpectedEnd, .offset = 0};
+  std::string decodedName_;
 
   std::size_t offset(const char* at) const { return static_cast<std::size_t>(at - begin_); }
 
-  bool fail(Code code, const char* at) {
-    error_ = {code, offset(at)};
+  // Records the first fault; the callers unwind as soon as they see `failed_`.
+  void fail(Code code, const char* at) {
+    if (!failed_) error_ = {.code = code, .offset = offset(at)};
+    failed_ = true;
+  }
+
+  bool stop(Code code, const char* at) {
+    fail(code, at);
     return false;
   }
 
+  static bool isWhiteSpace(char c) { return c == ' ' || c == '\n' || c == '\r' || c == '\t'; }
+
   void skipWhiteSpace() {
-    while (p_ != end_ && (*p_ == ' ' || *p_ == '\n' || *p_ == '\r' || *p_ == '\t')) ++p_;
+    // Compact text has none: anything above space ends it at once.
+    while (p_ != end_ && static_cast<unsigned char>(*p_) <= ' ' && isWhiteSpace(*p_)) ++p_;
   }
 
-  // `depth` counts the arrays and objects that enclose this value.
-  bool parseValue(JSONValue& out, std::size_t depth) {
-    if (p_ == end_) return fail(Code::unexpectedEnd, p_);
+  // Reads one value and hands it to `deliver` as the std::string, double, bool, nullptr, Array or
+  // Object it is, so the JSONValue is built once, where it will live, instead of being moved
+  // there. `depth` counts the arrays and objects that enclose the value.
+  template <class Deliver>
+  void parseValue(std::size_t depth, const Deliver& deliver) {
+    if (p_ == end_) {
+      fail(Code::unexpectedEnd, p_);
+      return;
+    }
     switch (*p_) {
-      case '{':
-        return parseObject(out, depth);
-      case '[':
-        return parseArray(out, depth);
+      case '{': {
+        JSONValue::Object members;
+        if (parseObject(depth, members)) deliver(std::move(members));
+        return;
+      }
+      case '[': {
+        JSONValue::Array elements;
+        if (parseArray(depth, elements)) deliver(std::move(elements));
+        return;
+      }
       case '"': {
-        std::string text;
-        if (!parseString(text)) return false;
-        out = JSONValue(std::move(text));
-        return true;
+        std::string text = parseString();
+        if (!failed_) deliver(std::move(text));
+        return;
       }
       case 't':
-        out = JSONValue(true);
-        return parseLiteral("true");
+        if (parseLiteral("true")) deliver(true);
+        return;
       case 'f':
-        out = JSONValue(false);
-        return parseLiteral("false");
+        if (parseLiteral("false")) deliver(false);
+        return;
       case 'n':
-        out = JSONValue(nullptr);
-        return parseLiteral("null");
-      default:
-        if (*p_ == '-' || isDigit(*p_)) return parseNumber(out);
-        return fail(Code::unexpectedCharacter, p_);
+        if (parseLiteral("null")) deliver(nullptr);
+        return;
+      default: {
+        if (*p_ != '-' && !isDigit(*p_)) {
+          fail(Code::unexpectedCharacter, p_);
+          return;
+        }
+        double number = 0;
+        if (parseNumber(number)) deliver(number);
+        return;
+      }
     }
   }
 
   bool parseLiteral(std::string_view literal) {
-    for (char expected : literal) {
-      if (p_ == end_) return fail(Code::unexpectedEnd, p_);
-      if (*p_ != expected) return fail(Code::unexpectedCharacter, p_);
+    if (static_cast<std::size_t>(end_ - p_) >= literal.size() &&
+        std::memcmp(p_, literal.data(), literal.size()) == 0) {
+      p_ += literal.size();
+      return true;
+    }
+    for (char expected : literal) {  // find where it went wrong
+      if (p_ == end_) return stop(Code::unexpectedEnd, p_);
+      if (*p_ != expected) return stop(Code::unexpectedCharacter, p_);
       ++p_;
     }
     return true;
   }
 
   bool openContainer(std::size_t depth) {
-    if (depth >= maxDepth_) return fail(Code::tooDeep, p_);
+    if (depth >= maxDepth_) return stop(Code::tooDeep, p_);
     ++p_;
     skipWhiteSpace();
     return true;
   }
 
   // After a member or element: consumes the comma (true, more follow) or the closing bracket.
-  bool continueOrClose(char closing, bool& more) {
+  bool continueOrClose(char closing) {
     skipWhiteSpace();
-    if (p_ == end_) return fail(Code::unexpectedEnd, p_);
+    if (p_ == end_) return stop(Code::unexpectedEnd, p_);
     if (*p_ == ',') {
       ++p_;
       skipWhiteSpace();
-      more = true;
       return true;
     }
-    if (*p_ == closing) {
-      ++p_;
-      more = false;
-      return true;
-    }
-    return fail(Code::unexpectedCharacter, p_);
+    if (*p_ != closing) return stop(Code::unexpectedCharacter, p_);
+    ++p_;
+    return false;
   }
 
-  bool parseArray(JSONValue& out, std::size_t depth) {
+  bool parseArray(std::size_t depth, JSONValue::Array& elements) {
     if (!openContainer(depth)) return false;
-    JSONValue::Array elements;
     if (p_ != end_ && *p_ == ']') {
       ++p_;
-    } else {
-      for (bool more = true; more;) {
-        elements.emplace_back();
-        if (!parseValue(elements.back(), depth + 1)) return false;
-        if (!continueOrClose(']', more)) return false;
-      }
+      return true;
     }
-    out = JSONValue(std::move(elements));
-    return true;
+    auto append = [&](auto&& value) {
+      elements.emplace_back(std::forward<decltype(value)>(value));
+    };
+    for (bool more = true; more; more = continueOrClose(']')) {
+      parseValue(depth + 1, append);
+      if (failed_) return false;
+    }
+    return !failed_;
   }
 
-  bool parseObject(JSONValue& out, std::size_t depth) {
+  bool parseObject(std::size_t depth, JSONValue::Object& members) {
     if (!openContainer(depth)) return false;
-    JSONValue::Object members;
     if (p_ != end_ && *p_ == '}') {
       ++p_;
-    } else {
-      for (bool more = true; more;) {
-        if (p_ == end_) return fail(Code::unexpectedEnd, p_);
-        if (*p_ != '"') return fail(Code::unexpectedCharacter, p_);
-        std::string name;
-        if (!parseString(name)) return false;
-        skipWhiteSpace();
-        if (p_ == end_) return fail(Code::unexpectedEnd, p_);
-        if (*p_ != ':') return fail(Code::unexpectedCharacter, p_);
-        ++p_;
-        skipWhiteSpace();
-        JSONValue value;
-        if (!parseValue(value, depth + 1)) return false;
-        // A repeated name replaces the earlier member: the last one wins. Senders usually write
-        // names in order, so the end is a good first guess for where the member belongs.
-        members.insert_or_assign(members.end(), std::move(name), std::move(value));
-        if (!continueOrClose('}', more)) return false;
-      }
+      return true;
     }
-    out = JSONValue(std::move(members));
-    return true;
+    std::string nameHeldAside;
+    for (bool more = true; more; more = continueOrClose('}')) {
+      if (p_ == end_) return stop(Code::unexpectedEnd, p_);
+      if (*p_ != '"') return stop(Code::unexpectedCharacter, p_);
+      std::string_view name = parseName();
+      if (failed_) return false;
+      skipWhiteSpace();
+      if (p_ == end_) return stop(Code::unexpectedEnd, p_);
+      if (*p_ != ':') return stop(Code::unexpectedCharacter, p_);
+      ++p_;
+      skipWhiteSpace();
+      if (name.data() == decodedName_.data()) {  // the value's own members may reuse that buffer
+        nameHeldAside = name;
+        name = nameHeldAside;
+      }
+      parseValue(depth + 1, [&](auto&& value) {
+        addMember(members, name, std::forward<decltype(value)>(value));
+      });
+      if (failed_) return false;
+    }
+    return !failed_;
   }
 
-  // Reads four hex digits after the "\u" at `escape`; false with the error set otherwise.
+  // A repeated name replaces the earlier member: the last one wins, as in most readers. Senders
+  // often write names in order, and then the member simply goes at the end.
+  template <class Value>
+  static void addMember(JSONValue::Object& members, std::string_view name, Value&& value) {
+    auto position = members.end();
+    if (!members.empty() && !JSONNameOrder()(members.rbegin()->first, name)) {
+      position = members.lower_bound(name);
+      if (position != members.end() && position->first == name) {
+        position->second = JSONValue(std::forward<Value>(value));
+        return;
+      }
+    }
+    members.emplace_hint(position, std::piecewise_construct, std::forward_as_tuple(name),
+                         std::forward_as_tuple(std::forward<Value>(value)));
+  }
+
+  // Reads four hex digits after the "\u" at `escape`.
   bool parseHex4(const char* escape, std::uint32_t& value) {
     const char* digits = escape + 2;
     value = 0;
     for (int i = 0; i < 4; ++i) {
-      if (digits + i == end_) return fail(Code::unexpectedEnd, end_);
+      if (digits + i == end_) return stop(Code::unexpectedEnd, end_);
       const int digit = hexDigitValue(digits[i]);
-      if (digit < 0) return fail(Code::invalidEscape, escape);
-      value = value * 16 + static_cast<std::uint32_t>(digit);
+      if (digit < 0) return stop(Code::invalidEscape, escape);
+      value = (value * 16) + static_cast<std::uint32_t>(digit);
     }
     return true;
   }
 
   bool parseUnicodeEscape(std::string& out) {
     const char* escape = p_;
-    std::uint32_t unit;
+    std::uint32_t unit = 0;
     if (!parseHex4(escape, unit)) return false;
     p_ = escape + 6;
-    if (unit >= 0xDC00 && unit <= 0xDFFF) return fail(Code::invalidEscape, escape);
+    if (unit >= 0xDC00 && unit <= 0xDFFF) return stop(Code::invalidEscape, escape);
     if (unit >= 0xD800 && unit <= 0xDBFF) {
       // A high surrogate is only valid when a low one follows at once.
-      if (end_ - p_ < 2 || p_[0] != '\\' || p_[1] != 'u') return fail(Code::invalidEscape, escape);
-      std::uint32_t low;
+      if (end_ - p_ < 2 || p_[0] != '\\' || p_[1] != 'u') return stop(Code::invalidEscape, escape);
+      std::uint32_t low = 0;
       if (!parseHex4(p_, low)) return false;
-      if (low < 0xDC00 || low > 0xDFFF) return fail(Code::invalidEscape, escape);
+      if (low < 0xDC00 || low > 0xDFFF) return stop(Code::invalidEscape, escape);
       p_ += 6;
       unit = 0x10000 + ((unit - 0xD800) << 10) + (low - 0xDC00);
     }
@@ -300,56 +369,71 @@ class Parser {
     return true;
   }
 
-  bool parseEscape(std::string& out) {
-    if (end_ - p_ < 2) return fail(Code::unexpectedEnd, end_);
-    char decoded;
-    switch (p_[1]) {
+  static char decodedShortEscape(char c) {
+    switch (c) {
       case '"':
-        decoded = '"';
-        break;
+        return '"';
       case '\\':
-        decoded = '\\';
-        break;
+        return '\\';
       case '/':
-        decoded = '/';
-        break;
+        return '/';
       case 'b':
-        decoded = '\b';
-        break;
+        return '\b';
       case 'f':
-        decoded = '\f';
-        break;
+        return '\f';
       case 'n':
-        decoded = '\n';
-        break;
+        return '\n';
       case 'r':
-        decoded = '\r';
-        break;
+        return '\r';
       case 't':
-        decoded = '\t';
-        break;
-      case 'u':
-        return parseUnicodeEscape(out);
+        return '\t';
       default:
-        return fail(Code::invalidEscape, p_);
+        return 0;
     }
+  }
+
+  // `p_` is at the backslash; leaves it after the escape.
+  bool parseEscape(std::string& out) {
+    if (end_ - p_ < 2) return stop(Code::unexpectedEnd, end_);
+    if (p_[1] == 'u') return parseUnicodeEscape(out);
+    const char decoded = decodedShortEscape(p_[1]);
+    if (decoded == 0) return stop(Code::invalidEscape, p_);
     out.push_back(decoded);
     p_ += 2;
     return true;
   }
 
-  // `p_` is at the opening quote; leaves it after the closing one.
-  bool parseString(std::string& out) {
+  // A member name: a view of the text itself when it holds no escapes, else of `decodedName_`.
+  std::string_view parseName() {
     const char* run = ++p_;
-    const char* p = skipPlainStringBytes(p_, end_);
-    if (p != end_ && *p == '"') {  // the common case: nothing to decode
-      out.assign(run, p);
+    const char* p = skipPlainStringBytes(run, end_);
+    if (p != end_ && *p == '"') {
       p_ = p + 1;
-      return true;
+      return {run, static_cast<std::size_t>(p - run)};
     }
-    out.clear();
+    decodedName_.assign(run, p);
+    if (!decodeRestOfString(p, decodedName_)) return {};
+    return decodedName_;
+  }
+
+  // `p_` is at the opening quote; leaves it after the closing one.
+  std::string parseString() {
+    const char* run = ++p_;
+    const char* p = skipPlainStringBytes(run, end_);
+    if (p != end_ && *p == '"') {  // the common case: nothing to decode or check
+      p_ = p + 1;
+      return {run, p};
+    }
+    std::string text(run, p);
+    if (!decodeRestOfString(p, text)) return {};
+    return text;
+  }
+
+  // Continues a string at the first byte that needs a closer look.
+  bool decodeRestOfString(const char* p, std::string& out) {
+    const char* run = p;
     for (;;) {
-      if (p == end_) return fail(Code::unexpectedEnd, p);
+      if (p == end_) return stop(Code::unexpectedEnd, p);
       const auto byte = static_cast<unsigned char>(*p);
       if (byte == '"') break;
       if (byte == '\\') {
@@ -358,10 +442,10 @@ class Parser {
         if (!parseEscape(out)) return false;
         p = run = p_;
       } else if (byte < 0x20) {
-        return fail(Code::controlCharacter, p);
+        return stop(Code::controlCharacter, p);
       } else {
         const std::size_t length = utf8SequenceLength(p, end_);
-        if (length == 0) return fail(Code::invalidUTF8, p);
+        if (length == 0) return stop(Code::invalidUTF8, p);
         p += length;
       }
       p = skipPlainStringBytes(p, end_);
@@ -371,48 +455,74 @@ class Parser {
     return true;
   }
 
-  static const char* skipDigits(const char* p, const char* end) {
-    while (p != end && isDigit(*p)) ++p;
-    return p;
-  }
-
-  bool parseNumber(JSONValue& out) {
+  // Reads a number, checking the grammar and gathering its digits in one pass. In most numbers
+  // the digits, read as an integer, stay within 2^53 and the power of ten within 22: then both are
+  // exact doubles and one multiplication or division rounds correctly (Clinger's fast path).
+  // from_chars reads the rest.
+  bool parseNumber(double& value) {
+    static constexpr std::array<double, 23> powersOfTen = {
+        1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,  1e8,  1e9,  1e10, 1e11,
+        1e12, 1e13, 1e14, 1e15, 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+    constexpr int maxGatheredDigits = 19;  // what a 64-bit integer holds without wrapping
+    constexpr std::uint64_t maxExactDigits = std::uint64_t{1} << 53;
+    constexpr int maxExactPower = 22;
     const char* start = p_;
     const char* p = p_;
-    if (*p == '-') ++p;
-    if (p == end_ || !isDigit(*p)) return fail(Code::invalidNumber, p);
+    const bool negative = *p == '-';
+    if (negative) ++p;
+    if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
     const char* integerStart = p;
+    std::uint64_t digits = 0;  // wraps harmlessly when there are too many to use
+    std::int64_t digitCount = 0;
+    std::int64_t power = 0;
     if (*p == '0') {
       ++p;
-      if (p != end_ && isDigit(*p)) return fail(Code::invalidNumber, p);
+      if (p != end_ && isDigit(*p)) return stop(Code::invalidNumber, p);
     } else {
-      p = skipDigits(p, end_);
+      for (; p != end_ && isDigit(*p); ++p, ++digitCount) digits = (digits * 10) + digitValue(*p);
     }
     const char* integerEnd = p;
     if (p != end_ && *p == '.') {
       ++p;
-      if (p == end_ || !isDigit(*p)) return fail(Code::invalidNumber, p);
-      p = skipDigits(p, end_);
+      if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
+      for (; p != end_ && isDigit(*p); ++p, ++digitCount, --power) {
+        digits = (digits * 10) + digitValue(*p);
+      }
     }
-    const char* exponentStart = nullptr;
+    // As written, held below a bound that no count of digits in a text in memory comes near.
+    std::int64_t exponent = 0;
+    constexpr std::int64_t exponentBound = 1'000'000'000'000'000;
     if (p != end_ && (*p == 'e' || *p == 'E')) {
       ++p;
+      const bool negativeExponent = p != end_ && *p == '-';
       if (p != end_ && (*p == '+' || *p == '-')) ++p;
-      if (p == end_ || !isDigit(*p)) return fail(Code::invalidNumber, p);
-      exponentStart = p;
-      p = skipDigits(p, end_);
+      if (p == end_ || !isDigit(*p)) return stop(Code::invalidNumber, p);
+      for (; p != end_ && isDigit(*p); ++p) {
+        exponent =
+            std::min((exponent * 10) + static_cast<std::int64_t>(digitValue(*p)), exponentBound);
+      }
+      if (negativeExponent) exponent = -exponent;
+      power += exponent;
     }
-    double value = 0;
+    if (digitCount <= maxGatheredDigits && digits <= maxExactDigits && power >= -maxExactPower &&
+        power <= maxExactPower) {
+      const auto exact = static_cast<double>(digits);
+      const auto index = static_cast<std::size_t>(power < 0 ? -power : power);
+      const double scale = powersOfTen[index];  // NOLINT(*-constant-array-index): 22 at most
+      value = power < 0 ? exact / scale : exact * scale;
+      if (negative) value = -value;
+      p_ = p;
+      return true;
+    }
     const auto result = std::from_chars(start, p, value);
     if (result.ec == std::errc::result_out_of_range) {
-      if (isOverflow(integerStart, integerEnd, exponentStart, p)) {
-        return fail(Code::numberOutOfRange, start);
+      if (isOverflow(integerStart, integerEnd, p, exponent)) {
+        return stop(Code::numberOutOfRange, start);
       }
-      value = *start == '-' ? -0.0 : 0.0;  // too small for a double: the nearest is zero
+      value = negative ? -0.0 : 0.0;  // too small for a double: the nearest is zero
     } else if (result.ec != std::errc() || result.ptr != p) {
-      return fail(Code::invalidNumber, start);
+      return stop(Code::invalidNumber, start);
     }
-    out = JSONValue(value);
     p_ = p;
     return true;
   }
@@ -420,26 +530,16 @@ class Parser {
   // from_chars reports both overflow and underflow as out of range. The decimal exponent of the
   // first significant digit tells them apart: a number that does not fit and is at least 1 is too
   // large.
-  static bool isOverflow(const char* integerStart, const char* integerEnd,
-                         const char* exponentStart, const char* numberEnd) {
-    long long magnitude;
-    if (*integerStart != '0') {
-      magnitude = integerEnd - integerStart - 1;
-    } else {
+  static bool isOverflow(const char* integerStart, const char* integerEnd, const char* numberEnd,
+                         std::int64_t exponent) {
+    std::ptrdiff_t magnitude = integerEnd - integerStart - 1;
+    if (*integerStart == '0') {
       const char* fraction = integerEnd + 1;  // a number that does not fit is not plain zero
       const char* firstSignificant = fraction;
       while (firstSignificant != numberEnd && *firstSignificant == '0') ++firstSignificant;
       magnitude = -(firstSignificant - fraction + 1);
     }
-    if (exponentStart != nullptr) {
-      const bool negative = exponentStart[-1] == '-';
-      long long exponent = 0;
-      for (const char* d = exponentStart; d != numberEnd; ++d) {
-        exponent = std::min(exponent * 10 + (*d - '0'), 1'000'000'000LL);
-      }
-      magnitude += negative ? -exponent : exponent;
-    }
-    return magnitude >= 0;
+    return magnitude + exponent >= 0;
   }
 };
 

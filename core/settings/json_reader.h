@@ -1,8 +1,10 @@
-// JSONReader: a strict RFC 8259 reader. Rejects trailing commas, comments, leading zeros,
-// invalid UTF-8, lone surrogates and nesting deeper than `maxDepth`; reports where it stopped.
+// JSONReader: a strict RFC 8259 reader. Rejects trailing commas, comments, leading zeros, a byte
+// order mark, invalid UTF-8, lone surrogates and nesting deeper than `maxDepth`; reports the byte
+// where it stopped. A name repeated within an object keeps the value it was given last.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <expected>
 #include <string>
 #include <string_view>
@@ -12,7 +14,7 @@
 namespace tindra {
 
 struct JSONParseError {
-  enum class Code {
+  enum class Code : std::uint8_t {
     unexpectedEnd,        // the text stops inside a value
     unexpectedCharacter,  // a character that cannot start or continue the value here
     invalidNumber,        // a number that breaks the grammar (leading zero, lone minus, "1.", "1e")
@@ -35,6 +37,9 @@ class JSONReader {
  public:
   static constexpr std::size_t defaultMaxDepth = 512;
 
+  // The value `text` holds. `maxDepth` bounds how many arrays and objects may enclose one another
+  // (0 allows only a scalar); each level costs a few hundred bytes of stack. Numbers too small for
+  // a double read as zero.
   static std::expected<JSONValue, JSONParseError> parse(std::string_view text,
                                                         std::size_t maxDepth = defaultMaxDepth);
 };

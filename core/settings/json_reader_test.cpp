@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <charconv>
 #include <cmath>
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,8 +44,17 @@ TEST(JSONReaderTest, ReadsEveryKindOfValue) {
 }
 
 TEST(JSONReaderTest, LastOfRepeatedNamesWins) {
-  const JSONValue value = parsed(R"({"a":1,"b":2,"a":3})");
-  EXPECT_EQ(value, JSONValue(JSONValue::Object{{"a", 3}, {"b", 2}}));
+  EXPECT_EQ(parsed(R"({"a":1,"b":2,"a":3})"), JSONValue(JSONValue::Object{{"a", 3}, {"b", 2}}));
+  EXPECT_EQ(parsed(R"({"b":{"x":1},"a":0,"b":[]})"),
+            JSONValue(JSONValue::Object{{"a", 0}, {"b", JSONValue::Array{}}}));
+  EXPECT_EQ(parsed(R"({"\u0061":1,"a":2})"), JSONValue(JSONValue::Object{{"a", 2}}));
+}
+
+TEST(JSONReaderTest, EscapedNamesSurviveTheNamesInsideTheirValue) {
+  EXPECT_EQ(
+      parsed(R"({"z\u0061":{"\u0063d":{"\u0065":1}},"b\n":[{"\u0066":2}]})"),
+      JSONValue(JSONValue::Object{{"za", JSONValue::Object{{"cd", JSONValue::Object{{"e", 1}}}}},
+                                  {"b\n", JSONValue::Array{JSONValue::Object{{"f", 2}}}}}));
 }
 
 TEST(JSONReaderTest, NumbersFollowTheGrammar) {
@@ -65,6 +76,42 @@ TEST(JSONReaderTest, NumbersFollowTheGrammar) {
   EXPECT_EQ(failure("+1"), (JSONParseError{Code::unexpectedCharacter, 0}));
   EXPECT_EQ(failure("Infinity"), (JSONParseError{Code::unexpectedCharacter, 0}));
   EXPECT_EQ(failure("0x10"), (JSONParseError{Code::trailingContent, 1}));
+}
+
+// Short numbers take a quicker road than from_chars; both must round to the same double.
+TEST(JSONReaderTest, NumbersReadAsTheNearestDouble) {
+  std::vector<std::string> texts = {"0.1",
+                                    "0.3",
+                                    "4.35",
+                                    "123456789012345",
+                                    "1234567890123456",
+                                    "9007199254740993",
+                                    "1e22",
+                                    "1e23",
+                                    "1.5e-22",
+                                    "1e-23",
+                                    "-0.0e1",
+                                    "123.456e-5",
+                                    "2.2250738585072014e-308",
+                                    "7e+2",
+                                    "0.000000000000000000001",
+                                    "999999999999999e22",
+                                    "1e-0"};
+  std::uint64_t state = 12345;
+  for (int i = 0; i < 20000; ++i) {
+    state = state * 6364136223846793005ULL + 1442695040888963407ULL;
+    const unsigned digits = 1 + (state >> 60);  // 1 to 16
+    const unsigned point = (state >> 40) % (digits + 1);
+    const int exponent = static_cast<int>((state >> 20) % 61) - 30;
+    std::string text = std::to_string((state >> 1) % 10000000000000000ULL + 1).substr(0, digits);
+    if (point > 0 && point < text.size()) text.insert(point, ".");
+    texts.push_back(text + "e" + std::to_string(exponent));
+  }
+  for (const std::string& text : texts) {
+    double expected = 0;
+    std::from_chars(text.data(), text.data() + text.size(), expected);
+    EXPECT_EQ(parsed(text), JSONValue(expected)) << text;
+  }
 }
 
 TEST(JSONReaderTest, TooLargeNumbersFailAndTooSmallOnesBecomeZero) {

@@ -3,6 +3,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <initializer_list>
 #include <map>
 #include <string>
@@ -13,11 +14,25 @@
 
 namespace tindra {
 
+// Byte-wise order of member names (the order of std::string's own comparison), done inline:
+// names are short and mostly differ early, where memcmp's call costs more than the comparing.
+// Transparent, so members can be found by string_view or C string.
+struct JSONNameOrder {
+  using is_transparent = void;
+  bool operator()(std::string_view a, std::string_view b) const noexcept {
+    const std::size_t common = a.size() < b.size() ? a.size() : b.size();
+    for (std::size_t i = 0; i < common; ++i) {
+      if (a[i] != b[i]) return static_cast<unsigned char>(a[i]) < static_cast<unsigned char>(b[i]);
+    }
+    return a.size() < b.size();
+  }
+};
+
 class JSONValue {
  public:
   using Array = std::vector<JSONValue>;
-  using Object = std::map<std::string, JSONValue, std::less<>>;
-  enum class Type { boolean, number, string, array, object, null };
+  using Object = std::map<std::string, JSONValue, JSONNameOrder>;
+  enum class Type : std::uint8_t { boolean, number, string, array, object, null };
 
   JSONValue() = default;  // null
   JSONValue(std::nullptr_t) {}

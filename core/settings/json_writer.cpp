@@ -1,8 +1,10 @@
 #include "settings/json_writer.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
+#include <string_view>
 
 #include "settings/utf8.h"
 
@@ -19,18 +21,20 @@ void appendNumber(std::string& out, double number) {
     out += "null";
     return;
   }
-  char buffer[32];
-  std::to_chars_result result;
+  std::array<char, 32> buffer{};
+  char* const first = buffer.data();
+  char* const last = first + buffer.size();
+  std::to_chars_result result{};
   if (number == std::trunc(number) && std::fabs(number) <= largestExactInteger) {
     if (number == 0 && std::signbit(number)) {
       out += "-0";
       return;
     }
-    result = std::to_chars(buffer, buffer + sizeof buffer, static_cast<std::int64_t>(number));
+    result = std::to_chars(first, last, static_cast<std::int64_t>(number));
   } else {
-    result = std::to_chars(buffer, buffer + sizeof buffer, number);
+    result = std::to_chars(first, last, number);
   }
-  out.append(buffer, result.ptr);
+  out.append(first, result.ptr);
 }
 
 void appendEscapedControl(std::string& out, unsigned char byte) {
@@ -53,9 +57,10 @@ void appendEscapedControl(std::string& out, unsigned char byte) {
     default:
       break;
   }
-  static constexpr char hex[] = "0123456789abcdef";
-  const char escape[] = {'\\', 'u', '0', '0', hex[byte >> 4], hex[byte & 0xF]};
-  out.append(escape, sizeof escape);
+  constexpr std::string_view hex = "0123456789abcdef";
+  out += "\\u00";
+  out.push_back(hex[byte >> 4]);
+  out.push_back(hex[byte & 0xF]);
 }
 
 // Quotes `text`. Bytes that are not well-formed UTF-8 (only possible in values built in code)

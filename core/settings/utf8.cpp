@@ -16,7 +16,8 @@ std::size_t utf8SequenceLength(const char* p, const char* end) {
   const std::ptrdiff_t available = end - p;
   // The second byte's range depends on the lead: it is what excludes overlongs (E0, F0),
   // encoded surrogates (ED) and values past U+10FFFF (F4).
-  unsigned char secondLow = 0x80, secondHigh = 0xBF;
+  unsigned char secondLow = 0x80;
+  unsigned char secondHigh = 0xBF;
   std::size_t length = 0;
   if (lead >= 0xC2 && lead <= 0xDF) {
     length = 2;
@@ -40,23 +41,22 @@ std::size_t utf8SequenceLength(const char* p, const char* end) {
 }
 
 void appendUTF8(std::string& out, std::uint32_t codePoint) {
+  auto append = [&out](std::uint32_t byte) { out.push_back(static_cast<char>(byte)); };
+  auto continuation = [](std::uint32_t bits) { return 0x80 | (bits & 0x3F); };
   if (codePoint < 0x80) {
-    out.push_back(static_cast<char>(codePoint));
+    append(codePoint);
   } else if (codePoint < 0x800) {
-    const char bytes[] = {static_cast<char>(0xC0 | (codePoint >> 6)),
-                          static_cast<char>(0x80 | (codePoint & 0x3F))};
-    out.append(bytes, 2);
+    append(0xC0 | (codePoint >> 6));
+    append(continuation(codePoint));
   } else if (codePoint < 0x10000) {
-    const char bytes[] = {static_cast<char>(0xE0 | (codePoint >> 12)),
-                          static_cast<char>(0x80 | ((codePoint >> 6) & 0x3F)),
-                          static_cast<char>(0x80 | (codePoint & 0x3F))};
-    out.append(bytes, 3);
+    append(0xE0 | (codePoint >> 12));
+    append(continuation(codePoint >> 6));
+    append(continuation(codePoint));
   } else {
-    const char bytes[] = {static_cast<char>(0xF0 | (codePoint >> 18)),
-                          static_cast<char>(0x80 | ((codePoint >> 12) & 0x3F)),
-                          static_cast<char>(0x80 | ((codePoint >> 6) & 0x3F)),
-                          static_cast<char>(0x80 | (codePoint & 0x3F))};
-    out.append(bytes, 4);
+    append(0xF0 | (codePoint >> 18));
+    append(continuation(codePoint >> 12));
+    append(continuation(codePoint >> 6));
+    append(continuation(codePoint));
   }
 }
 
