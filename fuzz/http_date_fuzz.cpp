@@ -8,8 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "settings/internet_date_time.h"
 #include "weather/http_date.h"
-#include "weather/rfc3339_date_time.h"
 
 namespace {
 
@@ -29,12 +29,13 @@ std::string asRFC3339(std::string_view http) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text(reinterpret_cast<const char*>(data), size);
-  if (const auto rfc = tindra::parseRFC3339DateTime(text); rfc && !std::isfinite(*rfc)) {
+  if (const auto rfc = tindra::parseInternetDateTime(text); rfc && !std::isfinite(*rfc)) {
     std::abort();
   }
   const auto http = tindra::parseHTTPDate(text);
   if (!http) return 0;
-  if (tindra::parseRFC3339DateTime(asRFC3339(text)) != http) {
+  const auto rfc = tindra::parseInternetDateTime(asRFC3339(text));
+  if (!rfc || *rfc != *http) {
     std::fprintf(stderr, "HTTP date and RFC 3339 disagree\n");
     std::abort();
   }

@@ -7,7 +7,7 @@
 #include "nowplaying/adapter_state_fields.h"
 #include "nowplaying/artwork_data_locator.h"
 #include "nowplaying/base64.h"
-#include "nowplaying/internet_date_time.h"
+#include "settings/internet_date_time.h"
 #include "settings/json_reader.h"
 
 namespace tindra {

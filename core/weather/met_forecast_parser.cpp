@@ -5,7 +5,7 @@
 #include <ranges>
 
 #include "settings/json_reader.h"
-#include "weather/rfc3339_date_time.h"
+#include "settings/internet_date_time.h"
 
 namespace tindra {
 namespace {
@@ -191,7 +191,7 @@ std::expected<WeatherSnapshot, METForecastParser::ParseError> METForecastParser:
 
   std::vector<TimedStep> steps;
   for (const Step& step : document->properties.timeseries) {
-    if (const auto time = parseRFC3339DateTime(step.time)) {
+    if (const auto time = parseInternetDateTime(step.time)) {
       steps.push_back({*time, steps.size(), &step});
     }
   }

@@ -6,7 +6,7 @@
 #include <sstream>
 #include <string>
 
-#include "weather/rfc3339_date_time.h"
+#include "settings/internet_date_time.h"
 
 namespace tindra {
 namespace {
@@ -23,7 +23,7 @@ std::string testFile(const std::string& name) {
 }
 
 double at(const char* text) {
-  return *parseRFC3339DateTime(text);
+  return *parseInternetDateTime(text);
 }
 
 // A document whose steps are the given JSON objects.

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "weather/rfc3339_date_time.h"
+#include "settings/internet_date_time.h"
 
 namespace tindra {
 namespace {
@@ -21,7 +21,7 @@ std::unique_ptr<icu::TimeZone> zone(const char* id) {
 }
 
 std::optional<SolarCalculator::Day> dayAt(const char* date, GeoCoordinate where, const char* id) {
-  return SolarCalculator::day(*parseRFC3339DateTime(date), where, *zone(id));
+  return SolarCalculator::day(*parseInternetDateTime(date), where, *zone(id));
 }
 
 // Reference times from suncalc 2.0.2 (npm), printed by scripts/solar-reference.mjs: it was run
@@ -121,13 +121,13 @@ TEST(SolarCalculator, InvalidCoordinatesGiveNothing) {
 
 TEST(SolarCalculator, DayIsTheCalendarDayInTheGivenZone) {
   // 20:00 UTC on 9 March is already 10 March in Tokyo: the same moment gives Tokyo's 10 March.
-  const double moment = *parseRFC3339DateTime("2024-03-09T20:00:00Z");
+  const double moment = *parseInternetDateTime("2024-03-09T20:00:00Z");
   const GeoCoordinate tokyo{35.68, 139.69};
   const auto inTokyo = std::get<Normal>(*SolarCalculator::day(moment, tokyo, *zone("Asia/Tokyo")));
   const auto inUTC = std::get<Normal>(*SolarCalculator::day(moment, tokyo, *zone("UTC")));
   EXPECT_NEAR(inTokyo.sunrise - inUTC.sunrise, 86400, 180);
-  EXPECT_LT(inTokyo.sunrise, *parseRFC3339DateTime("2024-03-10T06:00:00+09:00"));
-  EXPECT_GT(inTokyo.sunrise, *parseRFC3339DateTime("2024-03-10T05:30:00+09:00"));
+  EXPECT_LT(inTokyo.sunrise, *parseInternetDateTime("2024-03-10T06:00:00+09:00"));
+  EXPECT_GT(inTokyo.sunrise, *parseInternetDateTime("2024-03-10T05:30:00+09:00"));
 }
 
 TEST(SolarCalculator, LongitudeOneEightyEitherWayGivesTheSameClockTimes) {

@@ -1,4 +1,4 @@
-#include "nowplaying/internet_date_time.h"
+#include "settings/internet_date_time.h"
 
 #include <gtest/gtest.h>
 
