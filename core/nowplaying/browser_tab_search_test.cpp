@@ -48,7 +48,7 @@ TEST(BrowserTabTitleTest, DecorationIsStrippedAndSiteNamesAreNoTitle) {
   EXPECT_EQ(BrowserTabTitle::trackTitle("(live) Song"), "(live) Song");
   EXPECT_EQ(BrowserTabTitle::trackTitle("YouTube Music"), std::nullopt);
   EXPECT_EQ(BrowserTabTitle::trackTitle("(3) YouTube"), std::nullopt);
-  EXPECT_EQ(BrowserTabTitle::trackTitle(" - YouTube"), std::nullopt);
+  EXPECT_EQ(BrowserTabTitle::trackTitle(" \t"), std::nullopt);
 }
 
 }  // namespace

@@ -47,11 +47,12 @@ TEST(ITunesArtworkSearchTest, MatchesFoldCaseDiacriticsAndReleaseSuffixes) {
                 response({result("A", "trackName", "Song - Single", "https://c/100x100bb.png")}),
                 {Kind::song, "a", "SONG"}),
             "https://c/600x600bb.png");
-  EXPECT_EQ(ITunesArtworkSearch::artworkURL(
-                response({result("A", "collectionName", "B - EP - Single", "https://c/1.jpg")}),
-                {Kind::album, "A", "B - EP"}),
-            "https://c/1.jpg")
-      << "one suffix is dropped, and a cover without the size keeps its address";
+  const std::string twoSuffixes =
+      response({result("A", "collectionName", "B - EP - Single", "https://c/1.jpg"),
+                result("A", "collectionName", "B", "https://c/2.jpg")});
+  EXPECT_EQ(ITunesArtworkSearch::artworkURL(twoSuffixes, {Kind::album, "A", "B - EP"}),
+            "https://c/2.jpg")
+      << "only one suffix is dropped; a cover without the size keeps its address";
   EXPECT_EQ(ITunesArtworkSearch::normalizedForMatching("Ça - Single"), "ca");
   EXPECT_EQ(ITunesArtworkSearch::normalizedForMatching("Straße"), "strasse");
 }

@@ -57,9 +57,11 @@ TEST(SpectrumAnalyzerTest, SixtyFourBandsAtTheSessionSettings) {
   for (std::size_t band = 0; band < bins.size(); ++band) {
     EXPECT_GE(bins[band].hi - bins[band].lo, 1) << band;
     EXPECT_LE(bins[band].hi, 513) << band;
-    if (band > 0) EXPECT_EQ(bins[band].lo, bins[band - 1].hi) << "contiguous at " << band;
+    if (band > 0) {
+      EXPECT_EQ(bins[band].lo, bins[band - 1].hi) << "contiguous at " << band;
+    }
   }
-  EXPECT_EQ(bins.back().hi, 257) << "12 kHz ends at bin 256";
+  EXPECT_EQ(bins.back().hi, 256) << "12 kHz is exactly bin 256, where the last band ends";
   EXPECT_EQ(bins[1], (SpectrumAnalyzer::BinRange{2, 3})) << "narrow low bands still hold a bin";
   EXPECT_TRUE(SpectrumAnalyzer::bandBins({.bandCount = 0}).empty());
 }
@@ -80,7 +82,9 @@ TEST(SpectrumAnalyzerTest, ASineLightsItsBandAndNotDistantOnes) {
   analyzer.append(sine(centre, 1024));
   const auto levels = analyzer.analyze();
   EXPECT_GT(levels[40], 0.95f);
-  for (std::size_t far : {0u, 10u, 20u, 60u, 63u}) EXPECT_EQ(levels[far], 0.0f) << far;
+  for (std::size_t far : {0u, 10u, 20u, 60u, 63u}) {
+    EXPECT_EQ(levels[far], 0.0f) << far;
+  }
 
   // A sine at a quarter of full scale sits 12 dB lower: level 0.8 on a 60 dB scale.
   SpectrumAnalyzer quieter(Configuration{});
