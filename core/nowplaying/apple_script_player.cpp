@@ -70,71 +70,72 @@ bool isSeekable(double seconds) {
 
 // --- read scripts ---
 
+// The words of a track read script that differ between Music and Spotify.
+struct TrackWords {
+  std::string_view durationMs;  // Music reports seconds, Spotify milliseconds
+  std::string_view inTrack;     // more statements about `current track` t
+  std::string_view afterTrack;  // statements after the track block
+  std::string_view shuffle;     // the shuffle property
+  std::string_view repeat;      // statements that set repeatText
+};
+
+std::string trackReadScript(AppleScriptPlayer player, const TrackWords& words) {
+  const std::string app = applicationReference(player);
+  return std::string(handlers) + "set sep to character id 31\nif " + app +
+         " is not running then return \"notrunning\"\n"
+         "with timeout of 3 seconds\n"
+         "\ttell " +
+         app +
+         "\n"
+         "\t\tif player state is stopped then return \"idle\"\n"
+         "\t\tset playerState to \"playing\"\n"
+         "\t\tif player state is paused then set playerState to \"paused\"\n"
+         "\t\tset trackName to \"\"\n"
+         "\t\tset trackArtist to \"\"\n"
+         "\t\tset trackAlbum to \"\"\n"
+         "\t\tset durationMs to \"\"\n"
+         "\t\tset artworkLink to \"\"\n"
+         "\t\ttry\n"
+         "\t\t\tset t to current track\n"
+         "\t\t\tset trackName to my textOf(name of t)\n"
+         "\t\t\tset trackArtist to my textOf(artist of t)\n"
+         "\t\t\tset trackAlbum to my textOf(album of t)\n"
+         "\t\t\tset durationMs to " +
+         std::string(words.durationMs) + "\n" + std::string(words.inTrack) + "\t\tend try\n" +
+         std::string(words.afterTrack) +
+         "\t\tset positionMs to my msOf(player position)\n"
+         "\t\tset shuffleText to my flag(" +
+         std::string(words.shuffle) + ")\n\t\tset repeatText to \"off\"\n" +
+         std::string(words.repeat) +
+         "\tend tell\n"
+         "end timeout\n"
+         "return \"track\" & sep & playerState & sep & trackName & sep & trackArtist & sep & "
+         "trackAlbum & sep & durationMs & sep & positionMs & sep & shuffleText & sep & "
+         "repeatText & sep & artworkLink\n";
+}
+
 std::string musicReadScript() {
-  return std::string(handlers) + R"(set sep to character id 31
-if application id "com.apple.Music" is not running then return "notrunning"
-with timeout of 3 seconds
-	tell application id "com.apple.Music"
-		if player state is stopped then return "idle"
-		set playerState to "playing"
-		if player state is paused then set playerState to "paused"
-		set trackName to ""
-		set trackArtist to ""
-		set trackAlbum to ""
-		set durationMs to ""
-		try
-			set t to current track
-			set trackName to my textOf(name of t)
-			set trackArtist to my textOf(artist of t)
-			set trackAlbum to my textOf(album of t)
-			set durationMs to my msOf(duration of t)
-		end try
-		if trackName is "" then
-			try
-				set trackName to my textOf(current stream title)
-			end try
-		end if
-		set positionMs to my msOf(player position)
-		set shuffleText to my flag(shuffle enabled)
-		set repeatText to "off"
-		if song repeat is one then set repeatText to "one"
-		if song repeat is all then set repeatText to "all"
-		set artworkLink to ""
-	end tell
-end timeout
-return "track" & sep & playerState & sep & trackName & sep & trackArtist & sep & trackAlbum & sep & durationMs & sep & positionMs & sep & shuffleText & sep & repeatText & sep & artworkLink
-)";
+  return trackReadScript(AppleScriptPlayer::music,
+                         {.durationMs = "my msOf(duration of t)",
+                          .inTrack = "",
+                          // Radio streams have no track name, only a stream title.
+                          .afterTrack = "\t\tif trackName is \"\" then\n"
+                                        "\t\t\ttry\n"
+                                        "\t\t\t\tset trackName to my textOf(current stream title)\n"
+                                        "\t\t\tend try\n"
+                                        "\t\tend if\n",
+                          .shuffle = "shuffle enabled",
+                          .repeat = "\t\tif song repeat is one then set repeatText to \"one\"\n"
+                                    "\t\tif song repeat is all then set repeatText to \"all\"\n"});
 }
 
 std::string spotifyReadScript() {
-  return std::string(handlers) + R"(set sep to character id 31
-if application id "com.spotify.client" is not running then return "notrunning"
-with timeout of 3 seconds
-	tell application id "com.spotify.client"
-		if player state is stopped then return "idle"
-		set playerState to "playing"
-		if player state is paused then set playerState to "paused"
-		set trackName to ""
-		set trackArtist to ""
-		set trackAlbum to ""
-		set durationMs to ""
-		set artworkLink to ""
-		try
-			set t to current track
-			set trackName to my textOf(name of t)
-			set trackArtist to my textOf(artist of t)
-			set trackAlbum to my textOf(album of t)
-			set durationMs to my textOf(duration of t)
-			set artworkLink to my textOf(artwork url of t)
-		end try
-		set positionMs to my msOf(player position)
-		set shuffleText to my flag(shuffling)
-		set repeatText to "off"
-		if repeating then set repeatText to "all"
-	end tell
-end timeout
-return "track" & sep & playerState & sep & trackName & sep & trackArtist & sep & trackAlbum & sep & durationMs & sep & positionMs & sep & shuffleText & sep & repeatText & sep & artworkLink
-)";
+  return trackReadScript(AppleScriptPlayer::spotify,
+                         {.durationMs = "my textOf(duration of t)",
+                          .inTrack = "\t\t\tset artworkLink to my textOf(artwork url of t)\n",
+                          .afterTrack = "",
+                          .shuffle = "shuffling",
+                          .repeat = "\t\tif repeating then set repeatText to \"all\"\n"});
 }
 
 std::string isMediaURLHandler() {
