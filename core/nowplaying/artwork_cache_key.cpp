@@ -1,0 +1,26 @@
+#include "nowplaying/artwork_cache_key.h"
+
+#include <string_view>
+
+namespace tindra {
+
+std::optional<ArtworkCacheKey> ArtworkCacheKey::forSnapshot(const NowPlayingSnapshot& snapshot) {
+  if (!snapshot.artist || snapshot.artist->empty()) return std::nullopt;
+  if (snapshot.album && !snapshot.album->empty()) {
+    return ArtworkCacheKey{Kind::album, *snapshot.artist, *snapshot.album};
+  }
+  if (snapshot.title.empty()) return std::nullopt;
+  return ArtworkCacheKey{Kind::song, *snapshot.artist, snapshot.title};
+}
+
+std::size_t hashValue(const ArtworkCacheKey& key) {
+  const std::hash<std::string_view> hash;
+  std::size_t seed = static_cast<std::size_t>(key.kind);
+  // Boost's mixing step keeps ("ab", "c") and ("a", "bc") apart.
+  for (std::string_view text : {std::string_view(key.artist), std::string_view(key.name)}) {
+    seed ^= hash(text) + 0x9e3779b97f4a7c15ULL + (seed << 6) + (seed >> 2);
+  }
+  return seed;
+}
+
+}  // namespace tindra

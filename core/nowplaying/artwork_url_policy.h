@@ -1,0 +1,22 @@
+// ArtworkURLPolicy: which remote cover addresses the app may download. Only the two catalogue
+// image hosts qualify (Spotify's i.scdn.co and Apple's *.mzstatic.com), over https; a plain
+// http address on one of them is upgraded, anything else is never fetched, so a player cannot
+// make the app contact an arbitrary server.
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tindra::ArtworkURLPolicy {
+
+enum class ImageHost { spotify, apple };
+
+// The catalogue host of an http or https address; none for any other host or scheme.
+std::optional<ImageHost> imageHost(std::string_view url);
+
+// The address to download: `url` itself with "https", or upgraded from "http"; none when it is
+// not on a catalogue host.
+std::optional<std::string> downloadURL(std::string_view url);
+
+}  // namespace tindra::ArtworkURLPolicy
