@@ -97,8 +97,7 @@ class PlainScanner {
         if (member.first == name) return false;
       }
       if (!colon()) return false;
-      auto& [memberName, value] = members.emplace_back();
-      memberName = name;
+      JSONValue& value = members.emplace_back(name, JSONValue()).second;
       if (p_ != end_ && *p_ == '"') {
         std::string_view text;
         if (!string(text)) return false;
