@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cstdint>
 #include <cstring>
+#include <tuple>
 
 namespace tindra {
 namespace {
@@ -97,7 +98,10 @@ class PlainScanner {
         if (member.first == name) return false;
       }
       if (!colon()) return false;
-      JSONValue& value = members.emplace_back(name, JSONValue()).second;
+      JSONValue& value =
+          members
+              .emplace_back(std::piecewise_construct, std::forward_as_tuple(name), std::tuple<>())
+              .second;
       if (p_ != end_ && *p_ == '"') {
         std::string_view text;
         if (!string(text)) return false;
