@@ -1,6 +1,8 @@
 #include "settings/internet_date_time.h"
 
-#include <cstdint>
+#include <optional>
+
+#include "settings/utc_date_fields.h"
 
 namespace tindra {
 namespace {
@@ -53,25 +55,6 @@ class Cursor {
   std::size_t position_ = 0;
 };
 
-bool isLeapYear(int year) {
-  return (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-}
-
-int daysInMonth(int year, int month) {
-  static constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-  return month == 2 && isLeapYear(year) ? 29 : days[month - 1];
-}
-
-// Days from 1970-01-01 to the given proleptic Gregorian date (Howard Hinnant's algorithm).
-std::int64_t daysFromCivil(int year, int month, int day) {
-  const int y = month <= 2 ? year - 1 : year;
-  const int era = (y >= 0 ? y : y - 399) / 400;
-  const int yearOfEra = y - era * 400;
-  const int dayOfYear = (153 * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
-  const int dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
-  return static_cast<std::int64_t>(era) * 146097 + dayOfEra - 719468;
-}
-
 }  // namespace
 
 std::expected<double, InternetDateTimeError> parseInternetDateTime(std::string_view text) {
@@ -99,14 +82,9 @@ std::expected<double, InternetDateTimeError> parseInternetDateTime(std::string_v
   }
   if (!cursor.atEnd()) return std::unexpected(InternetDateTimeError::malformed);
 
-  const bool dateInRange = month >= 1 && month <= 12 && day >= 1 && day <= daysInMonth(year, month);
-  const bool timeInRange = hour <= 23 && minute <= 59 && second <= 60;
-  if (!dateInRange || !timeInRange || !offsetInRange) {
-    return std::unexpected(InternetDateTimeError::outOfRange);
-  }
-  const std::int64_t seconds = daysFromCivil(year, month, day) * 86400 + hour * 3600 + minute * 60 +
-                               second - offsetMinutes * 60;
-  return static_cast<double>(seconds) + fraction;
+  const std::optional<double> seconds = secondsSince1970({year, month, day, hour, minute, second});
+  if (!seconds || !offsetInRange) return std::unexpected(InternetDateTimeError::outOfRange);
+  return *seconds - offsetMinutes * 60 + fraction;
 }
 
 }  // namespace tindra

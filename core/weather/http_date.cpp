@@ -4,7 +4,7 @@
 #include <cstddef>
 
 #include "settings/ascii_text.h"
-#include "weather/utc_date_fields.h"
+#include "settings/utc_date_fields.h"
 
 namespace tindra {
 namespace {

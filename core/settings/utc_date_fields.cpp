@@ -1,4 +1,4 @@
-#include "weather/utc_date_fields.h"
+#include "settings/utc_date_fields.h"
 
 namespace tindra {
 namespace {
