@@ -7,8 +7,8 @@
 #include <string>
 #include <vector>
 
+#include "base/base64.h"
 #include "nowplaying/adapter_message_parser.h"
-#include "nowplaying/base64.h"
 
 namespace {
 

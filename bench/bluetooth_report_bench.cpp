@@ -6,8 +6,8 @@
 #include <cstdio>
 #include <string>
 
+#include "base/json_reader.h"
 #include "power/system_profiler_bluetooth_parser.h"
-#include "settings/json_reader.h"
 
 namespace {
 

@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "settings/json_reader.h"
-#include "settings/json_writer.h"
+#include "base/json_reader.h"
+#include "base/json_writer.h"
 
 namespace {
 

@@ -12,7 +12,7 @@
 #include <string>
 #include <string_view>
 
-#include "settings/json_reader.h"
+#include "base/json_reader.h"
 #include "weather/met_forecast_parser.h"
 
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "nowplaying/base64.h"
+#include "base/base64.h"
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view text(reinterpret_cast<const char*>(data), size);

@@ -7,9 +7,9 @@
 #include <set>
 #include <string_view>
 
+#include "base/json_reader.h"
 #include "files/file_tray.h"
 #include "files/file_tray_stored_parser.h"
-#include "settings/json_reader.h"
 
 namespace {
 

@@ -6,9 +6,9 @@
 #include <string>
 #include <string_view>
 
+#include "base/line_break.h"
 #include "focus/banner_classifier.h"
 #include "focus/focus_filter_state.h"
-#include "focus/line_break.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "settings/internet_date_time.h"
+#include "base/internet_date_time.h"
 #include "weather/http_date.h"
 
 namespace {

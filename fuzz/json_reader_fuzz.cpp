@@ -7,8 +7,8 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "settings/json_reader.h"
-#include "settings/json_writer.h"
+#include "base/json_reader.h"
+#include "base/json_writer.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "settings/uuid.h"
+#include "base/uuid.h"
 
 namespace {
 

@@ -12,8 +12,8 @@
 #include <QVBoxLayout>
 #include <cmath>
 
-#include "settings/json_reader.h"
-#include "settings/json_writer.h"
+#include "base/json_reader.h"
+#include "base/json_writer.h"
 
 namespace tindra {
 

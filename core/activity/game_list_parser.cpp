@@ -2,7 +2,7 @@
 
 #include <unordered_set>
 
-#include "activity/text_case.h"
+#include "base/text_case.h"
 
 namespace tindra {
 namespace {

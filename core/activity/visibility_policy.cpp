@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string>
 
-#include "activity/text_case.h"
+#include "base/text_case.h"
 
 namespace tindra {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <uriparser/Uri.h>
 
+#include "base/ascii_text.h"
 #include "calendar/meeting_link_parser.h"
-#include "settings/ascii_text.h"
 
 namespace tindra {
 

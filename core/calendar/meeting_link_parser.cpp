@@ -7,9 +7,9 @@
 #include <climits>
 #include <string>
 
+#include "base/ascii_text.h"
 #include "calendar/meeting_link_scan.h"
 #include "calendar/meeting_link_vocabulary.h"
-#include "settings/ascii_text.h"
 
 namespace tindra {
 

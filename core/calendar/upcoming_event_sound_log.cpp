@@ -2,9 +2,9 @@
 
 #include <cmath>
 
+#include "base/json_reader.h"
+#include "base/json_writer.h"
 #include "calendar/upcoming_event_policy.h"
-#include "settings/json_reader.h"
-#include "settings/json_writer.h"
 
 namespace tindra {
 

@@ -9,8 +9,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/json_value.h"
 #include "calendar/calendar_event_info.h"
-#include "settings/json_value.h"
 
 namespace tindra {
 

@@ -4,7 +4,7 @@
 #include <array>
 #include <string_view>
 
-#include "activity/text_case.h"
+#include "base/text_case.h"
 #include "files/quarantine_info.h"
 
 namespace tindra {

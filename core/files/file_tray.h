@@ -9,8 +9,8 @@
 #include <span>
 #include <vector>
 
+#include "base/uuid.h"
 #include "files/file_tray_item.h"
-#include "settings/uuid.h"
 
 namespace tindra {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "settings/uuid.h"
+#include "base/uuid.h"
 
 namespace tindra {
 

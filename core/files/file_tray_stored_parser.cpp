@@ -5,9 +5,9 @@
 #include <set>
 #include <utility>
 
-#include "files/hex_digit.h"
-#include "settings/json_reader.h"
-#include "settings/json_writer.h"
+#include "base/hex_digit.h"
+#include "base/json_reader.h"
+#include "base/json_writer.h"
 
 namespace tindra {
 

@@ -4,7 +4,7 @@
 #include <limits>
 #include <vector>
 
-#include "files/hex_digit.h"
+#include "base/hex_digit.h"
 
 namespace tindra {
 

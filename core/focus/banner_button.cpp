@@ -1,6 +1,6 @@
 #include "focus/banner_button.h"
 
-#include "focus/line_break.h"
+#include "base/line_break.h"
 
 namespace tindra {
 

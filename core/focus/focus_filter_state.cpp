@@ -8,9 +8,9 @@
 #include <memory>
 #include <utility>
 
-#include "focus/line_break.h"
-#include "settings/json_reader.h"
-#include "settings/json_writer.h"
+#include "base/json_reader.h"
+#include "base/json_writer.h"
+#include "base/line_break.h"
 
 namespace tindra {
 

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <string>
 
-#include "settings/json_reader.h"
+#include "base/json_reader.h"
 
 namespace tindra {
 

@@ -6,10 +6,10 @@
 #include <optional>
 #include <string_view>
 
+#include "base/json_value.h"
 #include "hud/key_modifiers.h"
 #include "hud/volume_action.h"
 #include "hud/volume_state.h"
-#include "settings/json_value.h"
 
 namespace tindra {
 

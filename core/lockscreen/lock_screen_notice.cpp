@@ -1,7 +1,7 @@
 #include "lockscreen/lock_screen_notice.h"
 
-#include "settings/json_reader.h"
-#include "settings/json_writer.h"
+#include "base/json_reader.h"
+#include "base/json_writer.h"
 
 namespace tindra {
 

@@ -3,8 +3,8 @@
 #include <cmath>
 #include <limits>
 
-#include "settings/json_reader.h"
-#include "settings/json_writer.h"
+#include "base/json_reader.h"
+#include "base/json_writer.h"
 
 namespace tindra {
 

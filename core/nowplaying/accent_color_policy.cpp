@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <array>
 
-#include "settings/readable_color.h"
+#include "base/readable_color.h"
 
 namespace tindra::AccentColorPolicy {
 namespace {

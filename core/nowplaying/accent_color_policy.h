@@ -8,7 +8,7 @@
 #include <optional>
 #include <span>
 
-#include "settings/srgb_color.h"
+#include "base/srgb_color.h"
 
 namespace tindra::AccentColorPolicy {
 

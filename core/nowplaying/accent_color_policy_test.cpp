@@ -4,9 +4,9 @@
 
 #include <vector>
 
+#include "base/readable_color.h"
 #include "nowplaying/artwork_cache_key.h"
 #include "nowplaying/artwork_url_policy.h"
-#include "settings/readable_color.h"
 
 namespace tindra {
 namespace {

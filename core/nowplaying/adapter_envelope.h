@@ -9,7 +9,7 @@
 #include <utility>
 #include <vector>
 
-#include "settings/json_value.h"
+#include "base/json_value.h"
 
 namespace tindra {
 

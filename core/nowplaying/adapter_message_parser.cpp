@@ -4,11 +4,11 @@
 #include <cmath>
 #include <cstring>
 
+#include "base/base64.h"
+#include "base/internet_date_time.h"
+#include "base/json_reader.h"
 #include "nowplaying/adapter_state_fields.h"
 #include "nowplaying/artwork_data_locator.h"
-#include "nowplaying/base64.h"
-#include "settings/internet_date_time.h"
-#include "settings/json_reader.h"
 
 namespace tindra {
 namespace {

@@ -13,10 +13,10 @@
 #include <string_view>
 #include <vector>
 
+#include "base/json_value.h"
 #include "nowplaying/adapter_envelope.h"
 #include "nowplaying/adapter_state_fields.h"
 #include "nowplaying/now_playing_snapshot.h"
-#include "settings/json_value.h"
 
 namespace tindra {
 

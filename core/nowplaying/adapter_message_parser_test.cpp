@@ -5,7 +5,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "nowplaying/base64.h"
+#include "base/base64.h"
 
 namespace tindra {
 namespace {

@@ -5,9 +5,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/unicode_text.h"
 #include "nowplaying/browser_tab_search.h"
 #include "nowplaying/browser_tab_title.h"
-#include "nowplaying/unicode_text.h"
 
 namespace tindra {
 namespace {

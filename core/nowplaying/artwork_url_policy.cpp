@@ -2,7 +2,7 @@
 
 #include <uriparser/Uri.h>
 
-#include "activity/text_case.h"
+#include "base/text_case.h"
 
 namespace tindra::ArtworkURLPolicy {
 namespace {

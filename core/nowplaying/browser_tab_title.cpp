@@ -2,7 +2,7 @@
 
 #include <array>
 
-#include "nowplaying/unicode_text.h"
+#include "base/unicode_text.h"
 
 namespace tindra::BrowserTabTitle {
 namespace {

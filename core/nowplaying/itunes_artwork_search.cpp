@@ -4,8 +4,8 @@
 #include <charconv>
 #include <utility>
 
-#include "nowplaying/unicode_text.h"
-#include "settings/json_reader.h"
+#include "base/json_reader.h"
+#include "base/unicode_text.h"
 
 namespace tindra::ITunesArtworkSearch {
 namespace {

@@ -4,7 +4,7 @@
 #include <string>
 #include <utility>
 
-#include "settings/ascii_text.h"
+#include "base/ascii_text.h"
 
 namespace tindra {
 namespace {

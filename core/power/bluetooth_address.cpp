@@ -1,6 +1,6 @@
 #include "power/bluetooth_address.h"
 
-#include "settings/ascii_text.h"
+#include "base/ascii_text.h"
 
 namespace tindra {
 namespace {

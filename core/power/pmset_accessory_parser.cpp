@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <optional>
 
-#include "settings/ascii_text.h"
+#include "base/ascii_text.h"
 
 namespace tindra {
 namespace {

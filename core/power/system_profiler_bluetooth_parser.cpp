@@ -4,8 +4,8 @@
 #include <optional>
 #include <set>
 
+#include "base/ascii_text.h"
 #include "power/bluetooth_address.h"
-#include "settings/ascii_text.h"
 
 namespace tindra {
 namespace {

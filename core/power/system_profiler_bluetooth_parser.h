@@ -11,9 +11,9 @@
 #include <string_view>
 #include <vector>
 
+#include "base/json_reader.h"
+#include "base/json_value.h"
 #include "power/bluetooth_accessory.h"
-#include "settings/json_reader.h"
-#include "settings/json_value.h"
 
 namespace tindra {
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <system_error>
 
-#include "settings/uuid.h"
+#include "base/uuid.h"
 
 namespace tindra {
 namespace {

@@ -15,7 +15,7 @@
 #include <set>
 #include <thread>
 
-#include "settings/uuid.h"
+#include "base/uuid.h"
 
 namespace tindra {
 namespace {

@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-#include "settings/json_value.h"
+#include "base/json_value.h"
 
 namespace tindra {
 

@@ -10,7 +10,7 @@
 #include <string_view>
 #include <vector>
 
-#include "settings/json_value.h"
+#include "base/json_value.h"
 #include "settings/settings_key.h"
 
 namespace tindra::settings {

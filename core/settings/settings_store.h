@@ -18,8 +18,8 @@
 #include <type_traits>
 #include <vector>
 
+#include "base/json_value.h"
 #include "settings/durable_file.h"
-#include "settings/json_value.h"
 #include "settings/settings_key.h"
 
 namespace tindra {

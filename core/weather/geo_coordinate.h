@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "settings/json_value.h"
+#include "base/json_value.h"
 
 namespace tindra {
 

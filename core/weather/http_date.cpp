@@ -3,8 +3,8 @@
 #include <array>
 #include <cstddef>
 
-#include "settings/ascii_text.h"
-#include "settings/utc_date_fields.h"
+#include "base/ascii_text.h"
+#include "base/utc_date_fields.h"
 
 namespace tindra {
 namespace {

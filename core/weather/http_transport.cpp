@@ -1,6 +1,6 @@
 #include "weather/http_transport.h"
 
-#include "settings/ascii_text.h"
+#include "base/ascii_text.h"
 
 namespace tindra {
 

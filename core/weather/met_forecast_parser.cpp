@@ -4,8 +4,8 @@
 #include <cmath>
 #include <ranges>
 
-#include "settings/internet_date_time.h"
-#include "settings/json_reader.h"
+#include "base/internet_date_time.h"
+#include "base/json_reader.h"
 
 namespace tindra {
 namespace {

@@ -6,7 +6,7 @@
 #include <sstream>
 #include <string>
 
-#include "settings/internet_date_time.h"
+#include "base/internet_date_time.h"
 
 namespace tindra {
 namespace {

@@ -7,7 +7,7 @@
 #include <memory>
 #include <string>
 
-#include "settings/internet_date_time.h"
+#include "base/internet_date_time.h"
 
 namespace tindra {
 namespace {

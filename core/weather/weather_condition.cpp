@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "settings/ascii_text.h"
+#include "base/ascii_text.h"
 
 namespace tindra {
 

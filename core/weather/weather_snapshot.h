@@ -7,7 +7,7 @@
 #include <string>
 #include <string_view>
 
-#include "settings/json_value.h"
+#include "base/json_value.h"
 #include "weather/geo_coordinate.h"
 #include "weather/weather_condition.h"
 

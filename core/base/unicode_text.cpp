@@ -1,4 +1,4 @@
-#include "nowplaying/unicode_text.h"
+#include "base/unicode_text.h"
 
 #include <unicode/normalizer2.h>
 #include <unicode/uchar.h>

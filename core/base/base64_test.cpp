@@ -1,4 +1,4 @@
-#include "nowplaying/base64.h"
+#include "base/base64.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "settings/readable_color.h"
+#include "base/readable_color.h"
 
 #include <gtest/gtest.h>
 

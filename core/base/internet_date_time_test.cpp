@@ -1,4 +1,4 @@
-#include "settings/internet_date_time.h"
+#include "base/internet_date_time.h"
 
 #include <gtest/gtest.h>
 

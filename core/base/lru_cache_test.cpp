@@ -1,4 +1,4 @@
-#include "settings/lru_cache.h"
+#include "base/lru_cache.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

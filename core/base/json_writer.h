@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "settings/json_value.h"
+#include "base/json_value.h"
 
 namespace tindra {
 

@@ -1,4 +1,4 @@
-#include "settings/json_reader.h"
+#include "base/json_reader.h"
 
 #include <algorithm>
 #include <array>
@@ -11,7 +11,7 @@
 #include <emmintrin.h>
 #endif
 
-#include "settings/utf8.h"
+#include "base/utf8.h"
 
 namespace tindra {
 

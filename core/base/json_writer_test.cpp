@@ -1,4 +1,4 @@
-#include "settings/json_writer.h"
+#include "base/json_writer.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <limits>
 #include <string>
 
-#include "settings/json_reader.h"
+#include "base/json_reader.h"
 
 namespace tindra {
 namespace {

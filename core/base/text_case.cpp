@@ -1,4 +1,4 @@
-#include "activity/text_case.h"
+#include "base/text_case.h"
 
 #include <unicode/locid.h>
 #include <unicode/unistr.h>

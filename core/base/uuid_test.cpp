@@ -1,4 +1,4 @@
-#include "settings/uuid.h"
+#include "base/uuid.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

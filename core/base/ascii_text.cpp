@@ -1,4 +1,4 @@
-#include "settings/ascii_text.h"
+#include "base/ascii_text.h"
 
 #include <algorithm>
 #include <charconv>

@@ -2,7 +2,7 @@
 // are clamped to 0...1 first (negative or NaN counts as 0), so every function is total.
 #pragma once
 
-#include "settings/srgb_color.h"
+#include "base/srgb_color.h"
 
 namespace tindra::ReadableColor {
 

@@ -1,4 +1,4 @@
-#include "settings/utc_date_fields.h"
+#include "base/utc_date_fields.h"
 
 namespace tindra {
 namespace {

@@ -1,4 +1,4 @@
-#include "focus/line_break.h"
+#include "base/line_break.h"
 
 namespace tindra {
 

@@ -1,4 +1,4 @@
-#include "settings/json_value.h"
+#include "base/json_value.h"
 
 namespace tindra {
 

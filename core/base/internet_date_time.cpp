@@ -1,8 +1,8 @@
-#include "settings/internet_date_time.h"
+#include "base/internet_date_time.h"
 
 #include <optional>
 
-#include "settings/utc_date_fields.h"
+#include "base/utc_date_fields.h"
 
 namespace tindra {
 namespace {

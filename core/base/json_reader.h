@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "settings/json_value.h"
+#include "base/json_value.h"
 
 namespace tindra {
 

@@ -1,4 +1,4 @@
-#include "settings/json_writer.h"
+#include "base/json_writer.h"
 
 #include <array>
 #include <charconv>
@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "settings/utf8.h"
+#include "base/utf8.h"
 
 namespace tindra {
 
