@@ -1,11 +1,10 @@
 #include "activity_center.h"
 
 #include <QDeadlineTimer>
-#include <algorithm>
-#include <cmath>
 
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
+#include "timer_one_shot_scheduler.h"
 
 namespace tindra {
 
@@ -14,11 +13,13 @@ double ActivityCenter::monotonicNow() {
   return static_cast<double>(QDeadlineTimer::current(Qt::PreciseTimer).deadlineNSecs()) / 1e9;
 }
 
-ActivityCenter::ActivityCenter(const SettingsStore& settings, Clock clock, QObject* parent)
-    : QObject(parent), settings_(settings), clock_(std::move(clock)) {
-  expiryTimer_.setSingleShot(true);
-  expiryTimer_.setTimerType(Qt::PreciseTimer);
-  connect(&expiryTimer_, &QTimer::timeout, this, &ActivityCenter::expire);
+ActivityCenter::ActivityCenter(const SettingsStore& settings, Clock clock,
+                               std::unique_ptr<OneShotScheduler> scheduler, QObject* parent)
+    : QObject(parent),
+      settings_(settings),
+      clock_(std::move(clock)),
+      scheduler_(scheduler ? std::move(scheduler) : std::make_unique<TimerOneShotScheduler>()) {
+  scheduler_->setWake([this] { expire(); });
 }
 
 void ActivityCenter::offer(const ActivityEvent& event) {
@@ -28,7 +29,7 @@ void ActivityCenter::offer(const ActivityEvent& event) {
 }
 
 void ActivityCenter::reset() {
-  expiryTimer_.stop();
+  scheduler_->cancel();
   coordinator_ = ActivityCoordinator();
   setCurrent(ActivityKind::idle);
 }
@@ -45,12 +46,12 @@ void ActivityCenter::setCurrent(ActivityKind kind) {
 }
 
 void ActivityCenter::scheduleExpiry(double now) {
-  expiryTimer_.stop();
   const std::optional<double> next = coordinator_.nextExpiry();
-  if (!next) return;
-  // Rounded up to whole milliseconds so the wake-up finds the entry already lapsed.
-  const double delay = std::max(0.0, *next - now);
-  expiryTimer_.start(static_cast<int>(std::min(std::ceil(delay * 1000.0), 2.0e9)));
+  if (next) {
+    scheduler_->aim(*next - now);
+  } else {
+    scheduler_->cancel();
+  }
 }
 
 void ActivityCenter::expire() {

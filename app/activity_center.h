@@ -1,16 +1,17 @@
 // ActivityCenter: the app's single owner of the ActivityCoordinator. Providers offer events here
 // on the main thread; the center stamps them with the monotonic clock, applies the user's
-// notice length and publishes the winning kind. One expiry timer at most is pending, always
-// aimed at the earliest stored expiry.
+// notice length and publishes the winning kind. One wake-up at most is pending, always aimed at
+// the earliest stored expiry.
 #pragma once
 
 #include <QObject>
-#include <QTimer>
 #include <functional>
+#include <memory>
 
 #include "activity/activity_coordinator.h"
 #include "activity/activity_event.h"
 #include "activity/activity_kind.h"
+#include "one_shot_scheduler.h"
 
 namespace tindra {
 
@@ -25,7 +26,9 @@ class ActivityCenter : public QObject {
   // Seconds on the monotonic clock that the expiry timer also sleeps on.
   static double monotonicNow();
 
+  // Without a scheduler the center sleeps on a TimerOneShotScheduler.
   explicit ActivityCenter(const SettingsStore& settings, Clock clock = monotonicNow,
+                          std::unique_ptr<OneShotScheduler> scheduler = nullptr,
                           QObject* parent = nullptr);
 
   // The only way providers reach the coordinator.
@@ -34,8 +37,8 @@ class ActivityCenter : public QObject {
   void reset();
 
   ActivityKind current() const { return current_; }
-  // True while an expiry timer is pending.
-  bool isExpiryScheduled() const { return expiryTimer_.isActive(); }
+  // True while an expiry wake-up is pending.
+  bool isExpiryScheduled() const { return scheduler_->isPending(); }
 
  signals:
   // Emitted only when the shown kind really changes.
@@ -51,7 +54,7 @@ class ActivityCenter : public QObject {
   Clock clock_;
   ActivityCoordinator coordinator_;
   ActivityKind current_ = ActivityKind::idle;
-  QTimer expiryTimer_;
+  std::unique_ptr<OneShotScheduler> scheduler_;
 };
 
 }  // namespace tindra

@@ -5,9 +5,12 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <cmath>
 
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
+#include "testing/manual_one_shot_scheduler.h"
+#include "timer_one_shot_scheduler.h"
 
 namespace tindra {
 namespace {
@@ -24,41 +27,61 @@ ActivityKind kindAt(const QSignalSpy& spy, qsizetype index) {
   return spy.at(index).at(0).value<ActivityKind>();
 }
 
-TEST_F(ActivityCenterTest, ExpiryFiresOnceAndFallsBackToTheNextWinner) {
-  ActivityCenter center(store_);
+TEST_F(ActivityCenterTest, WakeUpIsAimedAtEachExpiryInTurnUntilNoneIsLeft) {
+  double now = 50;
+  auto owned = std::make_unique<ManualOneShotScheduler>();
+  ManualOneShotScheduler& scheduler = *owned;
+  ActivityCenter center(
+      store_, [&now] { return now; }, std::move(owned));
   QSignalSpy changes(&center, &ActivityCenter::currentChanged);
   center.offer(ActivityEvent::began(ActivityKind::nowPlaying));
-  EXPECT_FALSE(center.isExpiryScheduled());  // untimed only
+  EXPECT_FALSE(scheduler.isPending());  // untimed only
 
-  center.offer(ActivityEvent::began(ActivityKind::hud, 0.05));
+  // The later, lower kind keeps its own time underneath the earlier, higher one.
+  center.offer(ActivityEvent::began(ActivityKind::message, 10.0));
+  now = 51;
+  center.offer(ActivityEvent::began(ActivityKind::hud, 1.5));
   EXPECT_EQ(center.current(), ActivityKind::hud);
-  EXPECT_TRUE(center.isExpiryScheduled());
+  EXPECT_DOUBLE_EQ(scheduler.aimed().value(), 1.5);
 
-  ASSERT_TRUE(changes.wait(2000));
+  now = 52.5;
+  scheduler.fire();
+  EXPECT_EQ(center.current(), ActivityKind::message);
+  EXPECT_DOUBLE_EQ(scheduler.aimed().value(), 7.5);
+
+  // A wake-up that comes early changes nothing and re-aims at what is left.
+  now = 59;
+  scheduler.fire();
+  EXPECT_EQ(center.current(), ActivityKind::message);
+  EXPECT_DOUBLE_EQ(scheduler.aimed().value(), 1.0);
+
+  now = 60;
+  scheduler.fire();
   EXPECT_EQ(center.current(), ActivityKind::nowPlaying);
-  EXPECT_FALSE(center.isExpiryScheduled());
-  QTest::qWait(150);
-  ASSERT_EQ(changes.count(), 3);
-  EXPECT_EQ(kindAt(changes, 0), ActivityKind::nowPlaying);
-  EXPECT_EQ(kindAt(changes, 1), ActivityKind::hud);
-  EXPECT_EQ(kindAt(changes, 2), ActivityKind::nowPlaying);
+  EXPECT_FALSE(scheduler.isPending());
+  ASSERT_EQ(changes.count(), 5);
+  EXPECT_EQ(kindAt(changes, 2), ActivityKind::hud);
+  EXPECT_EQ(kindAt(changes, 4), ActivityKind::nowPlaying);
 }
 
-TEST_F(ActivityCenterTest, TimerAimsAtEachExpiryInTurnUntilNoneIsLeft) {
+TEST_F(ActivityCenterTest, TheAppsTimerWakesOnceAfterTheExpiry) {
   ActivityCenter center(store_);
   QSignalSpy changes(&center, &ActivityCenter::currentChanged);
-  // The later, lower kind keeps its own time underneath the earlier, higher one.
-  center.offer(ActivityEvent::began(ActivityKind::message, 1.0));
-  center.offer(ActivityEvent::began(ActivityKind::batteryAlert, 0.05));
-  EXPECT_EQ(center.current(), ActivityKind::batteryAlert);
-
-  ASSERT_TRUE(changes.wait(2000));
-  EXPECT_EQ(center.current(), ActivityKind::message);
+  center.offer(ActivityEvent::began(ActivityKind::hud, 0.05));
   EXPECT_TRUE(center.isExpiryScheduled());
-  ASSERT_TRUE(changes.wait(5000));
+  ASSERT_TRUE(changes.wait(2000));
   EXPECT_EQ(center.current(), ActivityKind::idle);
   EXPECT_FALSE(center.isExpiryScheduled());
-  EXPECT_EQ(changes.count(), 4);
+  QTest::qWait(100);
+  EXPECT_EQ(changes.count(), 2);
+}
+
+TEST(TimerOneShotSchedulerTest, RoundsUpToWholeMillisecondsWithinTheTimersRange) {
+  EXPECT_EQ(TimerOneShotScheduler::timerMilliseconds(0.0501), 51);
+  EXPECT_EQ(TimerOneShotScheduler::timerMilliseconds(0.05), 50);
+  EXPECT_EQ(TimerOneShotScheduler::timerMilliseconds(-3), 0);
+  EXPECT_EQ(TimerOneShotScheduler::timerMilliseconds(std::nan("")), 0);
+  EXPECT_EQ(TimerOneShotScheduler::timerMilliseconds(1e12), 2'000'000'000);
 }
 
 TEST_F(ActivityCenterTest, ObserversHearOnlyRealChanges) {
