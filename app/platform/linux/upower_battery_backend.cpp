@@ -1,0 +1,133 @@
+#include "platform/linux/upower_battery_backend.h"
+
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <utility>
+
+namespace tindra {
+
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.UPower");
+const QString displayDevice = QStringLiteral("/org/freedesktop/UPower/devices/DisplayDevice");
+const QString deviceInterface = QStringLiteral("org.freedesktop.UPower.Device");
+const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+
+bool isSignedOrSmallInteger(const QVariant& value) {
+  switch (value.typeId()) {
+    case QMetaType::UChar:
+    case QMetaType::Short:
+    case QMetaType::UShort:
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::LongLong:
+      return true;
+    default:
+      return false;
+  }
+}
+
+// Copies a property into `field` when the service sent something of the right kind; anything
+// else keeps the previous value rather than inventing one.
+template <typename T>
+void take(const QVariantMap& properties, const char* name, T& field) {
+  const auto found = properties.constFind(QLatin1String(name));
+  if (found == properties.constEnd()) return;
+  const QVariant& value = *found;
+  if constexpr (std::is_same_v<T, bool>) {
+    if (value.typeId() == QMetaType::Bool) field = value.toBool();
+  } else if constexpr (std::is_same_v<T, double>) {
+    if (value.typeId() == QMetaType::Double) field = value.toDouble();
+  } else if (value.typeId() == QMetaType::ULongLong) {
+    if (const qulonglong number = value.toULongLong(); std::in_range<T>(number)) field = number;
+  } else if (isSignedOrSmallInteger(value)) {
+    if (const qlonglong number = value.toLongLong(); std::in_range<T>(number)) field = number;
+  }
+}
+
+}  // namespace
+
+UPowerBatteryBackend::UPowerBatteryBackend(QDBusConnection bus, QObject* parent)
+    : BatteryBackend(parent),
+      bus_(std::move(bus)),
+      watcher_(
+          service, bus_,
+          QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
+      check_{DiagnosticsLog::Outcome::ok, QStringLiteral("asking UPower for the battery")} {}
+
+void UPowerBatteryBackend::start() {
+  bus_.connect(service, displayDevice, propertiesInterface, QStringLiteral("PropertiesChanged"),
+               this, SLOT(onPropertiesChanged(QString, QVariantMap, QStringList)));
+  connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, &UPowerBatteryBackend::readAll);
+  connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this,
+          &UPowerBatteryBackend::onServiceGone);
+  readAll();
+}
+
+void UPowerBatteryBackend::readAll() {
+  QDBusMessage call = QDBusMessage::createMethodCall(service, displayDevice, propertiesInterface,
+                                                     QStringLiteral("GetAll"));
+  call << deviceInterface;
+  auto* pending = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
+  connect(pending, &QDBusPendingCallWatcher::finished, this, &UPowerBatteryBackend::onReadAll);
+}
+
+void UPowerBatteryBackend::onReadAll(QDBusPendingCallWatcher* call) {
+  call->deleteLater();
+  const QDBusPendingReply<QVariantMap> reply = *call;
+  if (reply.isError()) {
+    // Not running now; the watcher reads again when it starts.
+    setCheck(DiagnosticsLog::Outcome::degraded,
+             QStringLiteral("UPower does not answer (%1): no battery is shown")
+                 .arg(reply.error().name()));
+    publish(std::nullopt);
+    return;
+  }
+  device_ = UPowerDevice{};
+  apply(reply.value());
+  setCheck(DiagnosticsLog::Outcome::ok,
+           reading_ ? QStringLiteral("reading the battery from UPower")
+                    : QStringLiteral("UPower answers and reports no battery"));
+}
+
+void UPowerBatteryBackend::onServiceGone() {
+  setCheck(DiagnosticsLog::Outcome::degraded,
+           QStringLiteral("UPower went away: no battery is shown until it returns"));
+  publish(std::nullopt);
+}
+
+void UPowerBatteryBackend::onPropertiesChanged(const QString& interface, const QVariantMap& changed,
+                                               const QStringList& invalidated) {
+  if (interface != deviceInterface) return;
+  if (!invalidated.isEmpty()) {
+    readAll();  // UPower says a value changed without sending it
+    return;
+  }
+  apply(changed);
+}
+
+void UPowerBatteryBackend::apply(const QVariantMap& properties) {
+  take(properties, "Type", device_.type);
+  take(properties, "State", device_.state);
+  take(properties, "Percentage", device_.percentage);
+  take(properties, "IsPresent", device_.isPresent);
+  take(properties, "TimeToEmpty", device_.timeToEmpty);
+  take(properties, "TimeToFull", device_.timeToFull);
+  publish(device_.batteryStatus());
+}
+
+void UPowerBatteryBackend::publish(std::optional<BatteryStatus> reading) {
+  if (reading == reading_) return;
+  reading_ = reading;
+  emit readingChanged();
+}
+
+void UPowerBatteryBackend::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
+  ServiceCheck check{outcome, text};
+  if (check == check_) return;
+  check_ = std::move(check);
+  emit checkChanged();
+}
+
+}  // namespace tindra

@@ -1,0 +1,17 @@
+#include "providers/battery_view_model.h"
+
+namespace tindra {
+
+int BatteryViewModel::minutesLeft() const {
+  if (!reading_) return -1;
+  return reading_->isCharging ? reading_->minutesToFull.value_or(-1)
+                              : reading_->minutesToEmpty.value_or(-1);
+}
+
+void BatteryViewModel::setReading(std::optional<BatteryStatus> reading) {
+  if (reading == reading_) return;
+  reading_ = reading;
+  emit changed();
+}
+
+}  // namespace tindra

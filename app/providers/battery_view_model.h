@@ -1,0 +1,42 @@
+// BatteryViewModel: what the battery views show: the percentage and how the battery is powered.
+// `available` is false when there is no battery or no reading, and then nothing is drawn.
+#pragma once
+
+#include <QObject>
+#include <optional>
+
+#include "power/battery_status.h"
+
+namespace tindra {
+
+class BatteryViewModel : public QObject {
+  Q_OBJECT
+  Q_PROPERTY(bool available READ available NOTIFY changed)
+  Q_PROPERTY(int percent READ percent NOTIFY changed)
+  Q_PROPERTY(bool charging READ charging NOTIFY changed)
+  Q_PROPERTY(bool pluggedIn READ pluggedIn NOTIFY changed)
+  Q_PROPERTY(bool charged READ charged NOTIFY changed)
+  // Minutes to empty while discharging or to full while charging; -1 while unknown.
+  Q_PROPERTY(int minutesLeft READ minutesLeft NOTIFY changed)
+
+ public:
+  using QObject::QObject;
+
+  bool available() const { return reading_.has_value(); }
+  int percent() const { return reading_ ? reading_->percent : 0; }
+  bool charging() const { return reading_ && reading_->isCharging; }
+  bool pluggedIn() const { return reading_ && reading_->isPluggedIn; }
+  bool charged() const { return reading_ && reading_->isCharged; }
+  int minutesLeft() const;
+
+  // Emits `changed` only when the reading really differs.
+  void setReading(std::optional<BatteryStatus> reading);
+
+ signals:
+  void changed();
+
+ private:
+  std::optional<BatteryStatus> reading_;
+};
+
+}  // namespace tindra
