@@ -8,6 +8,7 @@
 #include <cstdio>
 #include <cstdlib>
 
+#include "diagnostics/first_frame_report.h"
 #include "platform/display_platform.h"
 #include "shell/demo_tour.h"
 #include "tindra_app.h"
@@ -39,6 +40,7 @@ int main(int argc, char* argv[]) {
   options.process(app);
 
   tindra::TindraApp tindra({.animated = true});
+  tindra::reportFirstFrameIfAsked();
   if (!options.isSet(demo)) return QApplication::exec();
 
   tindra::DemoTour tour(tindra, QDir(options.value(demo)));
