@@ -55,16 +55,4 @@ std::optional<std::array<std::string, 2>> sendArguments(const NowPlayingCommand&
       command.value);
 }
 
-std::vector<std::string> arguments(std::string_view scriptPath, std::string_view frameworkPath,
-                                   const std::vector<std::string>& words) {
-  std::vector<std::string> all{std::string(scriptPath), std::string(frameworkPath)};
-  all.insert(all.end(), words.begin(), words.end());
-  return all;
-}
-
-std::vector<std::string> testArguments(std::string_view scriptPath, std::string_view frameworkPath,
-                                       std::string_view testClientPath) {
-  return {std::string(scriptPath), std::string(frameworkPath), std::string(testClientPath), "test"};
-}
-
 }  // namespace tindra::AdapterCommandLine

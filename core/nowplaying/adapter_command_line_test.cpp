@@ -18,10 +18,6 @@ TEST(AdapterCommandLineTest, StreamWordsClampTheDebounceAndNameMissingArtwork) {
   EXPECT_EQ(AdapterCommandLine::streamArguments(100, false),
             (Strings{"stream", "--micros", "--debounce=100", "--no-artwork"}));
   EXPECT_EQ(AdapterCommandLine::streamArguments(-1, true)[2], "--debounce=0");
-  EXPECT_EQ(AdapterCommandLine::arguments("s.pl", "F.framework", {"send", "2"}),
-            (Strings{"s.pl", "F.framework", "send", "2"}));
-  EXPECT_EQ(AdapterCommandLine::testArguments("s.pl", "F.framework", "client"),
-            (Strings{"s.pl", "F.framework", "client", "test"}));
 }
 
 TEST(AdapterCommandLineTest, CommandsUseTheMediaRemoteCodes) {

@@ -1,0 +1,32 @@
+#include "nowplaying/adapter_launch.h"
+
+namespace tindra {
+
+AdapterLaunch AdapterLaunch::perlScript(std::string_view scriptPath, std::string_view frameworkPath,
+                                        std::string_view testClientPath) {
+  const std::string script(scriptPath);
+  const std::string framework(frameworkPath);
+  const std::string testClient(testClientPath);
+  return {"/usr/bin/perl",
+          {script, framework},
+          {script, framework, testClient},
+          {script, framework, testClient}};
+}
+
+AdapterLaunch AdapterLaunch::helperProgram(std::string_view programPath) {
+  return {std::string(programPath), {}, {}, {std::string(programPath)}};
+}
+
+std::vector<std::string> AdapterLaunch::arguments(const std::vector<std::string>& words) const {
+  std::vector<std::string> all = leadingWords;
+  all.insert(all.end(), words.begin(), words.end());
+  return all;
+}
+
+std::vector<std::string> AdapterLaunch::testArguments() const {
+  std::vector<std::string> all = testLeadingWords;
+  all.emplace_back("test");
+  return all;
+}
+
+}  // namespace tindra
