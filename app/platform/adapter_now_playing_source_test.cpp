@@ -26,7 +26,7 @@ class AdapterNowPlayingSourceTest : public ::testing::Test {
     QFile file(path);
     EXPECT_TRUE(file.open(QIODevice::WriteOnly));
     file.write(script);
-    return {"/bin/sh", {path.toStdString()}, {path.toStdString()}, {path.toStdString()}};
+    return {"/bin/sh", {path.toStdString()}, {path.toStdString()}, {path.toStdString()}, ""};
   }
   static QString titleAt(const QSignalSpy& spy, qsizetype index) {
     const auto update = spy.at(index).at(0).value<Update>();
@@ -94,7 +94,7 @@ TEST_F(AdapterNowPlayingSourceTest, RestartsWithBackOffAndAsksForARetestAfterRep
 }
 
 TEST_F(AdapterNowPlayingSourceTest, AProgramThatCannotStartIsRetriedLikeACrash) {
-  AdapterNowPlayingSource source({"/nonexistent/adapter", {}, {}, {}},
+  AdapterNowPlayingSource source({"/nonexistent/adapter", {}, {}, {}, ""},
                                  RestartBackoff(5, 30, 30, 5));
   source.start();
   ASSERT_TRUE(QTest::qWaitFor([&] { return source.pendingRestartMilliseconds().has_value(); }));

@@ -10,11 +10,17 @@ AdapterLaunch AdapterLaunch::perlScript(std::string_view scriptPath, std::string
   return {"/usr/bin/perl",
           {script, framework},
           {script, framework, testClient},
-          {script, framework, testClient}};
+          {script, framework, testClient},
+          "Run scripts/fetch-mediaremote-adapter.sh on the Mac, then rebuild."};
 }
 
 AdapterLaunch AdapterLaunch::helperProgram(std::string_view programPath) {
-  return {std::string(programPath), {}, {}, {std::string(programPath)}};
+  return {std::string(programPath),
+          {},
+          {},
+          {std::string(programPath)},
+          "Build the tools (make build) or reinstall Tindra, which places tindra-mpris-adapter "
+          "beside tindra."};
 }
 
 std::vector<std::string> AdapterLaunch::arguments(const std::vector<std::string>& words) const {

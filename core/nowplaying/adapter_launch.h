@@ -15,6 +15,7 @@ struct AdapterLaunch {
   std::vector<std::string> leadingWords;      // before the words of every run but the self-test
   std::vector<std::string> testLeadingWords;  // before "test"
   std::vector<std::string> requiredFiles;     // missing ones make the adapter "not bundled"
+  std::string missingHint;                    // what a person does about missing files
 
   // "/usr/bin/perl" with script and framework; the self-test adds the test client.
   static AdapterLaunch perlScript(std::string_view scriptPath, std::string_view frameworkPath,
