@@ -1,0 +1,87 @@
+#include "providers/now_playing_provider.h"
+
+#include "activity_center.h"
+#include "diagnostics/diagnostics_log.h"
+#include "logging_categories.h"
+#include "nowplaying/now_playing_activity_policy.h"
+#include "settings/settings_keys.h"
+#include "settings/settings_store.h"
+
+namespace tindra {
+
+NowPlayingProvider::NowPlayingProvider(ProviderContext context, SourceFactory makeSource,
+                                       std::unique_ptr<AdapterProbe> probe, QObject* parent)
+    : Provider(context, parent),
+      makeSource_(std::move(makeSource)),
+      probe_(std::move(probe)),
+      viewModel_([this](const NowPlayingCommand& command) { send(command); }) {
+  if (probe_) connect(probe_.get(), &AdapterProbe::finished, this, &NowPlayingProvider::onProbed);
+}
+
+NowPlayingProvider::~NowPlayingProvider() = default;
+
+NowPlayingSourceMode NowPlayingProvider::sourceMode() const {
+  return nowPlayingSourceModeFromRaw(settings().read(settings::nowPlayingSourceMode))
+      .value_or(NowPlayingSourceMode::automatic);
+}
+
+NowPlayingPausedLinger NowPlayingProvider::pausedLinger() const {
+  return nowPlayingPausedLingerFromRaw(settings().read(settings::nowPlayingPausedLinger))
+      .value_or(defaultNowPlayingPausedLinger);
+}
+
+void NowPlayingProvider::start() {
+  if (sourceMode() == NowPlayingSourceMode::appleScriptOnly) {
+    diagnostics().record(lcNowPlaying(), name(), DiagnosticsLog::Outcome::degraded,
+                         QStringLiteral("Settings ask for the player scripts, which this desktop "
+                                        "does not have: nothing is shown as playing."));
+    return;
+  }
+  if (probe_) {
+    probe_->run();
+  } else {
+    startSource();
+  }
+}
+
+void NowPlayingProvider::onProbed(const AdapterProbeResult& result, const QString& text) {
+  const bool passed = result == AdapterProbeResult::passed();
+  diagnostics().record(lcNowPlaying(), name(),
+                       passed ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::failed,
+                       text);
+  if (passed && !source_) startSource();
+  if (!passed) dropSource();
+}
+
+void NowPlayingProvider::startSource() {
+  source_ = makeSource_();
+  connect(source_.get(), &NowPlayingSource::snapshotArrived, this, &NowPlayingProvider::show);
+  connect(source_.get(), &NowPlayingSource::repeatedFailure, this, [this] {
+    if (probe_) probe_->run();  // keeps the source if the adapter still passes
+  });
+  source_->start();
+}
+
+void NowPlayingProvider::dropSource() {
+  if (!source_) return;
+  source_->stop();
+  source_.reset();
+  show(std::nullopt);
+}
+
+void NowPlayingProvider::show(const std::optional<NowPlayingSnapshot>& snapshot) {
+  const std::optional<ActivityEvent> event =
+      NowPlayingActivityPolicy::event(snapshot, wasPlaying_, pausedLinger());
+  wasPlaying_ = snapshot && snapshot->isPlaying;
+  viewModel_.setSnapshot(snapshot);
+  if (event) activities().offer(*event);
+}
+
+void NowPlayingProvider::send(const NowPlayingCommand& command) {
+  if (!source_ || !viewModel_.snapshot() || !viewModel_.snapshot()->capabilities.allows(command)) {
+    return;
+  }
+  source_->send(command);
+}
+
+}  // namespace tindra

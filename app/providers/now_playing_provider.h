@@ -1,0 +1,53 @@
+// NowPlayingProvider ("media"): the playing track. It tests the adapter first and feeds the
+// notch from the adapter source only when the test passes (this desktop has no player-script
+// source to fall back to, and never pretends to); a source that keeps failing is tested again
+// and dropped if the test fails. Each snapshot becomes the `nowPlaying` activity: shown while
+// playing, lingering for the user's chosen time after a pause, ended when nothing plays.
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "nowplaying/now_playing_paused_linger.h"
+#include "nowplaying/now_playing_source_kind.h"
+#include "platform/adapter_probe.h"
+#include "platform/now_playing_source.h"
+#include "providers/now_playing_view_model.h"
+#include "providers/provider.h"
+
+namespace tindra {
+
+class NowPlayingProvider final : public Provider {
+  Q_OBJECT
+
+ public:
+  using SourceFactory = std::function<std::unique_ptr<NowPlayingSource>()>;
+
+  // Without a probe (the fake source) the source starts at once.
+  NowPlayingProvider(ProviderContext context, SourceFactory makeSource,
+                     std::unique_ptr<AdapterProbe> probe, QObject* parent = nullptr);
+  ~NowPlayingProvider() override;
+
+  QString name() const override { return QStringLiteral("media"); }
+  void start() override;
+  NowPlayingViewModel* viewModel() override { return &viewModel_; }
+
+  bool hasSource() const { return source_ != nullptr; }
+
+ private:
+  NowPlayingSourceMode sourceMode() const;
+  NowPlayingPausedLinger pausedLinger() const;
+  void onProbed(const AdapterProbeResult& result, const QString& text);
+  void startSource();
+  void dropSource();
+  void show(const std::optional<NowPlayingSnapshot>& snapshot);
+  void send(const NowPlayingCommand& command);
+
+  SourceFactory makeSource_;
+  std::unique_ptr<AdapterProbe> probe_;
+  std::unique_ptr<NowPlayingSource> source_;
+  NowPlayingViewModel viewModel_;
+  bool wasPlaying_ = false;
+};
+
+}  // namespace tindra

@@ -1,0 +1,85 @@
+// NowPlayingViewModel: the playing track as the media views show it. The position is given as a
+// sample (`elapsed` seconds at `sampledAt`, advancing at `playbackRate`) so that the views
+// advance it themselves, from one timer aimed at the next visible change, instead of this model
+// ticking. Buttons call the Q_INVOKABLE commands, which reach the provider's source.
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <functional>
+#include <optional>
+
+#include "nowplaying/now_playing_command.h"
+#include "nowplaying/now_playing_snapshot.h"
+
+namespace tindra {
+
+class NowPlayingViewModel : public QObject {
+  Q_OBJECT
+  Q_PROPERTY(bool hasTrack READ hasTrack NOTIFY trackChanged)
+  Q_PROPERTY(QString title READ title NOTIFY trackChanged)
+  Q_PROPERTY(QString artist READ artist NOTIFY trackChanged)
+  Q_PROPERTY(QString album READ album NOTIFY trackChanged)
+  Q_PROPERTY(QString player READ player NOTIFY trackChanged)
+  Q_PROPERTY(double duration READ duration NOTIFY trackChanged)  // seconds; 0 when unknown
+  Q_PROPERTY(bool playing READ playing NOTIFY playbackChanged)
+  Q_PROPERTY(double elapsed READ elapsed NOTIFY playbackChanged)      // seconds; -1 unknown
+  Q_PROPERTY(double sampledAt READ sampledAt NOTIFY playbackChanged)  // ms since 1970
+  Q_PROPERTY(double playbackRate READ playbackRate NOTIFY playbackChanged)
+  Q_PROPERTY(int shuffle READ shuffle NOTIFY playbackChanged)  // -1 unknown, else ShuffleMode
+  Q_PROPERTY(int repeat READ repeat NOTIFY playbackChanged)    // -1 unknown, else RepeatMode
+  Q_PROPERTY(bool canPlayPause READ canPlayPause NOTIFY trackChanged)
+  Q_PROPERTY(bool canSkip READ canSkip NOTIFY trackChanged)
+  Q_PROPERTY(bool canSeek READ canSeek NOTIFY trackChanged)
+  Q_PROPERTY(bool canShuffle READ canShuffle NOTIFY trackChanged)
+  Q_PROPERTY(bool canRepeat READ canRepeat NOTIFY trackChanged)
+
+ public:
+  using Send = std::function<void(const NowPlayingCommand&)>;
+
+  explicit NowPlayingViewModel(Send send, QObject* parent = nullptr);
+
+  bool hasTrack() const { return snapshot_.has_value(); }
+  QString title() const;
+  QString artist() const;
+  QString album() const;
+  QString player() const;
+  double duration() const;
+  bool playing() const { return snapshot_ && snapshot_->isPlaying; }
+  double elapsed() const;
+  double sampledAt() const;
+  double playbackRate() const { return snapshot_ ? snapshot_->playbackRate : 0; }
+  int shuffle() const;
+  int repeat() const;
+  bool canPlayPause() const { return allows(NowPlayingCapabilities::playPause()); }
+  bool canSkip() const { return allows(NowPlayingCapabilities::nextTrack()); }
+  bool canSeek() const { return allows(NowPlayingCapabilities::seek()) && duration() > 0; }
+  bool canShuffle() const { return allows(NowPlayingCapabilities::shuffle()); }
+  bool canRepeat() const { return allows(NowPlayingCapabilities::repeat()); }
+
+  const std::optional<NowPlayingSnapshot>& snapshot() const { return snapshot_; }
+  // Signals only what really changed: the track's texts, or its playback.
+  void setSnapshot(const std::optional<NowPlayingSnapshot>& snapshot);
+
+  Q_INVOKABLE void togglePlayPause();
+  Q_INVOKABLE void next();
+  Q_INVOKABLE void previous();
+  Q_INVOKABLE void seek(double seconds);
+  // Off, then tracks, then off again; repeat goes off, all, track, off.
+  Q_INVOKABLE void cycleShuffle();
+  Q_INVOKABLE void cycleRepeat();
+
+ signals:
+  void trackChanged();
+  void playbackChanged();
+
+ private:
+  bool allows(NowPlayingCapabilities capability) const {
+    return snapshot_ && snapshot_->capabilities.contains(capability);
+  }
+
+  Send send_;
+  std::optional<NowPlayingSnapshot> snapshot_;
+};
+
+}  // namespace tindra
