@@ -1,0 +1,23 @@
+#include "platform/platform_adapter_launch.h"
+
+#include <QCoreApplication>
+#include <QFileInfo>
+#include <QStandardPaths>
+
+namespace tindra {
+
+AdapterLaunch platformAdapterLaunch() {
+  const QString helper = QStringLiteral("tindra-mpris-adapter");
+  const QString here = QCoreApplication::applicationDirPath();
+  for (const QString& candidate :
+       {here + u'/' + helper, here + QStringLiteral("/../tools/") + helper}) {
+    if (QFileInfo(candidate).isExecutable()) {
+      return AdapterLaunch::helperProgram(QFileInfo(candidate).canonicalFilePath().toStdString());
+    }
+  }
+  const QString onPath = QStandardPaths::findExecutable(helper);
+  return AdapterLaunch::helperProgram(
+      (onPath.isEmpty() ? here + u'/' + helper : onPath).toStdString());
+}
+
+}  // namespace tindra
