@@ -37,6 +37,8 @@ class ActivityCenter : public QObject {
   void reset();
 
   ActivityKind current() const { return current_; }
+  // The clock the centre was given: monotonic seconds, for everyone who times the notch.
+  double now() const { return clock_(); }
   // True while an expiry wake-up is pending.
   bool isExpiryScheduled() const { return scheduler_->isPending(); }
 

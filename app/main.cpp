@@ -39,6 +39,11 @@ int main(int argc, char* argv[]) {
   options.addOption(demo);
   options.process(app);
 
+  // The tour shows invented data only: every provider gets its fake backend unless the caller
+  // chose which ones.
+  if (options.isSet(demo) && !qEnvironmentVariableIsSet("TINDRA_FAKE")) {
+    qputenv("TINDRA_FAKE", "all");
+  }
   tindra::TindraApp tindra({.animated = true});
   tindra::reportFirstFrameIfAsked();
   if (!options.isSet(demo)) return QApplication::exec();

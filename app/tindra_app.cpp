@@ -3,13 +3,18 @@
 #include <QDateTime>
 
 #include "activity_center.h"
+#include "diagnostics/diagnostics_log.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
+#include "platform/backend_factory.h"
 #include "platform/screen_source_factory.h"
+#include "providers/battery_provider.h"
+#include "providers/now_playing_provider.h"
 #include "settings/settings_store.h"
 #include "settings_file_watcher.h"
 #include "shell/shell_actions.h"
 #include "shell/tray_item.h"
+#include "views/notch_content.h"
 
 namespace tindra {
 
@@ -27,11 +32,14 @@ TindraApp::TindraApp(Options options, QObject* parent)
       settings_(std::make_unique<SettingsStore>(SettingsStore::defaultFile(), secondsSince1970)),
       watcher_(std::make_unique<SettingsFileWatcher>(*settings_)),
       activities_(std::make_unique<ActivityCenter>(*settings_)),
-      shell_(std::make_unique<ShellActions>(*settings_)),
+      diagnostics_(std::make_unique<DiagnosticsLog>()),
+      shell_(std::make_unique<ShellActions>(*settings_, *diagnostics_)),
       tray_(std::make_unique<TrayItem>(*settings_, *shell_)),
       screens_(makePlatformScreenSource()) {
+  startProviders();
+  content_ = std::make_unique<NotchContent>(*activities_, *settings_, views_);
   notches_ = std::make_unique<NotchScreenManager>(
-      *screens_, *settings_, *activities_, [this](NotchWindow& window) {
+      *screens_, *settings_, *activities_, *content_, [this](NotchWindow& window) {
         window.setAnimated(options_.animated);
         window.setContextMenu(tray_->isShown() ? nullptr : shell_->menu());
       });
@@ -39,6 +47,25 @@ TindraApp::TindraApp(Options options, QObject* parent)
 }
 
 TindraApp::~TindraApp() = default;
+
+void TindraApp::startProviders() {
+  const ProviderContext context{*activities_, *settings_, *diagnostics_};
+  NowPlayingBackend nowPlaying = makeNowPlayingBackend();
+  providers_.push_back(std::make_unique<NowPlayingProvider>(
+      context, std::move(nowPlaying.makeSource), std::move(nowPlaying.probe)));
+  providers_.push_back(std::make_unique<BatteryProvider>(context, makeBatteryBackend()));
+  for (const auto& provider : providers_) {
+    views_.setModel(provider->name(), provider->viewModel());
+    provider->start();
+  }
+}
+
+Provider* TindraApp::provider(const QString& name) const {
+  for (const auto& provider : providers_) {
+    if (provider->name() == name) return provider.get();
+  }
+  return nullptr;
+}
 
 void TindraApp::offerMenuOnNotches() {
   for (NotchWindow* window : notches_->windows()) {

@@ -1,14 +1,21 @@
 // TindraApp: the running program's parts wired together: the settings store and its file
-// watch, the activity centre, the displays and their notch windows, the tray item and the shell
-// menu. Where no tray shows the item, the notch offers the shell menu on a right click.
+// watch, the activity centre, the providers and their views, the displays and their notch
+// windows, the tray item and the shell menu. Where no tray shows the item, the notch offers the
+// shell menu on a right click.
 #pragma once
 
 #include <QObject>
 #include <memory>
+#include <vector>
+
+#include "views/view_registry.h"
 
 namespace tindra {
 
 class ActivityCenter;
+class DiagnosticsLog;
+class NotchContent;
+class Provider;
 class NotchScreenManager;
 class ScreenSource;
 class SettingsFileWatcher;
@@ -29,17 +36,25 @@ class TindraApp : public QObject {
 
   SettingsStore& settings() { return *settings_; }
   ActivityCenter& activities() { return *activities_; }
+  DiagnosticsLog& diagnostics() { return *diagnostics_; }
+  // The running provider called `name`, or null.
+  Provider* provider(const QString& name) const;
   NotchScreenManager& notches() { return *notches_; }
   ShellActions& shell() { return *shell_; }
   TrayItem& tray() { return *tray_; }
 
  private:
   void offerMenuOnNotches();
+  void startProviders();
 
   Options options_;
   std::unique_ptr<SettingsStore> settings_;
   std::unique_ptr<SettingsFileWatcher> watcher_;
   std::unique_ptr<ActivityCenter> activities_;
+  std::unique_ptr<DiagnosticsLog> diagnostics_;
+  std::vector<std::unique_ptr<Provider>> providers_;
+  ViewRegistry views_;
+  std::unique_ptr<NotchContent> content_;
   std::unique_ptr<ShellActions> shell_;
   std::unique_ptr<TrayItem> tray_;
   std::unique_ptr<ScreenSource> screens_;

@@ -11,12 +11,13 @@
 namespace tindra {
 
 NotchScreenManager::NotchScreenManager(ScreenSource& screens, SettingsStore& settings,
-                                       ActivityCenter& activities,
+                                       ActivityCenter& activities, NotchContent& content,
                                        std::function<void(NotchWindow&)> prepare, QObject* parent)
     : QObject(parent),
       screens_(screens),
       settings_(settings),
       activities_(activities),
+      content_(content),
       prepare_(std::move(prepare)) {
   // Screens change in bursts (a new monitor resizes the others); one rebuild per burst.
   pending_.setSingleShot(true);
@@ -72,7 +73,7 @@ void NotchScreenManager::rebuild() {
       window = std::move(existing->second);
       windows_.erase(existing);
     } else {
-      window = std::make_unique<NotchWindow>(activities_, settings_);
+      window = std::make_unique<NotchWindow>(activities_, settings_, content_);
       if (prepare_) prepare_(*window);
       added = true;
     }

@@ -17,6 +17,7 @@
 namespace tindra {
 
 class ActivityCenter;
+class NotchContent;
 class NotchWindow;
 
 class NotchScreenManager : public QObject {
@@ -25,7 +26,8 @@ class NotchScreenManager : public QObject {
  public:
   // `prepare` is called on every new window before it is first shown.
   NotchScreenManager(ScreenSource& screens, SettingsStore& settings, ActivityCenter& activities,
-                     std::function<void(NotchWindow&)> prepare = {}, QObject* parent = nullptr);
+                     NotchContent& content, std::function<void(NotchWindow&)> prepare = {},
+                     QObject* parent = nullptr);
   ~NotchScreenManager() override;
 
   // The windows in display id order.
@@ -42,6 +44,7 @@ class NotchScreenManager : public QObject {
   ScreenSource& screens_;
   SettingsStore& settings_;
   ActivityCenter& activities_;
+  NotchContent& content_;
   std::function<void(NotchWindow&)> prepare_;
   SettingsObservation observation_;
   QTimer pending_;

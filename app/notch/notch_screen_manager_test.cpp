@@ -8,6 +8,7 @@
 #include "activity_center.h"
 #include "notch/notch_window.h"
 #include "settings/settings_keys.h"
+#include "views/notch_content.h"
 
 namespace tindra {
 namespace {
@@ -77,7 +78,9 @@ class NotchScreenManagerTest : public ::testing::Test {
   SettingsStore store_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
   ActivityCenter activities_{store_};
   FakeScreenSource source_;
-  NotchScreenManager manager_{source_, store_, activities_,
+  ViewRegistry views_;
+  NotchContent content_{activities_, store_, views_};
+  NotchScreenManager manager_{source_, store_, activities_, content_,
                               [](NotchWindow& window) { window.setAnimated(false); }};
 };
 

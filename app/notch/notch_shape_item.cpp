@@ -9,10 +9,6 @@ NotchShapeItem::NotchShapeItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
   setAntialiasing(true);
 }
 
-void NotchShapeItem::registerType() {
-  qmlRegisterType<NotchShapeItem>("Tindra", 1, 0, "NotchShape");
-}
-
 void NotchShapeItem::paint(QPainter* painter) {
   painter->setRenderHint(QPainter::Antialiasing);
   painter->fillPath(shape_.path(), color_);

@@ -1,6 +1,7 @@
-// NotchShapeItem: paints a NotchShape in Qt Quick (as "NotchShape" in the "Tindra" QML module).
+// NotchShapeItem: paints a NotchShape in Qt Quick, as "NotchShape" in the "Tindra" QML module.
 #pragma once
 
+#include <QtQml/qqmlregistration.h>
 #include <QColor>
 #include <QQuickPaintedItem>
 
@@ -10,6 +11,7 @@ namespace tindra {
 
 class NotchShapeItem : public QQuickPaintedItem {
   Q_OBJECT
+  QML_NAMED_ELEMENT(NotchShape)
   Q_PROPERTY(QRectF body READ body WRITE setBody NOTIFY shapeChanged)
   Q_PROPERTY(double bottomRadius READ bottomRadius WRITE setBottomRadius NOTIFY shapeChanged)
   Q_PROPERTY(double flareRadius READ flareRadius WRITE setFlareRadius NOTIFY shapeChanged)
@@ -17,9 +19,6 @@ class NotchShapeItem : public QQuickPaintedItem {
 
  public:
   explicit NotchShapeItem(QQuickItem* parent = nullptr);
-
-  // Makes the type known to QML; call once before loading the notch scene.
-  static void registerType();
 
   void paint(QPainter* painter) override;
 

@@ -1,11 +1,11 @@
 // NotchWindow: the notch on one display. A frameless, always-on-top, never-focused window hangs
 // from the display's top edge; only the notch outline is drawn and hit, the rest is cut away.
 // It samples pointer, button and file-drag state into the NotchHoverStateMachine, animates
-// between closed and opened, stretches while the pointer pulls, and shows the current activity's
-// compact view when closed and the panel when opened.
+// between closed and opened and stretches while the pointer pulls. What it shows comes from the
+// shared NotchContent; the window keeps geometry, input and animation only.
 #pragma once
 
-#include <QColor>
+#include <QtQml/qqmlregistration.h>
 #include <QMenu>
 #include <QPointF>
 #include <QPointer>
@@ -24,22 +24,23 @@
 namespace tindra {
 
 class ActivityCenter;
+class NotchContent;
 
 class NotchWindow : public QQuickView {
   Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("one per display, made by the app")
   Q_PROPERTY(QRectF shapeRect READ shapeRect NOTIFY shapeChanged)
   Q_PROPERTY(double bottomRadius READ bottomRadius NOTIFY shapeChanged)
   Q_PROPERTY(double flareRadius READ flareRadius CONSTANT)
   Q_PROPERTY(double openProgress READ openProgress NOTIFY shapeChanged)
   Q_PROPERTY(double compactProgress READ compactProgress NOTIFY shapeChanged)
   Q_PROPERTY(QRectF notchRect READ notchRect NOTIFY placementChanged)
-  Q_PROPERTY(QString activityLabel READ activityLabel NOTIFY activityChanged)
-  Q_PROPERTY(QColor activityAccent READ activityAccent NOTIFY activityChanged)
-  Q_PROPERTY(QString timeText READ timeText NOTIFY clockChanged)
-  Q_PROPERTY(QString dateText READ dateText NOTIFY clockChanged)
 
  public:
-  NotchWindow(ActivityCenter& activities, SettingsStore& settings, QWindow* parent = nullptr);
+  // Time comes from the activity centre's clock, which tests inject.
+  NotchWindow(ActivityCenter& activities, SettingsStore& settings, NotchContent& content,
+              QWindow* parent = nullptr);
   ~NotchWindow() override;
 
   // Moves the window to the display that `geometry` describes.
@@ -64,16 +65,10 @@ class NotchWindow : public QQuickView {
   double openProgress() const { return openProgress_; }
   double compactProgress() const { return compactProgress_; }
   QRectF notchRect() const { return layout_.notchRect; }
-  QString activityLabel() const;
-  QColor activityAccent() const;
-  QString timeText() const { return timeText_; }
-  QString dateText() const { return dateText_; }
 
  signals:
   void shapeChanged();
   void placementChanged();
-  void activityChanged();
-  void clockChanged();
   void expandedChanged(bool expanded);
 
  protected:
@@ -89,12 +84,12 @@ class NotchWindow : public QQuickView {
   void setStretch(double amount, double anchorX);
   void releasePull();
   void updateShape();
-  void updateClock();
   bool handleMouse(QEvent* event);
   bool handleDrag(QEvent* event);
 
   ActivityCenter& activities_;
   SettingsStore& settings_;
+  NotchContent& content_;
   SettingsObservation timingObservation_;
   NotchHoverStateMachine machine_;
   NotchGeometry geometry_;
@@ -119,9 +114,6 @@ class NotchWindow : public QQuickView {
   QVariantAnimation compactAnimation_;
   QVariantAnimation stretchAnimation_;
   QTimer deadlineTimer_;
-  QTimer clockTimer_;
-  QString timeText_;
-  QString dateText_;
 };
 
 }  // namespace tindra

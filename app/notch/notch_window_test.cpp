@@ -18,6 +18,7 @@
 #include "notch/notch_screen_manager.h"
 #include "platform/screen_source_factory.h"
 #include "settings/settings_keys.h"
+#include "views/notch_content.h"
 
 namespace tindra {
 namespace {
@@ -71,7 +72,8 @@ class Displays {
   Displays() {
     screens_ = makePlatformScreenSource();
     manager_ = std::make_unique<NotchScreenManager>(
-        *screens_, store_, activities_, [](NotchWindow& window) { window.setAnimated(false); });
+        *screens_, store_, activities_, content_,
+        [](NotchWindow& window) { window.setAnimated(false); });
     desktops_ = showDesktops();
     for (NotchWindow* window : manager_->windows()) {
       EXPECT_TRUE(QTest::qWaitForWindowExposed(window));
@@ -83,6 +85,8 @@ class Displays {
   QTemporaryDir dir_;
   SettingsStore store_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
   ActivityCenter activities_{store_};
+  ViewRegistry views_;
+  NotchContent content_{activities_, store_, views_};
   std::unique_ptr<ScreenSource> screens_;
   std::unique_ptr<NotchScreenManager> manager_;
   std::vector<std::unique_ptr<QWidget>> desktops_;

@@ -1,5 +1,11 @@
 #include "providers/now_playing_view_model.h"
 
+#include <QDateTime>
+#include <algorithm>
+#include <cmath>
+
+#include "nowplaying/playback_time_format.h"
+
 namespace tindra {
 
 namespace {
@@ -23,8 +29,51 @@ bool samePlayback(const NowPlayingSnapshot& a, const NowPlayingSnapshot& b) {
 
 }  // namespace
 
-NowPlayingViewModel::NowPlayingViewModel(Send send, QObject* parent)
-    : QObject(parent), send_(std::move(send)) {}
+NowPlayingViewModel::NowPlayingViewModel(Send send, Clock now, QObject* parent)
+    : QObject(parent), send_(std::move(send)), now_(std::move(now)) {
+  if (!now_) {
+    now_ = [] { return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0; };
+  }
+}
+
+std::optional<double> NowPlayingViewModel::reportedPosition() const {
+  return snapshot_ ? snapshot_->position(now_()) : std::nullopt;
+}
+
+double NowPlayingViewModel::displayPosition() const {
+  return scrub_.displayPosition(reportedPosition(), playing(), now_()).value_or(-1);
+}
+
+int NowPlayingViewModel::millisecondsToNextSecond() const {
+  if (!playing() || scrub_.dragPosition || playbackRate() <= 0) return -1;
+  const double position = displayPosition();
+  if (position < 0) return -1;
+  const double toNext = (std::floor(position) + 1 - position) / playbackRate();
+  return static_cast<int>(std::ceil(toNext * 1000.0)) + 1;
+}
+
+QString NowPlayingViewModel::elapsedText(double seconds) const {
+  return QString::fromStdString(PlaybackTimeFormat::elapsed(seconds));
+}
+
+QString NowPlayingViewModel::remainingText(double seconds) const {
+  return QString::fromStdString(PlaybackTimeFormat::remaining(seconds, duration()));
+}
+
+void NowPlayingViewModel::drag(double seconds) {
+  scrub_.dragPosition = std::clamp(seconds, 0.0, std::max(0.0, duration()));
+  emit playbackChanged();
+}
+
+void NowPlayingViewModel::commitDrag() {
+  if (!scrub_.dragPosition) return;
+  const double target = *scrub_.dragPosition;
+  scrub_.dragPosition.reset();
+  scrub_.pendingTarget = target;
+  scrub_.pendingSince = now_();
+  send_(NowPlayingCommand::seek(target));
+  emit playbackChanged();
+}
 
 QString NowPlayingViewModel::title() const {
   return snapshot_ ? QString::fromStdString(snapshot_->title) : QString();
@@ -60,6 +109,8 @@ void NowPlayingViewModel::setSnapshot(const std::optional<NowPlayingSnapshot>& s
   const bool playbackChanges = snapshot.has_value() != snapshot_.has_value() ||
                                (snapshot && !samePlayback(*snapshot, *snapshot_));
   snapshot_ = snapshot;
+  if (trackChanges) scrub_ = ScrubState();
+  scrub_.settle(reportedPosition(), playing(), now_());
   if (trackChanges) emit trackChanged();
   if (playbackChanges) emit playbackChanged();
 }

@@ -11,6 +11,7 @@
 
 #include "nowplaying/now_playing_command.h"
 #include "nowplaying/now_playing_snapshot.h"
+#include "nowplaying/scrub_state.h"
 
 namespace tindra {
 
@@ -36,8 +37,9 @@ class NowPlayingViewModel : public QObject {
 
  public:
   using Send = std::function<void(const NowPlayingCommand&)>;
+  using Clock = std::function<double()>;  // seconds since 1970
 
-  explicit NowPlayingViewModel(Send send, QObject* parent = nullptr);
+  explicit NowPlayingViewModel(Send send, Clock now = nullptr, QObject* parent = nullptr);
 
   bool hasTrack() const { return snapshot_.has_value(); }
   QString title() const;
@@ -61,6 +63,17 @@ class NowPlayingViewModel : public QObject {
   // Signals only what really changed: the track's texts, or its playback.
   void setSnapshot(const std::optional<NowPlayingSnapshot>& snapshot);
 
+  // Where the progress bar's knob is now, in seconds: the dragged or just-committed position
+  // while the user scrubs, else the player's; -1 when unknown.
+  Q_INVOKABLE double displayPosition() const;
+  // Milliseconds until the shown position next reaches a whole second; -1 while it stands still.
+  Q_INVOKABLE int millisecondsToNextSecond() const;
+  Q_INVOKABLE QString elapsedText(double seconds) const;
+  Q_INVOKABLE QString remainingText(double seconds) const;
+  // The knob follows a drag; letting go sends the seek.
+  Q_INVOKABLE void drag(double seconds);
+  Q_INVOKABLE void commitDrag();
+
   Q_INVOKABLE void togglePlayPause();
   Q_INVOKABLE void next();
   Q_INVOKABLE void previous();
@@ -78,8 +91,12 @@ class NowPlayingViewModel : public QObject {
     return snapshot_ && snapshot_->capabilities.contains(capability);
   }
 
+  std::optional<double> reportedPosition() const;
+
   Send send_;
+  Clock now_;
   std::optional<NowPlayingSnapshot> snapshot_;
+  ScrubState scrub_;
 };
 
 }  // namespace tindra

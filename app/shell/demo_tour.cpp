@@ -11,6 +11,8 @@
 #include "activity_center.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
+#include "providers/now_playing_view_model.h"
+#include "providers/provider.h"
 #include "tindra_app.h"
 
 namespace tindra {
@@ -60,24 +62,34 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
                                   : window.topLeft() + QPoint(window.width() / 2, 400);
     QCursor::setPos(notch->screen(), target);
   };
+  const auto media = [this]() -> NowPlayingViewModel* {
+    Provider* provider = app_.provider(QStringLiteral("media"));
+    return provider ? qobject_cast<NowPlayingViewModel*>(provider->viewModel()) : nullptr;
+  };
   steps_ = {
       {0,
        [this, pointerTo] {
          showBackdrops();
          pointerTo(false);
        }},
-      {700, [this] { shoot(QStringLiteral("1-closed-idle.png")); }},
-      {0, [&activities] { activities.offer(ActivityEvent::began(ActivityKind::nowPlaying)); }},
-      {600, [this] { shoot(QStringLiteral("2-closed-now-playing.png")); }},
+      // The fake player is already playing its invented track.
+      {700, [this] { shoot(QStringLiteral("1-closed-now-playing.png")); }},
+      // No indicator provider yet: the level is offered as it will be.
       {0, [&activities] { activities.offer(ActivityEvent::began(ActivityKind::hud, 1.5)); }},
-      {500, [this] { shoot(QStringLiteral("3-closed-level.png")); }},
+      {500, [this] { shoot(QStringLiteral("2-closed-level.png")); }},
       // The level lapses after 1.5 s and the playing track comes back on its own.
-      {1500, [this] { shoot(QStringLiteral("4-closed-after-level.png")); }},
+      {1500, [this] { shoot(QStringLiteral("3-closed-after-level.png")); }},
       {0, [pointerTo] { pointerTo(true); }},
-      {900, [this] { shoot(QStringLiteral("5-opened.png")); }},
+      {900, [this] { shoot(QStringLiteral("4-opened.png")); }},
+      {0,
+       [media] {
+         if (NowPlayingViewModel* model = media()) model->togglePlayPause();
+       }},
+      {400, [this] { shoot(QStringLiteral("5-opened-paused.png")); }},
       {0, [pointerTo] { pointerTo(false); }},
-      {900, [&activities] { activities.reset(); }},
-      {600, [this] { shoot(QStringLiteral("6-closed-after-reset.png")); }},
+      {900, [this] { shoot(QStringLiteral("6-closed-paused.png")); }},
+      {0, [&activities] { activities.reset(); }},
+      {600, [this] { shoot(QStringLiteral("7-closed-after-reset.png")); }},
   };
 }
 

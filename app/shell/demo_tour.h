@@ -1,7 +1,8 @@
-// DemoTour: a short scripted tour through the real ActivityCenter and notch windows (a playing
-// track, a level indicator that lapses back to it, the pointer resting on the notch to open it,
-// and leaving again), with a desktop backdrop behind the notch and screenshots of the closed and
-// opened notch written to a folder. Emits `finished` with the paths of the pictures.
+// DemoTour: a short scripted tour through the real providers, views and notch windows, fed by the
+// fake backends (an invented track playing, a battery at 76 %): the track on the closed notch, a
+// level indicator that lapses back to it, the pointer resting on the notch to open the panel,
+// the track paused from its button, and leaving again. A desktop backdrop stands behind the
+// notch; screenshots of each step go to a folder. Emits `finished` with the paths of the pictures.
 #pragma once
 
 #include <QDir>

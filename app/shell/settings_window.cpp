@@ -55,6 +55,10 @@ SettingsWindow::SettingsWindow(SettingsStore& settings, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(&search_);
   layout->addWidget(scroll);
+  problem_.setStyleSheet(QStringLiteral("color: #d70015"));
+  problem_.setWordWrap(true);
+  problem_.hide();
+  layout->addWidget(&problem_);
 
   observation_ =
       settings_.observe(std::move(names), [this](std::string_view name) { refresh(name); });
@@ -73,7 +77,7 @@ void SettingsWindow::addRow(QGridLayout& grid, int line,
   reset->setText(tr("Reset"));
   reset->setToolTip(tr("Use the default value"));
   const std::string name(key.name);
-  connect(reset, &QToolButton::clicked, this, [this, name] { (void)settings_.resetStored(name); });
+  connect(reset, &QToolButton::clicked, this, [this, name] { this->reset(name); });
   row.reset = reset;
   grid.addWidget(row.label, line, 0);
   grid.addWidget(row.editor, line, 1);
@@ -137,7 +141,7 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
       const bool optional = key.type == Type::optionalString;
       connect(edit, &QLineEdit::editingFinished, this, [this, edit, name, optional] {
         if (optional && edit->text().isEmpty()) {
-          (void)settings_.resetStored(name);
+          reset(name);
         } else {
           write(name, edit->text().toStdString());
         }
@@ -174,7 +178,22 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
 void SettingsWindow::write(std::string_view name, JSONValue value) {
   const JSONValue* stored = settings_.stored(name);
   if (stored != nullptr && *stored == value) return;
-  (void)settings_.writeStored(name, std::move(value));
+  report(settings_.writeStored(name, std::move(value)));
+}
+
+void SettingsWindow::reset(const std::string& name) {
+  report(settings_.resetStored(name));
+}
+
+void SettingsWindow::report(const SettingsStore::WriteResult& result) {
+  if (result) {
+    problem_.clear();
+    problem_.hide();
+    return;
+  }
+  problem_.setText(tr("The change was not saved: %1")
+                       .arg(QString::fromStdString(result.error().message(settings_.file()))));
+  problem_.show();
 }
 
 void SettingsWindow::refresh(std::string_view name) {

@@ -1,8 +1,10 @@
 // SettingsWindow: every preference Tindra keeps, listed from the key descriptions with an editor
 // that fits its type, a search field, and a reset per key. Edits are written through the store at
-// once; changes from elsewhere (another process, the program itself) show up as they happen.
+// once; changes from elsewhere (another process, the program itself) show up as they happen. A
+// write that fails is said below the list, with the reason, until a later one succeeds.
 #pragma once
 
+#include <QLabel>
 #include <QLineEdit>
 #include <QWidget>
 #include <functional>
@@ -24,6 +26,8 @@ class SettingsWindow : public QWidget {
 
   // The editor of the key called `name` (for tests), or nullptr.
   QWidget* editorFor(std::string_view name) const;
+  // The line that reports a failed write; empty while all is well.
+  QString problem() const { return problem_.text(); }
 
  private:
   struct Row {
@@ -38,10 +42,13 @@ class SettingsWindow : public QWidget {
   void refresh(std::string_view name);
   void filter(const QString& text);
   void write(std::string_view name, JSONValue value);
+  void reset(const std::string& name);
+  void report(const SettingsStore::WriteResult& result);
 
   SettingsStore& settings_;
   SettingsObservation observation_;
   QLineEdit search_;
+  QLabel problem_;
   std::map<std::string, Row, std::less<>> rows_;
 };
 

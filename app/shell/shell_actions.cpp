@@ -6,20 +6,32 @@
 
 namespace tindra {
 
-ShellActions::ShellActions(SettingsStore& settings, QObject* parent)
+ShellActions::ShellActions(SettingsStore& settings, DiagnosticsLog& diagnostics, QObject* parent)
     : QObject(parent),
       settings_(settings),
+      diagnostics_(diagnostics),
       settingsAction_(tr("Settings…")),
+      diagnosticsAction_(tr("Diagnostics…")),
       quitAction_(tr("Quit Tindra")) {
   connect(&settingsAction_, &QAction::triggered, this, &ShellActions::openSettings);
+  connect(&diagnosticsAction_, &QAction::triggered, this, &ShellActions::openDiagnostics);
   connect(&quitAction_, &QAction::triggered, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
   menu_.addAction(&settingsAction_);
+  menu_.addAction(&diagnosticsAction_);
   menu_.addSeparator();
   menu_.addAction(&quitAction_);
 }
 
 ShellActions::~ShellActions() {
   delete settingsWindow_;
+  delete diagnosticsWindow_;
+}
+
+void ShellActions::openDiagnostics() {
+  if (diagnosticsWindow_ == nullptr) diagnosticsWindow_ = new DiagnosticsWindow(diagnostics_);
+  diagnosticsWindow_->show();
+  diagnosticsWindow_->raise();
+  diagnosticsWindow_->activateWindow();
 }
 
 void ShellActions::openSettings() {

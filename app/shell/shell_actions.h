@@ -1,5 +1,5 @@
-// ShellActions: what the user can always do with Tindra (open Settings…, quit), shared by the
-// tray item's menu and the notch's own context menu.
+// ShellActions: what the user can always do with Tindra (open Settings… or Diagnostics…, quit),
+// shared by the tray item's menu and the notch's own context menu.
 #pragma once
 
 #include <QAction>
@@ -7,34 +7,42 @@
 #include <QObject>
 #include <QPointer>
 
+#include "shell/diagnostics_window.h"
 #include "shell/settings_window.h"
 
 namespace tindra {
 
+class DiagnosticsLog;
 class SettingsStore;
 
 class ShellActions : public QObject {
   Q_OBJECT
 
  public:
-  explicit ShellActions(SettingsStore& settings, QObject* parent = nullptr);
+  ShellActions(SettingsStore& settings, DiagnosticsLog& diagnostics, QObject* parent = nullptr);
   ~ShellActions() override;
 
-  // A menu with Settings… and Quit; the tray and the notch each own one.
+  // A menu with Settings…, Diagnostics… and Quit; the tray and the notch share it.
   QMenu* menu() { return &menu_; }
   QAction* settingsAction() { return &settingsAction_; }
+  QAction* diagnosticsAction() { return &diagnosticsAction_; }
   QAction* quitAction() { return &quitAction_; }
 
   // Shows the Settings window, making it on first use.
   void openSettings();
   SettingsWindow* settingsWindow() const { return settingsWindow_; }
+  void openDiagnostics();
+  DiagnosticsWindow* diagnosticsWindow() const { return diagnosticsWindow_; }
 
  private:
   SettingsStore& settings_;
+  DiagnosticsLog& diagnostics_;
   QAction settingsAction_;
+  QAction diagnosticsAction_;
   QAction quitAction_;
   QMenu menu_;
   QPointer<SettingsWindow> settingsWindow_;
+  QPointer<DiagnosticsWindow> diagnosticsWindow_;
 };
 
 }  // namespace tindra

@@ -7,6 +7,7 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
+#include <QFile>
 #include <QLineEdit>
 #include <QTemporaryDir>
 #include <QTest>
@@ -69,7 +70,14 @@ TEST(TrayUnavailableTest, SettingsAndQuitStayReachableFromTheNotch) {
   for (QAction* action : menu->actions()) {
     if (!action->isSeparator()) labels << action->text();
   }
-  EXPECT_EQ(labels, (QStringList{QStringLiteral("Settings…"), QStringLiteral("Quit Tindra")}));
+  EXPECT_EQ(labels, (QStringList{QStringLiteral("Settings…"), QStringLiteral("Diagnostics…"),
+                                 QStringLiteral("Quit Tindra")}));
+
+  // Every provider's start-up check is there; this session has no system bus for UPower.
+  app.shell().diagnosticsAction()->trigger();
+  ASSERT_NE(app.shell().diagnosticsWindow(), nullptr);
+  EXPECT_TRUE(app.shell().diagnosticsWindow()->text().contains(QStringLiteral("no system bus")));
+  EXPECT_TRUE(app.shell().diagnosticsWindow()->text().contains(QStringLiteral("media")));
 
   app.shell().settingsAction()->trigger();
   ASSERT_NE(app.shell().settingsWindow(), nullptr);
@@ -116,6 +124,24 @@ TEST_F(SettingsWindowTest, EditsGoThroughTheStoreAndOutsideChangesShow) {
   pinned->setText(QStringLiteral("[\"weather\", \"battery\"]"));
   emit pinned->editingFinished();
   EXPECT_EQ(store_.read(settings::pinnedWidgets), (std::vector<std::string>{"weather", "battery"}));
+}
+
+TEST(SettingsWindowFailureTest, AFailedWriteIsSaidUntilAWriteSucceeds) {
+  QTemporaryDir dir;
+  // The settings folder cannot be made while a file stands where it should be.
+  const QString blocker = dir.filePath("tindra");
+  QFile(blocker).open(QIODevice::WriteOnly);
+  SettingsStore store(std::filesystem::path(blocker.toStdString()) / "settings.json",
+                      [] { return 0.0; });
+  SettingsWindow window(store);
+  EXPECT_TRUE(window.problem().isEmpty());
+  qobject_cast<QCheckBox*>(window.editorFor(settings::playSounds.name))->click();
+  EXPECT_TRUE(window.problem().contains(QStringLiteral("not saved")))
+      << window.problem().toStdString();
+
+  QFile::remove(blocker);
+  qobject_cast<QCheckBox*>(window.editorFor(settings::playSounds.name))->click();
+  EXPECT_TRUE(window.problem().isEmpty());
 }
 
 }  // namespace

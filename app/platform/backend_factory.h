@@ -1,0 +1,22 @@
+// The one place where each provider's backend is chosen: the fake one when TINDRA_FAKE names the
+// provider, else the platform's real one, else a do-nothing one that says why it is there.
+#pragma once
+
+#include <memory>
+
+#include "platform/adapter_probe.h"
+#include "platform/battery_backend.h"
+#include "providers/now_playing_provider.h"
+
+namespace tindra {
+
+std::unique_ptr<BatteryBackend> makeBatteryBackend();
+
+// The now-playing source to make and the self-test to run first (none for the fake).
+struct NowPlayingBackend {
+  NowPlayingProvider::SourceFactory makeSource;
+  std::unique_ptr<AdapterProbe> probe;
+};
+NowPlayingBackend makeNowPlayingBackend();
+
+}  // namespace tindra

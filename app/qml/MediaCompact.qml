@@ -1,0 +1,43 @@
+import QtQuick
+
+// The playing track on the closed notch: its cover on the left ear and whether it plays on the
+// right one. The bars stand still: they show the state, not the sound.
+Item {
+    id: root
+
+    property var model
+
+    MediaCover {
+        anchors.left: parent.left
+        anchors.leftMargin: 12
+        anchors.verticalCenter: parent.verticalCenter
+        size: Math.min(22, parent.height - 8)
+    }
+    Row {
+        anchors.right: parent.right
+        anchors.rightMargin: 14
+        anchors.verticalCenter: parent.verticalCenter
+        spacing: 2
+        visible: root.model !== undefined && root.model.playing
+        Repeater {
+            model: [0.55, 1.0, 0.7, 0.4]
+            delegate: Rectangle {
+                required property real modelData
+                anchors.verticalCenter: parent.verticalCenter
+                width: 3
+                height: 12 * modelData
+                radius: 1.5
+                color: "#ff375f"
+            }
+        }
+    }
+    Text {
+        anchors.right: parent.right
+        anchors.rightMargin: 14
+        anchors.verticalCenter: parent.verticalCenter
+        visible: root.model !== undefined && !root.model.playing
+        text: "\u275a\u275a"
+        color: "#a1a1a6"
+        font.pixelSize: 9
+    }
+}

@@ -1,0 +1,75 @@
+#include "views/notch_content.h"
+
+#include "activity_center.h"
+#include "notch/activity_presentation.h"
+#include "settings/settings_keys.h"
+
+namespace tindra {
+
+NotchContent::NotchContent(ActivityCenter& activities, SettingsStore& settings,
+                           const ViewRegistry& views, QObject* parent)
+    : QObject(parent), activities_(activities), settings_(settings), views_(views) {
+  connect(&activities_, &ActivityCenter::currentChanged, this, &NotchContent::activityChanged);
+  pinnedObservation_ = settings_.observe({std::string(settings::pinnedWidgets.name)},
+                                         [this](std::string_view) { refresh(); });
+  refresh();
+}
+
+QString NotchContent::activityLabel() const {
+  return ActivityPresentation::of(activities_.current()).label;
+}
+
+QColor NotchContent::activityAccent() const {
+  return ActivityPresentation::of(activities_.current()).accent;
+}
+
+QUrl NotchContent::compactSource() const {
+  const auto view = ViewRegistry::compact(activities_.current());
+  return view && views_.model(view->provider) ? view->source : QUrl();
+}
+
+QObject* NotchContent::compactModel() const {
+  const auto view = ViewRegistry::compact(activities_.current());
+  return view ? views_.model(view->provider) : nullptr;
+}
+
+QStringList NotchContent::shownSections(const std::vector<std::string>& pinned) {
+  QStringList shown;
+  for (const std::string& name : pinned) {
+    const QString candidate = QString::fromStdString(name);
+    const bool known = std::ranges::any_of(
+        ViewRegistry::sections(), [&](const auto& section) { return section.name == candidate; });
+    if (known && !shown.contains(candidate)) shown << candidate;
+  }
+  if (!shown.isEmpty()) return shown;
+  for (const ViewRegistry::Section& section : ViewRegistry::sections()) shown << section.name;
+  return shown;
+}
+
+void NotchContent::refresh() {
+  const std::vector<std::string> pinned = settings_.read(settings::pinnedWidgets);
+  QVariantList sections;
+  for (const QString& name : shownSections(pinned)) {
+    const auto section =
+        std::ranges::find(ViewRegistry::sections(), name, &ViewRegistry::Section::name);
+    QObject* model = views_.model(section->view.provider);
+    if (!model) continue;
+    // A pinned section keeps its place even while it has nothing to show.
+    sections << QVariantMap{{"name", name},
+                            {"source", section->view.source},
+                            {"model", QVariant::fromValue(model)},
+                            {"pinned", !pinned.empty()}};
+  }
+  QVariantList idleItems;
+  for (const ViewRegistry::View& item : ViewRegistry::idleItems()) {
+    QObject* model = views_.model(item.provider);
+    if (model)
+      idleItems << QVariantMap{{"source", item.source}, {"model", QVariant::fromValue(model)}};
+  }
+  if (sections == sections_ && idleItems == idleItems_) return;
+  sections_ = sections;
+  idleItems_ = idleItems;
+  emit sectionsChanged();
+}
+
+}  // namespace tindra

@@ -1,0 +1,81 @@
+#include "views/notch_content.h"
+
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include "activity_center.h"
+#include "settings/settings_keys.h"
+
+namespace tindra {
+namespace {
+
+class NotchContentTest : public ::testing::Test {
+ protected:
+  QStringList sectionNames() const {
+    QStringList names;
+    for (const QVariant& section : content_.sections()) names << section.toMap()["name"].toString();
+    return names;
+  }
+
+  QTemporaryDir dir_;
+  SettingsStore store_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
+  ActivityCenter activities_{store_};
+  ViewRegistry views_;
+  QObject media_;
+  QObject battery_;
+  NotchContent content_{activities_, store_, views_};
+};
+
+TEST_F(NotchContentTest, PinnedSectionsComeInTheirOrderAndUnknownNamesAreSkipped) {
+  EXPECT_EQ(NotchContent::shownSections({}), (QStringList{"media", "batteries"}));
+  EXPECT_EQ(NotchContent::shownSections({"batteries", "weather?", "media", "batteries"}),
+            (QStringList{"batteries", "media"}));
+  EXPECT_EQ(NotchContent::shownSections({"nonsense"}), (QStringList{"media", "batteries"}));
+
+  // Only sections whose provider runs are drawn.
+  EXPECT_TRUE(content_.sections().isEmpty());
+  views_.setModel("media", &media_);
+  views_.setModel("battery", &battery_);
+  QSignalSpy changes(&content_, &NotchContent::sectionsChanged);
+  content_.refresh();
+  EXPECT_EQ(sectionNames(), (QStringList{"media", "batteries"}));
+  EXPECT_FALSE(content_.sections().front().toMap()["pinned"].toBool());
+  EXPECT_EQ(content_.idleItems().size(), 1);
+
+  ASSERT_TRUE(store_.write(settings::pinnedWidgets, {"batteries", "fileTray", "calendar"}));
+  EXPECT_EQ(sectionNames(), (QStringList{"batteries"}));
+  EXPECT_TRUE(content_.sections().front().toMap()["pinned"].toBool());
+  EXPECT_EQ(changes.count(), 2);
+}
+
+TEST_F(NotchContentTest, TheCompactViewFollowsTheActivityWhenItsProviderRuns) {
+  activities_.offer(ActivityEvent::began(ActivityKind::nowPlaying));
+  EXPECT_TRUE(content_.compactSource().isEmpty());  // no media provider: the name is shown
+  EXPECT_EQ(content_.activityLabel(), "Now Playing");
+  views_.setModel("media", &media_);
+  EXPECT_TRUE(content_.compactSource().toString().endsWith("MediaCompact.qml"));
+  EXPECT_EQ(content_.compactModel(), &media_);
+  activities_.offer(ActivityEvent::began(ActivityKind::hud, 5));
+  EXPECT_TRUE(content_.compactSource().isEmpty());
+  EXPECT_EQ(content_.activityLabel(), "Level");
+}
+
+TEST(IdleClockTest, RunsOnlyWhileHeldAndWakesAtTheNextMinute) {
+  QDateTime now(QDate(2026, 11, 24), QTime(22, 41, 59, 500));
+  IdleClock clock([&now] { return now; });
+  EXPECT_EQ(clock.pendingWakeMilliseconds(), -1);
+  clock.hold();
+  clock.hold();
+  EXPECT_EQ(clock.pendingWakeMilliseconds(), 550);
+  clock.release();
+  EXPECT_TRUE(clock.isRunning());
+  clock.release();
+  clock.release();  // one too many changes nothing
+  EXPECT_EQ(clock.pendingWakeMilliseconds(), -1);
+  EXPECT_TRUE(clock.dateText().contains("24"));
+}
+
+}  // namespace
+}  // namespace tindra

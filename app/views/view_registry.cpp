@@ -1,0 +1,44 @@
+#include "views/view_registry.h"
+
+namespace tindra {
+
+namespace {
+
+QUrl view(const char* file) {
+  return QUrl(QStringLiteral("qrc:/Tindra/qml/") + QLatin1String(file));
+}
+
+}  // namespace
+
+const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
+  // The calendar, weather and file tray sections join here as their providers arrive.
+  static const std::vector<Section> all{
+      {QStringLiteral("media"), {QStringLiteral("media"), view("MediaPanel.qml")}},
+      {QStringLiteral("batteries"), {QStringLiteral("battery"), view("BatteriesPanel.qml")}},
+  };
+  return all;
+}
+
+const std::vector<ViewRegistry::View>& ViewRegistry::idleItems() {
+  static const std::vector<View> all{{QStringLiteral("battery"), view("BatteryIdleItem.qml")}};
+  return all;
+}
+
+std::optional<ViewRegistry::View> ViewRegistry::compact(ActivityKind kind) {
+  switch (kind) {
+    case ActivityKind::nowPlaying:
+      return View{QStringLiteral("media"), view("MediaCompact.qml")};
+    default:
+      return std::nullopt;
+  }
+}
+
+void ViewRegistry::setModel(const QString& provider, QObject* model) {
+  models_[provider] = model;
+}
+
+QObject* ViewRegistry::model(const QString& provider) const {
+  return models_.value(provider).data();
+}
+
+}  // namespace tindra

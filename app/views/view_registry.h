@@ -1,0 +1,45 @@
+// ViewRegistry: which QML views draw what, written once: the compact view (the two ears while
+// closed) of each activity kind, the section of the opened panel of each subsystem, and the
+// small items of the idle layout. Each view binds to one provider's view model, which TindraApp
+// hands in by provider name; a view whose provider is not running is not drawn.
+#pragma once
+
+#include <QHash>
+#include <QObject>
+#include <QPointer>
+#include <QString>
+#include <QUrl>
+#include <optional>
+#include <vector>
+
+#include "activity/activity_kind.h"
+
+namespace tindra {
+
+class ViewRegistry {
+ public:
+  struct View {
+    QString provider;  // whose view model the view binds to
+    QUrl source;
+  };
+  struct Section {
+    QString name;  // as listed in `pinnedWidgets`: "media", "batteries", ...
+    View view;
+  };
+
+  // Every panel section in the panel's default order.
+  static const std::vector<Section>& sections();
+  // The idle layout's small items, in order.
+  static const std::vector<View>& idleItems();
+  // The compact view of `kind`, if a provider draws its own.
+  static std::optional<View> compact(ActivityKind kind);
+
+  void setModel(const QString& provider, QObject* model);
+  // The provider's view model; null when it does not run.
+  QObject* model(const QString& provider) const;
+
+ private:
+  QHash<QString, QPointer<QObject>> models_;
+};
+
+}  // namespace tindra
