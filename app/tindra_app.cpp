@@ -38,11 +38,11 @@ TindraApp::TindraApp(Options options, QObject* parent)
       screens_(makePlatformScreenSource()) {
   startProviders();
   content_ = std::make_unique<NotchContent>(*activities_, *settings_, views_);
-  notches_ = std::make_unique<NotchScreenManager>(
-      *screens_, *settings_, *activities_, *content_, [this](NotchWindow& window) {
-        window.setAnimated(options_.animated);
-        window.setContextMenu(tray_->isShown() ? nullptr : shell_->menu());
-      });
+  notches_ = std::make_unique<NotchScreenManager>(*screens_, *settings_, *activities_, *content_,
+                                                  [this](NotchWindow& window) {
+                                                    window.setAnimated(options_.animated);
+                                                    window.setContextMenu(notchMenu());
+                                                  });
   connect(tray_.get(), &TrayItem::shownChanged, this, &TindraApp::offerMenuOnNotches);
 }
 
@@ -67,9 +67,14 @@ Provider* TindraApp::provider(const QString& name) const {
   return nullptr;
 }
 
+QMenu* TindraApp::notchMenu() const {
+  // The shell menu belongs to the tray item; the notch offers it only where no tray shows it.
+  return tray_->isShown() ? nullptr : shell_->menu();
+}
+
 void TindraApp::offerMenuOnNotches() {
   for (NotchWindow* window : notches_->windows()) {
-    window->setContextMenu(tray_->isShown() ? nullptr : shell_->menu());
+    window->setContextMenu(notchMenu());
   }
 }
 

@@ -4,6 +4,7 @@
 // shell menu on a right click.
 #pragma once
 
+#include <QMenu>
 #include <QObject>
 #include <memory>
 #include <vector>
@@ -44,6 +45,7 @@ class TindraApp : public QObject {
   TrayItem& tray() { return *tray_; }
 
  private:
+  QMenu* notchMenu() const;
   void offerMenuOnNotches();
   void startProviders();
 

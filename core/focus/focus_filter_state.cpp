@@ -87,9 +87,9 @@ std::string FocusFilterState::normalizedName(std::string_view name) {
   const std::string joined = lineBreaksAsSpaces(name);
   const icu::UnicodeString text = icu::UnicodeString::fromUTF8(
       icu::StringPiece(joined.data(), static_cast<int32_t>(joined.size())));
-  const icu::UnicodeString cut = firstGraphemes(trimmedWhiteSpace(text), maxNameLength);
+  // Trimmed first, then cut: a space that lands at the end of the forty stays.
   std::string result;
-  trimmedWhiteSpace(cut).toUTF8String(result);
+  firstGraphemes(trimmedWhiteSpace(text), maxNameLength).toUTF8String(result);
   return result;
 }
 

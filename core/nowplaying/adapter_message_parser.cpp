@@ -13,7 +13,7 @@
 namespace tindra {
 namespace {
 
-constexpr double maxSeconds = 604'800;  // seven days
+constexpr double maxSeconds = NowPlayingSnapshot::maxSeconds;
 constexpr double microsPerSecond = 1'000'000;
 constexpr std::size_t keptBufferCapacity = 1 << 20;
 

@@ -12,7 +12,7 @@
 namespace tindra {
 namespace {
 
-constexpr double maxSeconds = 604'800;  // seven days: anything longer is a player's garbage
+constexpr double maxSeconds = NowPlayingSnapshot::maxSeconds;
 constexpr char fieldSeparator = '\x1f';
 
 constexpr std::string_view handlers = R"(on textOf(value)

@@ -2,6 +2,8 @@
 
 #include <string_view>
 
+#include "base/hash_combine.h"
+
 namespace tindra {
 
 std::optional<ArtworkCacheKey> ArtworkCacheKey::forSnapshot(const NowPlayingSnapshot& snapshot) {
@@ -16,9 +18,8 @@ std::optional<ArtworkCacheKey> ArtworkCacheKey::forSnapshot(const NowPlayingSnap
 std::size_t hashValue(const ArtworkCacheKey& key) {
   const std::hash<std::string_view> hash;
   std::size_t seed = static_cast<std::size_t>(key.kind);
-  // Boost's mixing step keeps ("ab", "c") and ("a", "bc") apart.
   for (std::string_view text : {std::string_view(key.artist), std::string_view(key.name)}) {
-    seed ^= hash(text) + 0x9e3779b97f4a7c15ULL + (seed << 6) + (seed >> 2);
+    hashCombine(seed, hash(text));
   }
   return seed;
 }

@@ -17,6 +17,9 @@
 namespace tindra {
 
 struct NowPlayingSnapshot {
+  // Seven days: the longest duration or position any source may report; longer is garbage.
+  static constexpr double maxSeconds = 604'800;
+
   // Cover art as the source delivered it. Embedded bytes are shared and immutable, so copying a
   // snapshot never copies a cover; equality still compares the bytes.
   struct Artwork {
