@@ -21,9 +21,9 @@ constexpr double kNow = 1652909400;  // 2022-05-18T21:30:00Z
 
 const std::string& completeDocument() {
   static const std::string text = [] {
-    // The build passes absolute source paths, so the fixture is found beside this file's folder.
-    const std::filesystem::path here = std::filesystem::path(__FILE__).parent_path();
-    std::ifstream file(here / "../core/weather/testdata/met-complete-2022-05-18.json");
+    // The build names the source folder: __FILE__ may be relative (ccache with a base_dir).
+    std::ifstream file(std::filesystem::path(TINDRA_SOURCE_DIR) /
+                       "core/weather/testdata/met-complete-2022-05-18.json");
     std::ostringstream bytes;
     bytes << file.rdbuf();
     if (bytes.str().empty()) {
