@@ -1,5 +1,7 @@
 #include "base/json_reader.h"
 
+#include <deque>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -298,6 +300,10 @@ class Parser {
       ++p_;
       return true;
     }
+    // Members collect in a buffer kept for this depth and thread, so that building the object
+    // costs one allocation of the right size.
+    JSONValue::Object::Members& arrived = scratch(depth);
+    arrived.clear();
     std::string nameHeldAside;
     for (bool more = true; more; more = continueOrClose('}')) {
       if (p_ == end_) return stop(Code::unexpectedEnd, p_);
@@ -314,27 +320,23 @@ class Parser {
         name = nameHeldAside;
       }
       parseValue(depth + 1, [&](auto&& value) {
-        addMember(members, name, std::forward<decltype(value)>(value));
+        arrived.emplace_back(std::piecewise_construct, std::forward_as_tuple(name),
+                             std::forward_as_tuple(std::forward<decltype(value)>(value)));
       });
       if (failed_) return false;
     }
+    members.adopt(arrived);  // a repeated name: the last one wins
+    arrived.clear();
+    // A huge object should not keep its buffer's memory for the rest of the thread's life.
+    if (arrived.capacity() > 4096) JSONValue::Object::Members().swap(arrived);
     return !failed_;
   }
 
-  // A repeated name replaces the earlier member: the last one wins, as in most readers. Senders
-  // often write names in order, and then the member simply goes at the end.
-  template <class Value>
-  static void addMember(JSONValue::Object& members, std::string_view name, Value&& value) {
-    auto position = members.end();
-    if (!members.empty() && !JSONNameOrder()(members.rbegin()->first, name)) {
-      position = members.lower_bound(name);
-      if (position != members.end() && position->first == name) {
-        position->second = JSONValue(std::forward<Value>(value));
-        return;
-      }
-    }
-    members.emplace_hint(position, std::piecewise_construct, std::forward_as_tuple(name),
-                         std::forward_as_tuple(std::forward<Value>(value)));
+  static JSONValue::Object::Members& scratch(std::size_t depth) {
+    // A deque: deeper levels may be added while a shallower buffer is in use.
+    thread_local std::deque<JSONValue::Object::Members> buffers;
+    while (buffers.size() <= depth) buffers.emplace_back();
+    return buffers[depth];
   }
 
   // Reads four hex digits after the "\u" at `escape`.

@@ -185,8 +185,10 @@ AdapterMessageParser::Result AdapterMessageParser::accept(AdapterEnvelope& envel
 }
 
 void AdapterMessageParser::merge(AdapterEnvelope& envelope) {
-  // A diff on top of known fields updates them as it goes; anything else walks the state once.
-  const bool follow = envelope.diff && scratch_.fieldsKnown;
+  // A diff on top of known fields updates them in place as it goes. Adding or removing a member
+  // moves the others (the state is a flat vector), so from then on, and for anything else, the
+  // fields are found again once at the end.
+  bool follow = envelope.diff && scratch_.fieldsKnown;
   if (!envelope.diff) state_.clear();
   for (auto& [name, value] : envelope.payload) {
     if (JSONValue* known = follow && !value.isNull() ? scratch_.fields.find(name) : nullptr) {
@@ -196,11 +198,11 @@ void AdapterMessageParser::merge(AdapterEnvelope& envelope) {
     auto existing = state_.find(name);
     if (existing == state_.end()) {
       if (envelope.diff && value.isNull()) continue;
-      existing = state_.emplace(std::string(name), std::move(value)).first;
-      if (follow) scratch_.fields.update(name, &existing->second);
+      state_.emplace(name, std::move(value));
+      follow = false;
     } else if (envelope.diff && value.isNull()) {
-      if (follow) scratch_.fields.update(name, nullptr);
       state_.erase(existing);
+      follow = false;
     } else {
       existing->second = std::move(value);
     }
