@@ -35,7 +35,7 @@ void ActivityCenter::reset() {
 }
 
 NoticeDurationScale ActivityCenter::noticeScale() const {
-  return noticeDurationScaleFromRaw(settings_.read(settings::noticeDurationScale))
+  return enumFromRaw<NoticeDurationScale>(settings_.read(settings::noticeDurationScale))
       .value_or(NoticeDurationScale::medium);
 }
 

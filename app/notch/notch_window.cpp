@@ -101,7 +101,7 @@ void NotchWindow::readTiming() {
   NotchHoverStateMachine::Timing timing;
   timing.openDelay = settings_.read(settings::hoverOpenDelay);
   timing.holdDuration = settings_.read(settings::holdOpenDuration);
-  timing.openingMode = notchOpeningModeFromRaw(settings_.read(settings::notchOpeningMode))
+  timing.openingMode = enumFromRaw<NotchOpeningMode>(settings_.read(settings::notchOpeningMode))
                            .value_or(NotchOpeningMode::hover);
   machine_.setTiming(timing);
 }

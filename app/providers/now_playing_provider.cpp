@@ -21,12 +21,12 @@ NowPlayingProvider::NowPlayingProvider(ProviderContext context, SourceFactory ma
 NowPlayingProvider::~NowPlayingProvider() = default;
 
 NowPlayingSourceMode NowPlayingProvider::sourceMode() const {
-  return nowPlayingSourceModeFromRaw(settings().read(settings::nowPlayingSourceMode))
+  return enumFromRaw<NowPlayingSourceMode>(settings().read(settings::nowPlayingSourceMode))
       .value_or(NowPlayingSourceMode::automatic);
 }
 
 NowPlayingPausedLinger NowPlayingProvider::pausedLinger() const {
-  return nowPlayingPausedLingerFromRaw(settings().read(settings::nowPlayingPausedLinger))
+  return enumFromRaw<NowPlayingPausedLinger>(settings().read(settings::nowPlayingPausedLinger))
       .value_or(defaultNowPlayingPausedLinger);
 }
 

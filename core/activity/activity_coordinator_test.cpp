@@ -118,11 +118,11 @@ TEST(ActivityEvent, ScalingAppliesToPositiveNoticeDurationsOnly) {
 }
 
 TEST(NoticeDurationScale, RawValuesRoundTripAndUnknownIsNone) {
-  for (NoticeDurationScale s : allNoticeDurationScales) {
-    EXPECT_EQ(noticeDurationScaleFromRaw(rawValue(s)), s);
+  for (NoticeDurationScale s : allCases<NoticeDurationScale>()) {
+    EXPECT_EQ(enumFromRaw<NoticeDurationScale>(rawValue(s)), s);
   }
-  EXPECT_EQ(noticeDurationScaleFromRaw("Short"), std::nullopt);
-  EXPECT_EQ(noticeDurationScaleFromRaw(""), std::nullopt);
+  EXPECT_EQ(enumFromRaw<NoticeDurationScale>("Short"), std::nullopt);
+  EXPECT_EQ(enumFromRaw<NoticeDurationScale>(""), std::nullopt);
 }
 
 TEST(ActivityKind, RawValuesAreThePriorities) {

@@ -3,11 +3,17 @@
 
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class NotchHideReason { fullScreen, missionControl, game };
 
-// The case name, for logs and diagnostics ("missionControl").
-std::string_view name(NotchHideReason reason);
+template <>
+struct EnumTable<NotchHideReason> {
+  static constexpr std::array cases{EnumCase{NotchHideReason::fullScreen, "fullScreen"},
+                                    EnumCase{NotchHideReason::missionControl, "missionControl"},
+                                    EnumCase{NotchHideReason::game, "game"}};
+};
 
 }  // namespace tindra

@@ -112,7 +112,7 @@ TEST(NotchHoverStateMachine, ClickModeOpensOnlyThroughOpen) {
 }
 
 TEST(NotchHoverStateMachine, FileDragOpensAfterTheOpenDelayInEveryMode) {
-  for (Mode mode : allNotchOpeningModes) {
+  for (Mode mode : allCases<NotchOpeningMode>()) {
     for (bool dismissed : {false, true}) {
       SCOPED_TRACE(std::string(rawValue(mode)) + (dismissed ? " dismissed" : ""));
       auto m = machine(mode);

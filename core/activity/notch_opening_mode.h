@@ -6,15 +6,17 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class NotchOpeningMode { hover, click, pressAndHold };
 
-inline constexpr std::array<NotchOpeningMode, 3> allNotchOpeningModes{
-    NotchOpeningMode::hover, NotchOpeningMode::click, NotchOpeningMode::pressAndHold};
-
-std::string_view rawValue(NotchOpeningMode mode);
-// No value for an unknown string; the caller falls back to the setting's default.
-std::optional<NotchOpeningMode> notchOpeningModeFromRaw(std::string_view raw);
+template <>
+struct EnumTable<NotchOpeningMode> {
+  static constexpr std::array cases{EnumCase{NotchOpeningMode::hover, "hover"},
+                                    EnumCase{NotchOpeningMode::click, "click"},
+                                    EnumCase{NotchOpeningMode::pressAndHold, "pressAndHold"}};
+};
 
 }  // namespace tindra

@@ -5,25 +5,6 @@
 
 namespace tindra {
 
-std::string_view rawValue(NoticeDurationScale scale) {
-  switch (scale) {
-    case NoticeDurationScale::short_:
-      return "short";
-    case NoticeDurationScale::medium:
-      return "medium";
-    case NoticeDurationScale::long_:
-      return "long";
-  }
-  return "medium";
-}
-
-std::optional<NoticeDurationScale> noticeDurationScaleFromRaw(std::string_view raw) {
-  for (NoticeDurationScale scale : allNoticeDurationScales) {
-    if (rawValue(scale) == raw) return scale;
-  }
-  return std::nullopt;
-}
-
 double scale(NoticeDurationScale scale, double seconds) {
   if (scale == NoticeDurationScale::medium || !std::isfinite(seconds) || seconds <= 0) {
     return seconds;

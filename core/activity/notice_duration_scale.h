@@ -5,15 +5,18 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class NoticeDurationScale { short_, medium, long_ };
 
-inline constexpr std::array<NoticeDurationScale, 3> allNoticeDurationScales{
-    NoticeDurationScale::short_, NoticeDurationScale::medium, NoticeDurationScale::long_};
-
-std::string_view rawValue(NoticeDurationScale scale);
-std::optional<NoticeDurationScale> noticeDurationScaleFromRaw(std::string_view raw);
+template <>
+struct EnumTable<NoticeDurationScale> {
+  static constexpr std::array cases{EnumCase{NoticeDurationScale::short_, "short"},
+                                    EnumCase{NoticeDurationScale::medium, "medium"},
+                                    EnumCase{NoticeDurationScale::long_, "long"}};
+};
 
 // Scales a notice duration: short takes 40 % off but never below 1.5 s (and never lengthens a
 // shorter one), long adds 60 %. Medium, not-finite and non-positive durations pass unchanged.

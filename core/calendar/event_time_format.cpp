@@ -6,22 +6,6 @@
 
 namespace tindra {
 
-namespace {
-constexpr std::array<std::string_view, allEventTimeFormats.size()> rawValues{"countdown",
-                                                                             "startTime", "both"};
-}
-
-std::string_view rawValue(EventTimeFormat format) {
-  return rawValues[static_cast<std::size_t>(format)];
-}
-
-std::optional<EventTimeFormat> eventTimeFormatFromRaw(std::string_view raw) {
-  for (EventTimeFormat format : allEventTimeFormats) {
-    if (rawValue(format) == raw) return format;
-  }
-  return std::nullopt;
-}
-
 EarText earText(double interval) {
   std::int64_t minutes = wholeMinutes(std::ceil(interval / 60));
   if (minutes < 60) return EarText::minutes(minutes);

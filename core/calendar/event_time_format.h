@@ -9,17 +9,19 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
 #include "calendar/calendar_event_info.h"
 
 namespace tindra {
 
 enum class EventTimeFormat { countdown, startTime, both };
 
-inline constexpr std::array<EventTimeFormat, 3> allEventTimeFormats{
-    EventTimeFormat::countdown, EventTimeFormat::startTime, EventTimeFormat::both};
-
-std::string_view rawValue(EventTimeFormat format);
-std::optional<EventTimeFormat> eventTimeFormatFromRaw(std::string_view raw);
+template <>
+struct EnumTable<EventTimeFormat> {
+  static constexpr std::array cases{EnumCase{EventTimeFormat::countdown, "countdown"},
+                                    EnumCase{EventTimeFormat::startTime, "startTime"},
+                                    EnumCase{EventTimeFormat::both, "both"}};
+};
 
 // True for countdown and both.
 constexpr bool showsCountdown(EventTimeFormat format) {

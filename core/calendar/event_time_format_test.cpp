@@ -39,11 +39,11 @@ TEST(EventTimeFormatTest, FormatChoosesStartTimeOrCountdown) {
 }
 
 TEST(EventTimeFormatTest, RawValuesRoundTripInPickerOrder) {
-  EXPECT_EQ(rawValue(allEventTimeFormats[1]), "startTime");
-  for (EventTimeFormat format : allEventTimeFormats) {
-    EXPECT_EQ(eventTimeFormatFromRaw(rawValue(format)), format);
+  EXPECT_EQ(rawValue(allCases<EventTimeFormat>()[1]), "startTime");
+  for (EventTimeFormat format : allCases<EventTimeFormat>()) {
+    EXPECT_EQ(enumFromRaw<EventTimeFormat>(rawValue(format)), format);
   }
-  EXPECT_EQ(eventTimeFormatFromRaw("Both"), std::nullopt);
+  EXPECT_EQ(enumFromRaw<EventTimeFormat>("Both"), std::nullopt);
 }
 
 }  // namespace

@@ -141,11 +141,11 @@ TEST(MeetingLinkParserTest, MatchesLikeAPlainScanEvenWhereCaseFoldingReachesASCI
 }
 
 TEST(MeetingServiceTest, RawValuesRoundTrip) {
-  for (MeetingService service : allMeetingServices) {
-    EXPECT_EQ(meetingServiceFromRaw(rawValue(service)), service);
+  for (MeetingService service : allCases<MeetingService>()) {
+    EXPECT_EQ(enumFromRaw<MeetingService>(rawValue(service)), service);
   }
   EXPECT_EQ(rawValue(MeetingService::googleMeet), "googleMeet");
-  EXPECT_EQ(meetingServiceFromRaw("Zoom"), std::nullopt);
+  EXPECT_EQ(enumFromRaw<MeetingService>("Zoom"), std::nullopt);
 }
 
 }  // namespace

@@ -6,15 +6,18 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class MeetingService { zoom, googleMeet, microsoftTeams, webex, faceTime };
 
-inline constexpr std::array<MeetingService, 5> allMeetingServices{
-    MeetingService::zoom, MeetingService::googleMeet, MeetingService::microsoftTeams,
-    MeetingService::webex, MeetingService::faceTime};
-
-std::string_view rawValue(MeetingService service);
-std::optional<MeetingService> meetingServiceFromRaw(std::string_view raw);
+template <>
+struct EnumTable<MeetingService> {
+  static constexpr std::array cases{
+      EnumCase{MeetingService::zoom, "zoom"}, EnumCase{MeetingService::googleMeet, "googleMeet"},
+      EnumCase{MeetingService::microsoftTeams, "microsoftTeams"},
+      EnumCase{MeetingService::webex, "webex"}, EnumCase{MeetingService::faceTime, "faceTime"}};
+};
 
 }  // namespace tindra

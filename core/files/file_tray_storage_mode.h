@@ -6,14 +6,16 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class FileTrayStorageMode { link, copy };
 
-inline constexpr std::array<FileTrayStorageMode, 2> allFileTrayStorageModes{
-    FileTrayStorageMode::link, FileTrayStorageMode::copy};
-
-std::string_view rawValue(FileTrayStorageMode mode);
-std::optional<FileTrayStorageMode> fileTrayStorageModeFromRaw(std::string_view raw);
+template <>
+struct EnumTable<FileTrayStorageMode> {
+  static constexpr std::array cases{EnumCase{FileTrayStorageMode::link, "link"},
+                                    EnumCase{FileTrayStorageMode::copy, "copy"}};
+};
 
 }  // namespace tindra

@@ -68,7 +68,7 @@ std::optional<FocusFilterState> decodedState(std::string_view text) {
       !symbol->asString() || !updatedAt || !updatedAt->asNumber()) {
     return std::nullopt;
   }
-  const std::optional<FocusSymbol> knownSymbol = focusSymbolFromRaw(*symbol->asString());
+  const std::optional<FocusSymbol> knownSymbol = enumFromRaw<FocusSymbol>(*symbol->asString());
   if (!knownSymbol) return std::nullopt;
   return FocusFilterState(*isActive->asBool(), *name->asString(), *knownSymbol,
                           *updatedAt->asNumber());

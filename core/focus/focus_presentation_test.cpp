@@ -29,12 +29,12 @@ TEST(FocusPresentationTest, IndicatorFollowsItsSetting) {
 }
 
 TEST(FocusPresentationTest, SymbolsReadBackFromTheirRawValues) {
-  for (FocusSymbol symbol : allFocusSymbols) {
-    EXPECT_EQ(focusSymbolFromRaw(rawValue(symbol)), symbol);
+  for (FocusSymbol symbol : allCases<FocusSymbol>()) {
+    EXPECT_EQ(enumFromRaw<FocusSymbol>(rawValue(symbol)), symbol);
   }
   EXPECT_EQ(systemSymbolName(FocusSymbol::bed), "bed.double.fill");
   EXPECT_EQ(systemSymbolName(FocusSymbol::figure), "figure.mind.and.body");
-  EXPECT_EQ(focusSymbolFromRaw("moon.fill"), std::nullopt);
+  EXPECT_EQ(enumFromRaw<FocusSymbol>("moon.fill"), std::nullopt);
 }
 
 }  // namespace

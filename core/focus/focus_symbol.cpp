@@ -2,35 +2,6 @@
 
 namespace tindra {
 
-std::string_view rawValue(FocusSymbol symbol) {
-  switch (symbol) {
-    case FocusSymbol::moon:
-      return "moon";
-    case FocusSymbol::person:
-      return "person";
-    case FocusSymbol::briefcase:
-      return "briefcase";
-    case FocusSymbol::bed:
-      return "bed";
-    case FocusSymbol::car:
-      return "car";
-    case FocusSymbol::book:
-      return "book";
-    case FocusSymbol::gamecontroller:
-      return "gamecontroller";
-    case FocusSymbol::figure:
-      return "figure";
-  }
-  return "moon";
-}
-
-std::optional<FocusSymbol> focusSymbolFromRaw(std::string_view raw) {
-  for (FocusSymbol symbol : allFocusSymbols) {
-    if (rawValue(symbol) == raw) return symbol;
-  }
-  return std::nullopt;
-}
-
 std::string_view systemSymbolName(FocusSymbol symbol) {
   switch (symbol) {
     case FocusSymbol::moon:

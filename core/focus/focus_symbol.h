@@ -6,17 +6,24 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class FocusSymbol { moon, person, briefcase, bed, car, book, gamecontroller, figure };
 
-inline constexpr std::array<FocusSymbol, 8> allFocusSymbols{
-    FocusSymbol::moon, FocusSymbol::person, FocusSymbol::briefcase,      FocusSymbol::bed,
-    FocusSymbol::car,  FocusSymbol::book,   FocusSymbol::gamecontroller, FocusSymbol::figure};
+template <>
+struct EnumTable<FocusSymbol> {
+  static constexpr std::array cases{EnumCase{FocusSymbol::moon, "moon"},
+                                    EnumCase{FocusSymbol::person, "person"},
+                                    EnumCase{FocusSymbol::briefcase, "briefcase"},
+                                    EnumCase{FocusSymbol::bed, "bed"},
+                                    EnumCase{FocusSymbol::car, "car"},
+                                    EnumCase{FocusSymbol::book, "book"},
+                                    EnumCase{FocusSymbol::gamecontroller, "gamecontroller"},
+                                    EnumCase{FocusSymbol::figure, "figure"}};
+};
 
-std::string_view rawValue(FocusSymbol symbol);
-// None for an unknown raw value.
-std::optional<FocusSymbol> focusSymbolFromRaw(std::string_view raw);
 // "moon.fill", "figure.mind.and.body", ...
 std::string_view systemSymbolName(FocusSymbol symbol);
 

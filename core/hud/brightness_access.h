@@ -3,11 +3,17 @@
 
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class BrightnessAccess { readWrite, readOnly, unavailable };
 
-// The case name, for logs ("readOnly").
-std::string_view name(BrightnessAccess access);
+template <>
+struct EnumTable<BrightnessAccess> {
+  static constexpr std::array cases{EnumCase{BrightnessAccess::readWrite, "readWrite"},
+                                    EnumCase{BrightnessAccess::readOnly, "readOnly"},
+                                    EnumCase{BrightnessAccess::unavailable, "unavailable"}};
+};
 
 }  // namespace tindra

@@ -5,18 +5,21 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class HUDBarStyle { continuous, segmented, ring };
 
-inline constexpr std::array<HUDBarStyle, 3> allHUDBarStyles{
-    HUDBarStyle::continuous, HUDBarStyle::segmented, HUDBarStyle::ring};
+template <>
+struct EnumTable<HUDBarStyle> {
+  static constexpr std::array cases{EnumCase{HUDBarStyle::continuous, "continuous"},
+                                    EnumCase{HUDBarStyle::segmented, "segmented"},
+                                    EnumCase{HUDBarStyle::ring, "ring"}};
+};
 
 // The segmented bar's number of segments.
 inline constexpr int hudBarSegmentCount = 16;
-
-std::string_view rawValue(HUDBarStyle style);
-std::optional<HUDBarStyle> hudBarStyleFromRaw(std::string_view raw);
 
 // Segments lit for a level (clamped to 0...1 first): 0...16.
 int litSegments(double level);

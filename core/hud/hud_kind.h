@@ -5,15 +5,17 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class HUDKind { volume, brightness, keyboardBacklight };
 
-inline constexpr std::array<HUDKind, 3> allHUDKinds{HUDKind::volume, HUDKind::brightness,
-                                                    HUDKind::keyboardBacklight};
-
-std::string_view rawValue(HUDKind kind);
-// No value for any string but the three raw values.
-std::optional<HUDKind> hudKindFromRaw(std::string_view raw);
+template <>
+struct EnumTable<HUDKind> {
+  static constexpr std::array cases{EnumCase{HUDKind::volume, "volume"},
+                                    EnumCase{HUDKind::brightness, "brightness"},
+                                    EnumCase{HUDKind::keyboardBacklight, "keyboardBacklight"}};
+};
 
 }  // namespace tindra

@@ -4,25 +4,6 @@
 
 namespace tindra {
 
-std::string_view rawValue(HUDTint tint) {
-  switch (tint) {
-    case HUDTint::white:
-      return "white";
-    case HUDTint::level:
-      return "level";
-    case HUDTint::accent:
-      return "accent";
-  }
-  return "white";
-}
-
-std::optional<HUDTint> hudTintFromRaw(std::string_view raw) {
-  for (HUDTint tint : allHUDTints) {
-    if (rawValue(tint) == raw) return tint;
-  }
-  return std::nullopt;
-}
-
 HUDColor levelColor(double level) {
   static constexpr std::array<HUDColor, 3> stops{HUDColor{0.4, 0.72, 1.0}, HUDColor{0.52, 0.9, 0.6},
                                                  HUDColor{1.0, 0.58, 0.3}};

@@ -6,12 +6,18 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class HUDTint { white, level, accent };
 
-inline constexpr std::array<HUDTint, 3> allHUDTints{HUDTint::white, HUDTint::level,
-                                                    HUDTint::accent};
+template <>
+struct EnumTable<HUDTint> {
+  static constexpr std::array cases{EnumCase{HUDTint::white, "white"},
+                                    EnumCase{HUDTint::level, "level"},
+                                    EnumCase{HUDTint::accent, "accent"}};
+};
 
 // Colour channels in 0...1.
 struct HUDColor {
@@ -20,9 +26,6 @@ struct HUDColor {
   double blue;
   friend bool operator==(const HUDColor&, const HUDColor&) = default;
 };
-
-std::string_view rawValue(HUDTint tint);
-std::optional<HUDTint> hudTintFromRaw(std::string_view raw);
 
 // The `level` tint's colour for a level (clamped to 0...1 first).
 HUDColor levelColor(double level);

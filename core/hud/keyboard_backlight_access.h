@@ -3,11 +3,17 @@
 
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class KeyboardBacklightAccess { readWrite, readOnly, unavailable };
 
-// The case name, for logs ("readOnly").
-std::string_view name(KeyboardBacklightAccess access);
+template <>
+struct EnumTable<KeyboardBacklightAccess> {
+  static constexpr std::array cases{EnumCase{KeyboardBacklightAccess::readWrite, "readWrite"},
+                                    EnumCase{KeyboardBacklightAccess::readOnly, "readOnly"},
+                                    EnumCase{KeyboardBacklightAccess::unavailable, "unavailable"}};
+};
 
 }  // namespace tindra

@@ -39,30 +39,9 @@ std::optional<LockScreenNotice> LockScreenNotice::fromSettingText(std::string_vi
       !osVersion->asString()) {
     return std::nullopt;
   }
-  const std::optional<Reason> known = lockScreenNoticeReasonFromRaw(*reason->asString());
+  const std::optional<Reason> known = enumFromRaw<Reason>(*reason->asString());
   if (!known) return std::nullopt;
   return LockScreenNotice{*known, *date->asNumber(), *osVersion->asString()};
-}
-
-std::string_view rawValue(Reason reason) {
-  switch (reason) {
-    case Reason::stoppedWhileLocked:
-      return "stoppedWhileLocked";
-    case Reason::restartedWhileLocked:
-      return "restartedWhileLocked";
-    case Reason::unreadableRecord:
-      return "unreadableRecord";
-    case Reason::unsupportedSystem:
-      return "unsupportedSystem";
-  }
-  return "unreadableRecord";
-}
-
-std::optional<Reason> lockScreenNoticeReasonFromRaw(std::string_view raw) {
-  for (Reason reason : allLockScreenNoticeReasons) {
-    if (rawValue(reason) == raw) return reason;
-  }
-  return std::nullopt;
 }
 
 }  // namespace tindra

@@ -8,6 +8,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/enum_table.h"
 #include "lockscreen/lock_screen_feature.h"
 
 namespace tindra {
@@ -38,11 +39,13 @@ struct LockScreenNotice {
   friend bool operator==(const LockScreenNotice&, const LockScreenNotice&) = default;
 };
 
-inline constexpr std::array<LockScreenNotice::Reason, 4> allLockScreenNoticeReasons{
-    LockScreenNotice::Reason::stoppedWhileLocked, LockScreenNotice::Reason::restartedWhileLocked,
-    LockScreenNotice::Reason::unreadableRecord, LockScreenNotice::Reason::unsupportedSystem};
-
-std::string_view rawValue(LockScreenNotice::Reason reason);
-std::optional<LockScreenNotice::Reason> lockScreenNoticeReasonFromRaw(std::string_view raw);
+template <>
+struct EnumTable<LockScreenNotice::Reason> {
+  using Reason = LockScreenNotice::Reason;
+  static constexpr std::array cases{EnumCase{Reason::stoppedWhileLocked, "stoppedWhileLocked"},
+                                    EnumCase{Reason::restartedWhileLocked, "restartedWhileLocked"},
+                                    EnumCase{Reason::unreadableRecord, "unreadableRecord"},
+                                    EnumCase{Reason::unsupportedSystem, "unsupportedSystem"}};
+};
 
 }  // namespace tindra

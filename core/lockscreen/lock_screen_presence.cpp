@@ -64,32 +64,4 @@ std::vector<Action> LockScreenPresence::tearDown() {
   return actions;
 }
 
-std::string_view rawValue(Event event) {
-  switch (event) {
-    case Event::locked:
-      return "locked";
-    case Event::unlocked:
-      return "unlocked";
-    case Event::screensaverStarted:
-      return "screensaverStarted";
-    case Event::screensaverStopped:
-      return "screensaverStopped";
-  }
-  return "locked";
-}
-
-std::string_view rawValue(Action action) {
-  switch (action) {
-    case Action::beginSession:
-      return "beginSession";
-    case Action::show:
-      return "show";
-    case Action::hide:
-      return "hide";
-    case Action::endSession:
-      return "endSession";
-  }
-  return "hide";
-}
-
 }  // namespace tindra

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 struct LockScreenPresence {
@@ -32,7 +34,21 @@ struct LockScreenPresence {
   std::vector<Action> reconcile();
 };
 
-std::string_view rawValue(LockScreenPresence::Event event);
-std::string_view rawValue(LockScreenPresence::Action action);
+template <>
+struct EnumTable<LockScreenPresence::Event> {
+  using Event = LockScreenPresence::Event;
+  static constexpr std::array cases{EnumCase{Event::locked, "locked"},
+                                    EnumCase{Event::unlocked, "unlocked"},
+                                    EnumCase{Event::screensaverStarted, "screensaverStarted"},
+                                    EnumCase{Event::screensaverStopped, "screensaverStopped"}};
+};
+
+template <>
+struct EnumTable<LockScreenPresence::Action> {
+  using Action = LockScreenPresence::Action;
+  static constexpr std::array cases{EnumCase{Action::beginSession, "beginSession"},
+                                    EnumCase{Action::show, "show"}, EnumCase{Action::hide, "hide"},
+                                    EnumCase{Action::endSession, "endSession"}};
+};
 
 }  // namespace tindra

@@ -6,14 +6,17 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class LockScreenStyle { clear, lightFrost, frosted };
 
-inline constexpr std::array<LockScreenStyle, 3> allLockScreenStyles{
-    LockScreenStyle::clear, LockScreenStyle::lightFrost, LockScreenStyle::frosted};
-
-std::string_view rawValue(LockScreenStyle style);
-std::optional<LockScreenStyle> lockScreenStyleFromRaw(std::string_view raw);
+template <>
+struct EnumTable<LockScreenStyle> {
+  static constexpr std::array cases{EnumCase{LockScreenStyle::clear, "clear"},
+                                    EnumCase{LockScreenStyle::lightFrost, "lightFrost"},
+                                    EnumCase{LockScreenStyle::frosted, "frosted"}};
+};
 
 }  // namespace tindra

@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 struct AdapterProbeResult {
@@ -25,7 +27,14 @@ struct AdapterProbeResult {
   }
 };
 
-// The case name, for logs and diagnostics ("timedOut").
-std::string_view name(AdapterProbeResult::Kind kind);
+template <>
+struct EnumTable<AdapterProbeResult::Kind> {
+  static constexpr std::array cases{
+      EnumCase{AdapterProbeResult::Kind::failed, "failed"},
+      EnumCase{AdapterProbeResult::Kind::notBundled, "notBundled"},
+      EnumCase{AdapterProbeResult::Kind::passed, "passed"},
+      EnumCase{AdapterProbeResult::Kind::timedOut, "timedOut"},
+      EnumCase{AdapterProbeResult::Kind::launchFailed, "launchFailed"}};
+};
 
 }  // namespace tindra

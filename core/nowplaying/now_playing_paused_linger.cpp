@@ -2,25 +2,6 @@
 
 namespace tindra {
 
-std::string_view rawValue(NowPlayingPausedLinger linger) {
-  switch (linger) {
-    case NowPlayingPausedLinger::short_:
-      return "short";
-    case NowPlayingPausedLinger::long_:
-      return "long";
-    case NowPlayingPausedLinger::untilResumed:
-      return "untilResumed";
-  }
-  return "short";
-}
-
-std::optional<NowPlayingPausedLinger> nowPlayingPausedLingerFromRaw(std::string_view raw) {
-  for (NowPlayingPausedLinger linger : allNowPlayingPausedLingers) {
-    if (rawValue(linger) == raw) return linger;
-  }
-  return std::nullopt;
-}
-
 std::optional<double> lingerDuration(NowPlayingPausedLinger linger) {
   switch (linger) {
     case NowPlayingPausedLinger::short_:

@@ -6,19 +6,21 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class NowPlayingPausedLinger { short_, long_, untilResumed };
 
-inline constexpr std::array<NowPlayingPausedLinger, 3> allNowPlayingPausedLingers{
-    NowPlayingPausedLinger::short_, NowPlayingPausedLinger::long_,
-    NowPlayingPausedLinger::untilResumed};
+template <>
+struct EnumTable<NowPlayingPausedLinger> {
+  static constexpr std::array cases{EnumCase{NowPlayingPausedLinger::short_, "short"},
+                                    EnumCase{NowPlayingPausedLinger::long_, "long"},
+                                    EnumCase{NowPlayingPausedLinger::untilResumed, "untilResumed"}};
+};
 
 inline constexpr NowPlayingPausedLinger defaultNowPlayingPausedLinger =
     NowPlayingPausedLinger::short_;
-
-std::string_view rawValue(NowPlayingPausedLinger linger);
-std::optional<NowPlayingPausedLinger> nowPlayingPausedLingerFromRaw(std::string_view raw);
 
 // Seconds a paused track stays shown: 8 for short, 30 for long, none (no expiry) until resumed.
 std::optional<double> lingerDuration(NowPlayingPausedLinger linger);

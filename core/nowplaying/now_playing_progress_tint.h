@@ -6,14 +6,16 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class NowPlayingProgressTint { standard, artwork };
 
-inline constexpr std::array<NowPlayingProgressTint, 2> allNowPlayingProgressTints{
-    NowPlayingProgressTint::standard, NowPlayingProgressTint::artwork};
-
-std::string_view rawValue(NowPlayingProgressTint tint);
-std::optional<NowPlayingProgressTint> nowPlayingProgressTintFromRaw(std::string_view raw);
+template <>
+struct EnumTable<NowPlayingProgressTint> {
+  static constexpr std::array cases{EnumCase{NowPlayingProgressTint::standard, "standard"},
+                                    EnumCase{NowPlayingProgressTint::artwork, "artwork"}};
+};
 
 }  // namespace tindra

@@ -6,19 +6,24 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class NowPlayingSourceKind { adapter, appleScript };
+
+template <>
+struct EnumTable<NowPlayingSourceKind> {
+  static constexpr std::array cases{EnumCase{NowPlayingSourceKind::adapter, "adapter"},
+                                    EnumCase{NowPlayingSourceKind::appleScript, "appleScript"}};
+};
 enum class NowPlayingSourceMode { automatic, appleScriptOnly };
 
-inline constexpr std::array<NowPlayingSourceKind, 2> allNowPlayingSourceKinds{
-    NowPlayingSourceKind::adapter, NowPlayingSourceKind::appleScript};
-inline constexpr std::array<NowPlayingSourceMode, 2> allNowPlayingSourceModes{
-    NowPlayingSourceMode::automatic, NowPlayingSourceMode::appleScriptOnly};
-
-std::string_view rawValue(NowPlayingSourceKind kind);
-std::string_view rawValue(NowPlayingSourceMode mode);
-std::optional<NowPlayingSourceKind> nowPlayingSourceKindFromRaw(std::string_view raw);
-std::optional<NowPlayingSourceMode> nowPlayingSourceModeFromRaw(std::string_view raw);
+template <>
+struct EnumTable<NowPlayingSourceMode> {
+  static constexpr std::array cases{
+      EnumCase{NowPlayingSourceMode::automatic, "automatic"},
+      EnumCase{NowPlayingSourceMode::appleScriptOnly, "appleScriptOnly"}};
+};
 
 }  // namespace tindra

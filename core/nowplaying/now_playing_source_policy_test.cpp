@@ -33,24 +33,27 @@ TEST(NowPlayingSourcePolicyTest, FallbackNoticeShowsOncePerSystemVersion) {
 }
 
 TEST(NowPlayingSourcePolicyTest, StoredNamesRoundTripAndUnknownOnesAreRefused) {
-  for (auto kind : allNowPlayingSourceKinds) {
-    EXPECT_EQ(nowPlayingSourceKindFromRaw(rawValue(kind)), kind);
+  for (auto kind : allCases<NowPlayingSourceKind>()) {
+    EXPECT_EQ(enumFromRaw<NowPlayingSourceKind>(rawValue(kind)), kind);
   }
-  for (auto mode : allNowPlayingSourceModes) {
-    EXPECT_EQ(nowPlayingSourceModeFromRaw(rawValue(mode)), mode);
+  for (auto mode : allCases<NowPlayingSourceMode>()) {
+    EXPECT_EQ(enumFromRaw<NowPlayingSourceMode>(rawValue(mode)), mode);
   }
   EXPECT_EQ(rawValue(NowPlayingPausedLinger::short_), "short");
-  EXPECT_EQ(nowPlayingPausedLingerFromRaw("untilResumed"), NowPlayingPausedLinger::untilResumed);
-  EXPECT_EQ(nowPlayingPausedLingerFromRaw("long"), NowPlayingPausedLinger::long_);
-  EXPECT_FALSE(nowPlayingPausedLingerFromRaw("Short"));
-  EXPECT_FALSE(nowPlayingSourceModeFromRaw("auto"));
+  EXPECT_EQ(enumFromRaw<NowPlayingPausedLinger>("untilResumed"),
+            NowPlayingPausedLinger::untilResumed);
+  EXPECT_EQ(enumFromRaw<NowPlayingPausedLinger>("long"), NowPlayingPausedLinger::long_);
+  EXPECT_FALSE(enumFromRaw<NowPlayingPausedLinger>("Short"));
+  EXPECT_FALSE(enumFromRaw<NowPlayingSourceMode>("auto"));
 
   // The settings store lists the same names, in the same order, with the same default.
-  for (std::size_t i = 0; i < allNowPlayingPausedLingers.size(); ++i) {
-    EXPECT_EQ(rawValue(allNowPlayingPausedLingers[i]), settings::nowPlayingPausedLingerCases.at(i));
+  for (std::size_t i = 0; i < allCases<NowPlayingPausedLinger>().size(); ++i) {
+    EXPECT_EQ(rawValue(allCases<NowPlayingPausedLinger>()[i]),
+              settings::nowPlayingPausedLingerCases.at(i));
   }
-  for (std::size_t i = 0; i < allNowPlayingSourceModes.size(); ++i) {
-    EXPECT_EQ(rawValue(allNowPlayingSourceModes[i]), settings::nowPlayingSourceModeCases.at(i));
+  for (std::size_t i = 0; i < allCases<NowPlayingSourceMode>().size(); ++i) {
+    EXPECT_EQ(rawValue(allCases<NowPlayingSourceMode>()[i]),
+              settings::nowPlayingSourceModeCases.at(i));
   }
   EXPECT_EQ(rawValue(defaultNowPlayingPausedLinger), settings::nowPlayingPausedLinger.defaultValue);
 }

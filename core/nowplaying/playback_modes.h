@@ -6,20 +6,26 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class ShuffleMode { off, albums, tracks };
+
+template <>
+struct EnumTable<ShuffleMode> {
+  static constexpr std::array cases{EnumCase{ShuffleMode::off, "off"},
+                                    EnumCase{ShuffleMode::albums, "albums"},
+                                    EnumCase{ShuffleMode::tracks, "tracks"}};
+};
 enum class RepeatMode { off, track, all };
 
-inline constexpr std::array<ShuffleMode, 3> allShuffleModes{ShuffleMode::off, ShuffleMode::albums,
-                                                            ShuffleMode::tracks};
-inline constexpr std::array<RepeatMode, 3> allRepeatModes{RepeatMode::off, RepeatMode::track,
-                                                          RepeatMode::all};
-
-std::string_view rawValue(ShuffleMode mode);
-std::string_view rawValue(RepeatMode mode);
-std::optional<ShuffleMode> shuffleModeFromRaw(std::string_view raw);
-std::optional<RepeatMode> repeatModeFromRaw(std::string_view raw);
+template <>
+struct EnumTable<RepeatMode> {
+  static constexpr std::array cases{EnumCase{RepeatMode::off, "off"},
+                                    EnumCase{RepeatMode::track, "track"},
+                                    EnumCase{RepeatMode::all, "all"}};
+};
 
 // The adapter's wire codes: 1 off, 2 albums or track, 3 tracks or all.
 int adapterCode(ShuffleMode mode);

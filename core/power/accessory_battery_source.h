@@ -5,11 +5,17 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class AccessoryBatterySource { powerSources, systemProfiler };
 
-std::string_view rawValue(AccessoryBatterySource source);
-std::optional<AccessoryBatterySource> accessoryBatterySourceFromRaw(std::string_view raw);
+template <>
+struct EnumTable<AccessoryBatterySource> {
+  static constexpr std::array cases{
+      EnumCase{AccessoryBatterySource::powerSources, "powerSources"},
+      EnumCase{AccessoryBatterySource::systemProfiler, "systemProfiler"}};
+};
 
 }  // namespace tindra

@@ -6,14 +6,16 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class AccessoryBatteryStyle { percentage, ring };
 
-inline constexpr std::array<AccessoryBatteryStyle, 2> allAccessoryBatteryStyles{
-    AccessoryBatteryStyle::percentage, AccessoryBatteryStyle::ring};
-
-std::string_view rawValue(AccessoryBatteryStyle style);
-std::optional<AccessoryBatteryStyle> accessoryBatteryStyleFromRaw(std::string_view raw);
+template <>
+struct EnumTable<AccessoryBatteryStyle> {
+  static constexpr std::array cases{EnumCase{AccessoryBatteryStyle::percentage, "percentage"},
+                                    EnumCase{AccessoryBatteryStyle::ring, "ring"}};
+};
 
 }  // namespace tindra

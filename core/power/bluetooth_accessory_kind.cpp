@@ -11,23 +11,6 @@ namespace {
 
 using Kind = BluetoothAccessoryKind;
 
-constexpr std::array<std::pair<Kind, std::string_view>, 14> rawValues{{
-    {Kind::airPods, "airPods"},
-    {Kind::airPodsGen3, "airPodsGen3"},
-    {Kind::airPods4, "airPods4"},
-    {Kind::airPods4NoiseCancelling, "airPods4NoiseCancelling"},
-    {Kind::airPodsPro, "airPodsPro"},
-    {Kind::airPodsPro3, "airPodsPro3"},
-    {Kind::airPodsMax, "airPodsMax"},
-    {Kind::beats, "beats"},
-    {Kind::beatsStudio, "beatsStudio"},
-    {Kind::beatsStudioBuds, "beatsStudioBuds"},
-    {Kind::beatsSolo, "beatsSolo"},
-    {Kind::headphones, "headphones"},
-    {Kind::speaker, "speaker"},
-    {Kind::other, "other"},
-}};
-
 // Apple's product ids; the only way to tell the newer models apart, whose names say just
 // "AirPods".
 constexpr std::array<std::pair<int, Kind>, 20> appleProducts{{
@@ -91,20 +74,6 @@ std::optional<Kind> kindOfMinorType(std::string_view minorType) {
 }
 
 }  // namespace
-
-std::string_view rawValue(BluetoothAccessoryKind kind) {
-  for (const auto& [candidate, raw] : rawValues) {
-    if (candidate == kind) return raw;
-  }
-  return "other";
-}
-
-std::optional<BluetoothAccessoryKind> bluetoothAccessoryKindFromRaw(std::string_view raw) {
-  for (const auto& [kind, candidate] : rawValues) {
-    if (candidate == raw) return kind;
-  }
-  return std::nullopt;
-}
 
 BluetoothAccessoryKind classifyBluetoothAccessory(std::optional<std::string_view> name,
                                                   std::optional<std::string_view> minorType,

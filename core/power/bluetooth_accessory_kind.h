@@ -5,6 +5,8 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class BluetoothAccessoryKind {
@@ -24,8 +26,24 @@ enum class BluetoothAccessoryKind {
   other,
 };
 
-std::string_view rawValue(BluetoothAccessoryKind kind);
-std::optional<BluetoothAccessoryKind> bluetoothAccessoryKindFromRaw(std::string_view raw);
+template <>
+struct EnumTable<BluetoothAccessoryKind> {
+  static constexpr std::array cases{
+      EnumCase{BluetoothAccessoryKind::airPods, "airPods"},
+      EnumCase{BluetoothAccessoryKind::airPodsGen3, "airPodsGen3"},
+      EnumCase{BluetoothAccessoryKind::airPods4, "airPods4"},
+      EnumCase{BluetoothAccessoryKind::airPods4NoiseCancelling, "airPods4NoiseCancelling"},
+      EnumCase{BluetoothAccessoryKind::airPodsPro, "airPodsPro"},
+      EnumCase{BluetoothAccessoryKind::airPodsPro3, "airPodsPro3"},
+      EnumCase{BluetoothAccessoryKind::airPodsMax, "airPodsMax"},
+      EnumCase{BluetoothAccessoryKind::beats, "beats"},
+      EnumCase{BluetoothAccessoryKind::beatsStudio, "beatsStudio"},
+      EnumCase{BluetoothAccessoryKind::beatsStudioBuds, "beatsStudioBuds"},
+      EnumCase{BluetoothAccessoryKind::beatsSolo, "beatsSolo"},
+      EnumCase{BluetoothAccessoryKind::headphones, "headphones"},
+      EnumCase{BluetoothAccessoryKind::speaker, "speaker"},
+      EnumCase{BluetoothAccessoryKind::other, "other"}};
+};
 
 // Apple's Bluetooth company identifier.
 inline constexpr int appleVendorID = 76;

@@ -62,10 +62,10 @@ TEST(BluetoothAccessoryKind, MinorTypeThenFallback) {
 
 TEST(BluetoothAccessoryKind, RawValuesRoundTrip) {
   for (Kind kind : {Kind::airPods, Kind::airPods4NoiseCancelling, Kind::beatsSolo, Kind::other}) {
-    EXPECT_EQ(bluetoothAccessoryKindFromRaw(rawValue(kind)), kind);
+    EXPECT_EQ(enumFromRaw<BluetoothAccessoryKind>(rawValue(kind)), kind);
   }
   EXPECT_EQ(rawValue(Kind::airPodsGen3), "airPodsGen3");
-  EXPECT_EQ(bluetoothAccessoryKindFromRaw("AirPods"), std::nullopt);
+  EXPECT_EQ(enumFromRaw<BluetoothAccessoryKind>("AirPods"), std::nullopt);
 }
 
 }  // namespace

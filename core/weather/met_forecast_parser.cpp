@@ -160,18 +160,6 @@ void takePrecipitation(const Parser::StepData& data, WeatherSnapshot& snapshot) 
 
 }  // namespace
 
-std::string_view rawValue(METForecastParser::ParseError error) {
-  switch (error) {
-    case METForecastParser::ParseError::tooLarge:
-      return "tooLarge";
-    case METForecastParser::ParseError::malformed:
-      return "malformed";
-    case METForecastParser::ParseError::noCurrentData:
-      return "noCurrentData";
-  }
-  return "malformed";
-}
-
 std::expected<METForecastParser::Document, METForecastParser::ParseError> METForecastParser::decode(
     std::string_view data) {
   if (data.size() > maximumDocumentBytes) return std::unexpected(ParseError::tooLarge);

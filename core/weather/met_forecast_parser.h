@@ -11,6 +11,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/enum_table.h"
 #include "weather/geo_coordinate.h"
 #include "weather/weather_snapshot.h"
 
@@ -70,6 +71,12 @@ class METForecastParser {
       std::optional<std::string> lastModified = std::nullopt);
 };
 
-std::string_view rawValue(METForecastParser::ParseError error);
+template <>
+struct EnumTable<METForecastParser::ParseError> {
+  static constexpr std::array cases{
+      EnumCase{METForecastParser::ParseError::tooLarge, "tooLarge"},
+      EnumCase{METForecastParser::ParseError::malformed, "malformed"},
+      EnumCase{METForecastParser::ParseError::noCurrentData, "noCurrentData"}};
+};
 
 }  // namespace tindra

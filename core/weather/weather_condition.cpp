@@ -6,45 +6,6 @@
 
 namespace tindra {
 
-std::string_view rawValue(WeatherCondition condition) {
-  switch (condition) {
-    case WeatherCondition::clear:
-      return "clear";
-    case WeatherCondition::fair:
-      return "fair";
-    case WeatherCondition::partlyCloudy:
-      return "partlyCloudy";
-    case WeatherCondition::cloudy:
-      return "cloudy";
-    case WeatherCondition::fog:
-      return "fog";
-    case WeatherCondition::lightRain:
-      return "lightRain";
-    case WeatherCondition::rain:
-      return "rain";
-    case WeatherCondition::heavyRain:
-      return "heavyRain";
-    case WeatherCondition::rainShowers:
-      return "rainShowers";
-    case WeatherCondition::thunderstorm:
-      return "thunderstorm";
-    case WeatherCondition::sleet:
-      return "sleet";
-    case WeatherCondition::snow:
-      return "snow";
-    case WeatherCondition::unknown:
-      return "unknown";
-  }
-  return "unknown";
-}
-
-std::optional<WeatherCondition> weatherConditionFromRaw(std::string_view raw) {
-  for (WeatherCondition condition : allWeatherConditions) {
-    if (rawValue(condition) == raw) return condition;
-  }
-  return std::nullopt;
-}
-
 WeatherCondition weatherConditionFromSymbolCode(std::string_view symbolCode) {
   const std::string lower = asciiLowercased(symbolCode);
   const std::string_view base = std::string_view(lower).substr(0, lower.find('_'));

@@ -7,6 +7,8 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class WeatherCondition {
@@ -25,15 +27,22 @@ enum class WeatherCondition {
   unknown,
 };
 
-inline constexpr std::array<WeatherCondition, 13> allWeatherConditions{
-    WeatherCondition::clear,        WeatherCondition::fair,      WeatherCondition::partlyCloudy,
-    WeatherCondition::cloudy,       WeatherCondition::fog,       WeatherCondition::lightRain,
-    WeatherCondition::rain,         WeatherCondition::heavyRain, WeatherCondition::rainShowers,
-    WeatherCondition::thunderstorm, WeatherCondition::sleet,     WeatherCondition::snow,
-    WeatherCondition::unknown};
-
-std::string_view rawValue(WeatherCondition condition);
-std::optional<WeatherCondition> weatherConditionFromRaw(std::string_view raw);
+template <>
+struct EnumTable<WeatherCondition> {
+  static constexpr std::array cases{EnumCase{WeatherCondition::clear, "clear"},
+                                    EnumCase{WeatherCondition::fair, "fair"},
+                                    EnumCase{WeatherCondition::partlyCloudy, "partlyCloudy"},
+                                    EnumCase{WeatherCondition::cloudy, "cloudy"},
+                                    EnumCase{WeatherCondition::fog, "fog"},
+                                    EnumCase{WeatherCondition::lightRain, "lightRain"},
+                                    EnumCase{WeatherCondition::rain, "rain"},
+                                    EnumCase{WeatherCondition::heavyRain, "heavyRain"},
+                                    EnumCase{WeatherCondition::rainShowers, "rainShowers"},
+                                    EnumCase{WeatherCondition::thunderstorm, "thunderstorm"},
+                                    EnumCase{WeatherCondition::sleet, "sleet"},
+                                    EnumCase{WeatherCondition::snow, "snow"},
+                                    EnumCase{WeatherCondition::unknown, "unknown"}};
+};
 
 // The condition of a symbol code, compared case-insensitively; unknown codes give `unknown`.
 WeatherCondition weatherConditionFromSymbolCode(std::string_view symbolCode);

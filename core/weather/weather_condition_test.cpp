@@ -46,8 +46,8 @@ TEST(WeatherCondition, NightCodesAndSymbolNames) {
   EXPECT_EQ(symbolName(WeatherCondition::partlyCloudy, false), "cloud.sun.fill");
   EXPECT_EQ(symbolName(WeatherCondition::rainShowers, true), "cloud.moon.rain.fill");
 
-  EXPECT_EQ(weatherConditionFromRaw("partlyCloudy"), WeatherCondition::partlyCloudy);
-  EXPECT_EQ(weatherConditionFromRaw("Clear"), std::nullopt);
+  EXPECT_EQ(enumFromRaw<WeatherCondition>("partlyCloudy"), WeatherCondition::partlyCloudy);
+  EXPECT_EQ(enumFromRaw<WeatherCondition>("Clear"), std::nullopt);
 }
 
 }  // namespace

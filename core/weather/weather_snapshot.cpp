@@ -92,7 +92,7 @@ std::optional<WeatherSnapshot> weatherSnapshotFromJSON(const JSONValue& value) {
   const std::optional<GeoCoordinate> coordinate = geoCoordinateFromJSON(*coordinateValue);
   const std::string* conditionText = conditionValue->asString();
   const std::optional<WeatherCondition> condition =
-      conditionText == nullptr ? std::nullopt : weatherConditionFromRaw(*conditionText);
+      conditionText == nullptr ? std::nullopt : enumFromRaw<WeatherCondition>(*conditionText);
   if (!coordinate || !condition || isNightValue->asBool() == nullptr) return std::nullopt;
 
   WeatherSnapshot snapshot;
