@@ -28,7 +28,7 @@ void BM_RouteKey(benchmark::State& state) {
   const KeyModifiers modifiers = KeyModifiers::option() | KeyModifiers::shift();
   int code = 0;
   for (auto _ : state) {
-    const auto key = tindra::systemDefinedKeyFromRaw(code);
+    const auto key = tindra::enumFromRaw<tindra::SystemDefinedKeyEvent::Key>(code);
     benchmark::DoNotOptimize(
         tindra::MediaKeyRouter::decide(key, code % 2 == 0, false, modifiers, context));
     code = (code + 1) % 24;

@@ -20,7 +20,7 @@ bool withinSevenDays(const std::optional<double>& seconds) {
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
   const std::string_view output(reinterpret_cast<const char*>(data), size);
-  for (AppleScriptPlayer player : allAppleScriptPlayers) {
+  for (AppleScriptPlayer player : allCases<AppleScriptPlayer>()) {
     const AppleScriptPlayerStatus status = parse(player, output, 1000);
     if (status.kind != AppleScriptPlayerStatus::Kind::playing) {
       if (status.snapshot) std::abort();

@@ -54,7 +54,8 @@ void ActivityCoordinator::prune(double now) {
 }
 
 ActivityKind ActivityCoordinator::winner(double now) const {
-  for (auto kind = allActivityKinds.rbegin(); kind != allActivityKinds.rend(); ++kind) {
+  constexpr auto kinds = allCases<ActivityKind>();
+  for (auto kind = kinds.rbegin(); kind != kinds.rend(); ++kind) {
     const std::optional<Entry>& entry = entries_[index(*kind)];
     if (entry && entry->isActive(now)) return *kind;
   }

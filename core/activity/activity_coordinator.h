@@ -41,7 +41,7 @@ class ActivityCoordinator {
   void prune(double now);
   ActivityKind winner(double now) const;
 
-  std::array<std::optional<Entry>, allActivityKinds.size()> entries_{};
+  std::array<std::optional<Entry>, allCases<ActivityKind>().size()> entries_{};
 };
 
 }  // namespace tindra

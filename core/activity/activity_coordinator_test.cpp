@@ -126,10 +126,10 @@ TEST(NoticeDurationScale, RawValuesRoundTripAndUnknownIsNone) {
 }
 
 TEST(ActivityKind, RawValuesAreThePriorities) {
-  EXPECT_EQ(activityKindFromRaw(-1), std::nullopt);
-  EXPECT_EQ(activityKindFromRaw(10), std::nullopt);
-  for (std::size_t i = 0; i < allActivityKinds.size(); ++i) {
-    EXPECT_EQ(activityKindFromRaw(static_cast<int>(i)), allActivityKinds[i]);
+  EXPECT_EQ(enumFromRaw<ActivityKind>(-1), std::nullopt);
+  EXPECT_EQ(enumFromRaw<ActivityKind>(10), std::nullopt);
+  for (std::size_t i = 0; i < allCases<ActivityKind>().size(); ++i) {
+    EXPECT_EQ(enumFromRaw<ActivityKind>(static_cast<int>(i)), allCases<ActivityKind>()[i]);
   }
   EXPECT_FALSE(isNotice(K::upcomingEvent));
   EXPECT_TRUE(isNotice(K::focus));

@@ -6,6 +6,7 @@
 
 #include "activity/activity_kind.h"
 #include "activity/notice_duration_scale.h"
+#include "base/enum_table.h"
 
 namespace tindra {
 
@@ -42,6 +43,12 @@ class ActivityEvent {
   Case case_;
   ActivityKind kind_;
   std::optional<double> duration_;
+};
+
+template <>
+struct EnumTable<ActivityEvent::Case> {
+  using E = ActivityEvent::Case;
+  static constexpr std::array cases{EnumCase{E::began, "began"}, EnumCase{E::ended, "ended"}};
 };
 
 }  // namespace tindra

@@ -5,6 +5,8 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class ActivityKind : int {
@@ -20,29 +22,25 @@ enum class ActivityKind : int {
   incomingCall = 9,
 };
 
-inline constexpr std::array<ActivityKind, 10> allActivityKinds{
-    ActivityKind::idle,        ActivityKind::nowPlaying,   ActivityKind::upcomingEvent,
-    ActivityKind::focus,       ActivityKind::airDrop,      ActivityKind::message,
-    ActivityKind::accessory,   ActivityKind::batteryAlert, ActivityKind::hud,
-    ActivityKind::incomingCall};
-
-constexpr int rawValue(ActivityKind kind) {
-  return static_cast<int>(kind);
-}
-
-// No value outside 0...9.
-constexpr std::optional<ActivityKind> activityKindFromRaw(int raw) {
-  if (raw < 0 || raw > 9) return std::nullopt;
-  return static_cast<ActivityKind>(raw);
-}
+// The raw value is the priority.
+template <>
+struct EnumTable<ActivityKind> {
+  static constexpr std::array cases{EnumCase{ActivityKind::idle, 0, "idle"},
+                                    EnumCase{ActivityKind::nowPlaying, 1, "nowPlaying"},
+                                    EnumCase{ActivityKind::upcomingEvent, 2, "upcomingEvent"},
+                                    EnumCase{ActivityKind::focus, 3, "focus"},
+                                    EnumCase{ActivityKind::airDrop, 4, "airDrop"},
+                                    EnumCase{ActivityKind::message, 5, "message"},
+                                    EnumCase{ActivityKind::accessory, 6, "accessory"},
+                                    EnumCase{ActivityKind::batteryAlert, 7, "batteryAlert"},
+                                    EnumCase{ActivityKind::hud, 8, "hud"},
+                                    EnumCase{ActivityKind::incomingCall, 9, "incomingCall"}};
+};
 
 // The notice kinds (focus ... batteryAlert) are the ones whose durations follow the
 // user's notice-length setting.
 constexpr bool isNotice(ActivityKind kind) {
   return rawValue(kind) >= 3 && rawValue(kind) <= 7;
 }
-
-// The case name, for logs and the views ("nowPlaying").
-std::string_view name(ActivityKind kind);
 
 }  // namespace tindra

@@ -6,6 +6,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 class DisplaySelection {
@@ -32,6 +34,13 @@ class DisplaySelection {
 
   Kind kind_;
   std::string name_;
+};
+
+template <>
+struct EnumTable<DisplaySelection::Kind> {
+  using E = DisplaySelection::Kind;
+  static constexpr std::array cases{EnumCase{E::named, "named"}, EnumCase{E::all, "all"},
+                                    EnumCase{E::main, "main"}, EnumCase{E::builtIn, "builtIn"}};
 };
 
 }  // namespace tindra

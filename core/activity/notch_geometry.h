@@ -7,6 +7,7 @@
 
 #include "activity/rect.h"
 #include "activity/screen_descriptor.h"
+#include "base/enum_table.h"
 
 namespace tindra {
 
@@ -27,6 +28,13 @@ struct NotchGeometry {
   Rect notchRect{};
 
   friend bool operator==(const NotchGeometry&, const NotchGeometry&) = default;
+};
+
+template <>
+struct EnumTable<NotchGeometry::Kind> {
+  using E = NotchGeometry::Kind;
+  static constexpr std::array cases{EnumCase{E::hardware, "hardware"},
+                                    EnumCase{E::simulated, "simulated"}};
 };
 
 }  // namespace tindra

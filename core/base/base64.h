@@ -11,11 +11,19 @@
 #include <string_view>
 #include <vector>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class Base64Error {
   badLength,     // not a multiple of 4
   badCharacter,  // outside the alphabet, or "=" anywhere but the last one or two places
+};
+
+template <>
+struct EnumTable<Base64Error> {
+  static constexpr std::array cases{EnumCase{Base64Error::badLength, "badLength"},
+                                    EnumCase{Base64Error::badCharacter, "badCharacter"}};
 };
 
 // Bytes that `text` decodes to when it is well formed (its length less the padding, times 3/4).

@@ -6,11 +6,19 @@
 #include <expected>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class InternetDateTimeError {
   malformed,   // not the shape date "T" time zone
   outOfRange,  // a field beyond its calendar or clock range
+};
+
+template <>
+struct EnumTable<InternetDateTimeError> {
+  static constexpr std::array cases{EnumCase{InternetDateTimeError::malformed, "malformed"},
+                                    EnumCase{InternetDateTimeError::outOfRange, "outOfRange"}};
 };
 
 // "T" and "Z" may also be written in lower case; a leap second (:60) counts as the next second.

@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/enum_table.h"
 #include "base/json_value.h"
 
 namespace tindra {
@@ -31,6 +32,20 @@ struct JSONParseError {
   // "invalid JSON at byte 12: unexpected character", for logs and diagnostics.
   std::string message() const;
   friend bool operator==(const JSONParseError&, const JSONParseError&) = default;
+};
+
+template <>
+struct EnumTable<JSONParseError::Code> {
+  using E = JSONParseError::Code;
+  static constexpr std::array cases{EnumCase{E::unexpectedEnd, "unexpectedEnd"},
+                                    EnumCase{E::unexpectedCharacter, "unexpectedCharacter"},
+                                    EnumCase{E::invalidNumber, "invalidNumber"},
+                                    EnumCase{E::numberOutOfRange, "numberOutOfRange"},
+                                    EnumCase{E::invalidEscape, "invalidEscape"},
+                                    EnumCase{E::invalidUTF8, "invalidUTF8"},
+                                    EnumCase{E::controlCharacter, "controlCharacter"},
+                                    EnumCase{E::tooDeep, "tooDeep"},
+                                    EnumCase{E::trailingContent, "trailingContent"}};
 };
 
 class JSONReader {

@@ -16,6 +16,8 @@
 #include <variant>
 #include <vector>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 // Byte-wise order of member names (the order of std::string's own comparison), done inline:
@@ -130,6 +132,14 @@ class JSONValue {
  private:
   // Index order matches Type.
   std::variant<bool, double, std::string, Array, Object, std::nullptr_t> storage_{nullptr};
+};
+
+template <>
+struct EnumTable<JSONValue::Type> {
+  using E = JSONValue::Type;
+  static constexpr std::array cases{EnumCase{E::boolean, "boolean"}, EnumCase{E::number, "number"},
+                                    EnumCase{E::string, "string"},   EnumCase{E::array, "array"},
+                                    EnumCase{E::object, "object"},   EnumCase{E::null, "null"}};
 };
 
 inline bool operator==(const JSONObject& a, const JSONObject& b) {

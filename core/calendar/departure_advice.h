@@ -5,6 +5,8 @@
 
 #include <cstdint>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 class DepartureAdvice {
@@ -24,6 +26,13 @@ class DepartureAdvice {
   DepartureAdvice(Case c, std::int64_t minutes) : case_(c), minutes_(minutes) {}
   Case case_;
   std::int64_t minutes_;
+};
+
+template <>
+struct EnumTable<DepartureAdvice::Case> {
+  using E = DepartureAdvice::Case;
+  static constexpr std::array cases{EnumCase{E::leaveIn, "leaveIn"}, EnumCase{E::late, "late"},
+                                    EnumCase{E::leaveNow, "leaveNow"}};
 };
 
 }  // namespace tindra

@@ -5,6 +5,7 @@
 
 #include <cstdint>
 
+#include "base/enum_table.h"
 #include "calendar/calendar_event_info.h"
 
 namespace tindra {
@@ -32,6 +33,13 @@ class EventCountdown {
   Case case_;
   std::int64_t first_;
   std::int64_t second_;
+};
+
+template <>
+struct EnumTable<EventCountdown::Case> {
+  using E = EventCountdown::Case;
+  static constexpr std::array cases{EnumCase{E::startsIn, "startsIn"},
+                                    EnumCase{E::underWay, "underWay"}, EnumCase{E::ended, "ended"}};
 };
 
 // The countdown of `event` at `now`. Stops the program on a corrupt (not finite) date.

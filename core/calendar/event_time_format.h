@@ -54,6 +54,13 @@ class EarText {
   double date_;
 };
 
+template <>
+struct EnumTable<EarText::Case> {
+  using E = EarText::Case;
+  static constexpr std::array cases{EnumCase{E::minutes, "minutes"}, EnumCase{E::hours, "hours"},
+                                    EnumCase{E::startTime, "startTime"}, EnumCase{E::now, "now"}};
+};
+
 // `now` once the event has started; else its start time or the time to go, as `format` asks.
 EarText earText(const CalendarEventInfo& event, double now, EventTimeFormat format);
 

@@ -2,6 +2,7 @@
 // way. Phase seconds are never negative; an event starting exactly now has started(0).
 #pragma once
 
+#include "base/enum_table.h"
 #include "calendar/calendar_event_info.h"
 
 namespace tindra {
@@ -30,6 +31,13 @@ struct FeaturedEvent {
   Phase phase;
 
   friend bool operator==(const FeaturedEvent&, const FeaturedEvent&) = default;
+};
+
+template <>
+struct EnumTable<FeaturedEvent::Phase::Case> {
+  using E = FeaturedEvent::Phase::Case;
+  static constexpr std::array cases{EnumCase{E::startsIn, "startsIn"},
+                                    EnumCase{E::started, "started"}};
 };
 
 }  // namespace tindra

@@ -9,6 +9,7 @@
 #include <span>
 #include <vector>
 
+#include "base/enum_table.h"
 #include "calendar/calendar_event_info.h"
 
 namespace tindra {
@@ -36,6 +37,13 @@ class TodayAgenda {
   // The calendar day around `now`: from its first moment to the same wall time a day later
   // (23 or 25 hours on a day the clocks change).
   static Interval day(double now, const icu::Calendar& calendar);
+};
+
+template <>
+struct EnumTable<TodayAgenda::Status> {
+  using E = TodayAgenda::Status;
+  static constexpr std::array cases{EnumCase{E::ended, "ended"}, EnumCase{E::now, "now"},
+                                    EnumCase{E::upcoming, "upcoming"}};
 };
 
 }  // namespace tindra

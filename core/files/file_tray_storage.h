@@ -12,6 +12,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/enum_table.h"
 #include "files/file_tray.h"
 #include "settings/durable_file.h"
 
@@ -90,6 +91,21 @@ class FileTrayStorage {
 
   std::filesystem::path dataFolder_;
   bool blocked_ = false;  // a bad list is still in place: saving would overwrite it
+};
+
+template <>
+struct EnumTable<FileTrayStorage::SaveError::Code> {
+  using E = FileTrayStorage::SaveError::Code;
+  static constexpr std::array cases{EnumCase{E::fileInTheWay, "fileInTheWay"},
+                                    EnumCase{E::write, "write"}};
+};
+
+template <>
+struct EnumTable<FileTrayStorage::Loaded::Problem> {
+  using E = FileTrayStorage::Loaded::Problem;
+  static constexpr std::array cases{EnumCase{E::unreadable, "unreadable"},
+                                    EnumCase{E::newerVersion, "newerVersion"},
+                                    EnumCase{E::skippedItems, "skippedItems"}};
 };
 
 }  // namespace tindra

@@ -10,6 +10,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/enum_table.h"
 #include "files/file_tray.h"
 
 namespace tindra {
@@ -35,6 +36,14 @@ class FileTrayStoredParser {
   static std::expected<Parsed, ParseError> parse(std::string_view text);
   // Pretty JSON text that `parse` reads back to an equal value.
   static std::string write(const FileTray::Stored& stored);
+};
+
+template <>
+struct EnumTable<FileTrayStoredParser::ParseError::Code> {
+  using E = FileTrayStoredParser::ParseError::Code;
+  static constexpr std::array cases{EnumCase{E::notJSON, "notJSON"},
+                                    EnumCase{E::notATray, "notATray"},
+                                    EnumCase{E::newerVersion, "newerVersion"}};
 };
 
 }  // namespace tindra

@@ -7,14 +7,22 @@
 #include <optional>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class AudioTransport { builtIn, usb, bluetooth, hdmi, displayPort, airPlay, other };
 
-inline constexpr std::array<AudioTransport, 7> allAudioTransports{
-    AudioTransport::builtIn, AudioTransport::usb,         AudioTransport::bluetooth,
-    AudioTransport::hdmi,    AudioTransport::displayPort, AudioTransport::airPlay,
-    AudioTransport::other};
+template <>
+struct EnumTable<AudioTransport> {
+  static constexpr std::array cases{EnumCase{AudioTransport::builtIn, "builtIn"},
+                                    EnumCase{AudioTransport::usb, "usb"},
+                                    EnumCase{AudioTransport::bluetooth, "bluetooth"},
+                                    EnumCase{AudioTransport::hdmi, "hdmi"},
+                                    EnumCase{AudioTransport::displayPort, "displayPort"},
+                                    EnumCase{AudioTransport::airPlay, "airPlay"},
+                                    EnumCase{AudioTransport::other, "other"}};
+};
 
 // A four-character code packed big-endian, first character in the top byte ("usb " included).
 constexpr std::uint32_t fourCharCode(std::string_view code) {

@@ -2,6 +2,10 @@
 // because some machines silently ignore writes. Two ignored writes in a row mean giving up.
 #pragma once
 
+#include <array>
+
+#include "base/enum_table.h"
+
 namespace tindra {
 
 class KeyboardBacklightWriteMonitor {
@@ -26,6 +30,14 @@ class KeyboardBacklightWriteMonitor {
 
  private:
   int ineffectiveInARow_ = 0;
+};
+
+template <>
+struct EnumTable<KeyboardBacklightWriteMonitor::Verdict> {
+  using E = KeyboardBacklightWriteMonitor::Verdict;
+  static constexpr std::array cases{EnumCase{E::effective, "effective"},
+                                    EnumCase{E::noEffect, "noEffect"},
+                                    EnumCase{E::inconclusive, "inconclusive"}};
 };
 
 }  // namespace tindra

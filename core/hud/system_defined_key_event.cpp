@@ -18,14 +18,7 @@ std::optional<SystemDefinedKeyEvent> SystemDefinedKeyEvent::decode(int subtype,
 }
 
 std::optional<SystemDefinedKeyEvent::Key> SystemDefinedKeyEvent::key() const {
-  return systemDefinedKeyFromRaw(keyCode);
-}
-
-std::optional<SystemDefinedKeyEvent::Key> systemDefinedKeyFromRaw(int raw) {
-  for (SystemDefinedKeyEvent::Key key : allSystemDefinedKeys) {
-    if (rawValue(key) == raw) return key;
-  }
-  return std::nullopt;
+  return enumFromRaw<Key>(keyCode);
 }
 
 }  // namespace tindra

@@ -6,6 +6,8 @@
 #include <cstdint>
 #include <optional>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 struct SystemDefinedKeyEvent {
@@ -42,18 +44,22 @@ struct SystemDefinedKeyEvent {
   friend bool operator==(const SystemDefinedKeyEvent&, const SystemDefinedKeyEvent&) = default;
 };
 
-inline constexpr std::array<SystemDefinedKeyEvent::Key, 12> allSystemDefinedKeys{
-    SystemDefinedKeyEvent::Key::soundUp,        SystemDefinedKeyEvent::Key::soundDown,
-    SystemDefinedKeyEvent::Key::brightnessUp,   SystemDefinedKeyEvent::Key::brightnessDown,
-    SystemDefinedKeyEvent::Key::mute,           SystemDefinedKeyEvent::Key::play,
-    SystemDefinedKeyEvent::Key::next,           SystemDefinedKeyEvent::Key::previous,
-    SystemDefinedKeyEvent::Key::fast,           SystemDefinedKeyEvent::Key::rewind,
-    SystemDefinedKeyEvent::Key::illuminationUp, SystemDefinedKeyEvent::Key::illuminationDown};
-
-constexpr int rawValue(SystemDefinedKeyEvent::Key key) {
-  return static_cast<int>(key);
-}
-// No key for codes the system does not use for these keys.
-std::optional<SystemDefinedKeyEvent::Key> systemDefinedKeyFromRaw(int raw);
+// The raw value is the system's key code; codes of other keys have no case.
+template <>
+struct EnumTable<SystemDefinedKeyEvent::Key> {
+  using Key = SystemDefinedKeyEvent::Key;
+  static constexpr std::array cases{EnumCase{Key::soundUp, 0, "soundUp"},
+                                    EnumCase{Key::soundDown, 1, "soundDown"},
+                                    EnumCase{Key::brightnessUp, 2, "brightnessUp"},
+                                    EnumCase{Key::brightnessDown, 3, "brightnessDown"},
+                                    EnumCase{Key::mute, 7, "mute"},
+                                    EnumCase{Key::play, 16, "play"},
+                                    EnumCase{Key::next, 17, "next"},
+                                    EnumCase{Key::previous, 18, "previous"},
+                                    EnumCase{Key::fast, 19, "fast"},
+                                    EnumCase{Key::rewind, 20, "rewind"},
+                                    EnumCase{Key::illuminationUp, 21, "illuminationUp"},
+                                    EnumCase{Key::illuminationDown, 22, "illuminationDown"}};
+};
 
 }  // namespace tindra

@@ -39,7 +39,7 @@ TEST(SystemDefinedKeyEvent, RejectsOtherSubtypesAndStates) {
 
 TEST(SystemDefinedKeyEvent, KnownKeysOnly) {
   for (int unknown : {-1, 4, 5, 6, 8, 15, 23, 0x10000}) {
-    EXPECT_EQ(systemDefinedKeyFromRaw(unknown), std::nullopt) << unknown;
+    EXPECT_EQ(enumFromRaw<SystemDefinedKeyEvent::Key>(unknown), std::nullopt) << unknown;
   }
   EXPECT_EQ((SystemDefinedKeyEvent{22, true, false}).key(), Key::illuminationDown);
   EXPECT_EQ((SystemDefinedKeyEvent{12, true, false}).key(), std::nullopt);

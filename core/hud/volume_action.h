@@ -2,6 +2,10 @@
 // toggle.
 #pragma once
 
+#include <array>
+
+#include "base/enum_table.h"
+
 namespace tindra {
 
 class VolumeAction {
@@ -23,6 +27,13 @@ class VolumeAction {
 
   Case case_;
   bool fine_;
+};
+
+template <>
+struct EnumTable<VolumeAction::Case> {
+  using E = VolumeAction::Case;
+  static constexpr std::array cases{EnumCase{E::up, "up"}, EnumCase{E::down, "down"},
+                                    EnumCase{E::toggleMute, "toggleMute"}};
 };
 
 }  // namespace tindra

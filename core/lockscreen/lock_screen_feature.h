@@ -5,12 +5,17 @@
 #include <array>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class LockScreenFeature { widgets, notch };
 
-inline constexpr std::array<LockScreenFeature, 2> allLockScreenFeatures{LockScreenFeature::widgets,
-                                                                        LockScreenFeature::notch};
+template <>
+struct EnumTable<LockScreenFeature> {
+  static constexpr std::array cases{EnumCase{LockScreenFeature::widgets, "widgets"},
+                                    EnumCase{LockScreenFeature::notch, "notch"}};
+};
 
 // "experimentalLockScreen" or "lockScreenNotch".
 std::string_view enabledSettingName(LockScreenFeature feature);

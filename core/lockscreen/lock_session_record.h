@@ -10,6 +10,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 // One open lock-screen session.
@@ -33,6 +35,15 @@ struct LockSessionRecordError {
   // "lock-session record: restartStrikes is missing or invalid", for the log.
   std::string message() const;
   friend bool operator==(const LockSessionRecordError&, const LockSessionRecordError&) = default;
+};
+
+template <>
+struct EnumTable<LockSessionRecordError::Code> {
+  using E = LockSessionRecordError::Code;
+  static constexpr std::array cases{
+      EnumCase{E::invalidJSON, "invalidJSON"}, EnumCase{E::notAnObject, "notAnObject"},
+      EnumCase{E::badVersion, "badVersion"}, EnumCase{E::badOpenSession, "badOpenSession"},
+      EnumCase{E::badRestartStrikes, "badRestartStrikes"}};
 };
 
 struct LockSessionRecord {

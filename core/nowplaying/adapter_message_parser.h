@@ -13,6 +13,7 @@
 #include <string_view>
 #include <vector>
 
+#include "base/enum_table.h"
 #include "base/json_value.h"
 #include "nowplaying/adapter_envelope.h"
 #include "nowplaying/adapter_state_fields.h"
@@ -109,6 +110,14 @@ class AdapterMessageParser {
   bool discardingOversizedLine_ = false;
   Shortcuts shortcuts_;
   Scratch scratch_;
+};
+
+template <>
+struct EnumTable<AdapterMessageParser::ParseError::Kind> {
+  using E = AdapterMessageParser::ParseError::Kind;
+  static constexpr std::array cases{
+      EnumCase{E::unexpectedType, "unexpectedType"}, EnumCase{E::notJSONObject, "notJSONObject"},
+      EnumCase{E::missingPayload, "missingPayload"}, EnumCase{E::lineTooLong, "lineTooLong"}};
 };
 
 }  // namespace tindra

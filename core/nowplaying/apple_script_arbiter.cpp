@@ -6,7 +6,7 @@ namespace {
 // Lower ranks win: playing before paused, then the player order.
 int rank(const Report& report) {
   const int playingFirst = report.status.snapshot->isPlaying ? 0 : 1;
-  return playingFirst * static_cast<int>(allAppleScriptPlayers.size()) +
+  return playingFirst * static_cast<int>(allCases<AppleScriptPlayer>().size()) +
          static_cast<int>(report.player);
 }
 

@@ -10,6 +10,7 @@
 #include <string_view>
 #include <variant>
 
+#include "base/enum_table.h"
 #include "nowplaying/now_playing_capabilities.h"
 #include "nowplaying/now_playing_command.h"
 #include "nowplaying/now_playing_snapshot.h"
@@ -18,9 +19,12 @@ namespace tindra {
 
 enum class AppleScriptPlayer { music, spotify, safari, chrome };
 
-inline constexpr std::array<AppleScriptPlayer, 4> allAppleScriptPlayers{
-    AppleScriptPlayer::music, AppleScriptPlayer::spotify, AppleScriptPlayer::safari,
-    AppleScriptPlayer::chrome};
+template <>
+struct EnumTable<AppleScriptPlayer> {
+  static constexpr std::array cases{
+      EnumCase{AppleScriptPlayer::music, "music"}, EnumCase{AppleScriptPlayer::spotify, "spotify"},
+      EnumCase{AppleScriptPlayer::safari, "safari"}, EnumCase{AppleScriptPlayer::chrome, "chrome"}};
+};
 
 // What one read script reported.
 struct AppleScriptPlayerStatus {
@@ -36,6 +40,14 @@ struct AppleScriptPlayerStatus {
   static AppleScriptPlayerStatus unreadable() { return {Kind::unreadable, std::nullopt}; }
 
   friend bool operator==(const AppleScriptPlayerStatus&, const AppleScriptPlayerStatus&) = default;
+};
+
+template <>
+struct EnumTable<AppleScriptPlayerStatus::Kind> {
+  using E = AppleScriptPlayerStatus::Kind;
+  static constexpr std::array cases{
+      EnumCase{E::playing, "playing"}, EnumCase{E::notRunning, "notRunning"},
+      EnumCase{E::idle, "idle"}, EnumCase{E::unreadable, "unreadable"}};
 };
 
 // "com.apple.Music", "com.spotify.client", "com.apple.Safari", "com.google.Chrome".

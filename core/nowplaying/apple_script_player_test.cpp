@@ -119,7 +119,7 @@ TEST(AppleScriptPlayerTest, TabRecordsReadTheTitleAndTheStateTriple) {
 }
 
 TEST(AppleScriptPlayerTest, ReadScriptsCarryTheSharedHandlersAndTimeouts) {
-  for (AppleScriptPlayer player : allAppleScriptPlayers) {
+  for (AppleScriptPlayer player : allCases<AppleScriptPlayer>()) {
     const std::string script = readScript(player);
     EXPECT_NE(script.find("on textOf(value)"), std::string::npos);
     EXPECT_NE(script.find("return (round (secs * 1000)) as text"), std::string::npos);
@@ -165,7 +165,7 @@ TEST(AppleScriptPlayerTest, CommandScriptsAndWhatEachPlayerRefuses) {
                 .find("set player position to 12.346\n"),
             std::string::npos);
 
-  for (AppleScriptPlayer player : allAppleScriptPlayers) {
+  for (AppleScriptPlayer player : allCases<AppleScriptPlayer>()) {
     EXPECT_EQ(commandScript(player, NowPlayingCommand::seek(-1)), std::nullopt);
     EXPECT_EQ(commandScript(player, NowPlayingCommand::seek(604800.001)), std::nullopt);
     EXPECT_EQ(commandScript(player, NowPlayingCommand::seek(NAN)), std::nullopt);

@@ -8,6 +8,7 @@
 #include <optional>
 #include <string>
 
+#include "base/enum_table.h"
 #include "nowplaying/now_playing_snapshot.h"
 
 namespace tindra {
@@ -24,6 +25,12 @@ struct ArtworkCacheKey {
   static std::optional<ArtworkCacheKey> forSnapshot(const NowPlayingSnapshot& snapshot);
 
   friend bool operator==(const ArtworkCacheKey&, const ArtworkCacheKey&) = default;
+};
+
+template <>
+struct EnumTable<ArtworkCacheKey::Kind> {
+  using E = ArtworkCacheKey::Kind;
+  static constexpr std::array cases{EnumCase{E::album, "album"}, EnumCase{E::song, "song"}};
 };
 
 std::size_t hashValue(const ArtworkCacheKey& key);

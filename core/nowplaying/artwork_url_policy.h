@@ -8,6 +8,8 @@
 #include <string>
 #include <string_view>
 
+#include "base/enum_table.h"
+
 namespace tindra::ArtworkURLPolicy {
 
 enum class ImageHost { spotify, apple };
@@ -20,3 +22,14 @@ std::optional<ImageHost> imageHost(std::string_view url);
 std::optional<std::string> downloadURL(std::string_view url);
 
 }  // namespace tindra::ArtworkURLPolicy
+
+namespace tindra {
+
+template <>
+struct EnumTable<ArtworkURLPolicy::ImageHost> {
+  using ImageHost = ArtworkURLPolicy::ImageHost;
+  static constexpr std::array cases{EnumCase{ImageHost::spotify, "spotify"},
+                                    EnumCase{ImageHost::apple, "apple"}};
+};
+
+}  // namespace tindra

@@ -6,13 +6,19 @@
 #include <array>
 #include <optional>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 enum class AccessoryBatteryPart { left, right, caseLevel, main };
 
-inline constexpr std::array<AccessoryBatteryPart, 4> allAccessoryBatteryParts{
-    AccessoryBatteryPart::left, AccessoryBatteryPart::right, AccessoryBatteryPart::caseLevel,
-    AccessoryBatteryPart::main};
+template <>
+struct EnumTable<AccessoryBatteryPart> {
+  static constexpr std::array cases{EnumCase{AccessoryBatteryPart::left, "left"},
+                                    EnumCase{AccessoryBatteryPart::right, "right"},
+                                    EnumCase{AccessoryBatteryPart::caseLevel, "caseLevel"},
+                                    EnumCase{AccessoryBatteryPart::main, "main"}};
+};
 
 struct AccessoryBattery {
   std::optional<int> left = std::nullopt;

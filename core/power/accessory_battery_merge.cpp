@@ -15,7 +15,7 @@ bool AccessoryBatteryMerge::record(const AccessoryBattery& battery, double time,
 
 AccessoryBattery AccessoryBatteryMerge::merged() const {
   AccessoryBattery battery;
-  for (AccessoryBatteryPart part : allAccessoryBatteryParts) {
+  for (AccessoryBatteryPart part : allCases<AccessoryBatteryPart>()) {
     const Reading* newest = nullptr;
     // Readings run in source order, so on a tie the earlier source (the power-source list) stays.
     for (const auto& [source, reading] : readings) {

@@ -2,6 +2,7 @@
 // how long it stays up.
 #pragma once
 
+#include "base/enum_table.h"
 #include "power/battery_status.h"
 
 namespace tindra {
@@ -20,6 +21,13 @@ struct BatteryNotice {
   double duration() const { return kind == Kind::low ? 8.0 : 4.0; }
 
   friend bool operator==(const BatteryNotice&, const BatteryNotice&) = default;
+};
+
+template <>
+struct EnumTable<BatteryNotice::Kind> {
+  using E = BatteryNotice::Kind;
+  static constexpr std::array cases{EnumCase{E::pluggedIn, "pluggedIn"},
+                                    EnumCase{E::unplugged, "unplugged"}, EnumCase{E::low, "low"}};
 };
 
 }  // namespace tindra

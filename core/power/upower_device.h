@@ -7,6 +7,7 @@
 #include <cstdint>
 #include <optional>
 
+#include "base/enum_table.h"
 #include "power/battery_status.h"
 
 namespace tindra {
@@ -34,6 +35,18 @@ struct UPowerDevice {
   // The reading the views show, or nothing when this is no battery (a desktop's display device
   // reports no type and no presence).
   std::optional<BatteryStatus> batteryStatus() const;
+};
+
+template <>
+struct EnumTable<UPowerDevice::State> {
+  using E = UPowerDevice::State;
+  static constexpr std::array cases{EnumCase{E::unknown, "unknown"},
+                                    EnumCase{E::charging, "charging"},
+                                    EnumCase{E::discharging, "discharging"},
+                                    EnumCase{E::empty, "empty"},
+                                    EnumCase{E::fullyCharged, "fullyCharged"},
+                                    EnumCase{E::pendingCharge, "pendingCharge"},
+                                    EnumCase{E::pendingDischarge, "pendingDischarge"}};
 };
 
 }  // namespace tindra

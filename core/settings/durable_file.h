@@ -9,6 +9,7 @@
 #include <string>
 #include <string_view>
 
+#include "base/enum_table.h"
 #include "settings/file_system_calls.h"
 
 namespace tindra {
@@ -46,6 +47,14 @@ class DurableFile {
  private:
   std::filesystem::path url_;
   FileSystemCalls* calls_;
+};
+
+template <>
+struct EnumTable<DurableFile::Failure::Step> {
+  using E = DurableFile::Failure::Step;
+  static constexpr std::array cases{EnumCase{E::folder, "folder"}, EnumCase{E::open, "open"},
+                                    EnumCase{E::write, "write"}, EnumCase{E::flush, "flush"},
+                                    EnumCase{E::rename, "rename"}};
 };
 
 }  // namespace tindra

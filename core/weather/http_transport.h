@@ -11,6 +11,8 @@
 #include <utility>
 #include <vector>
 
+#include "base/enum_table.h"
+
 namespace tindra {
 
 using HTTPHeaders = std::vector<std::pair<std::string, std::string>>;
@@ -39,6 +41,13 @@ enum class HTTPTransportError {
   unreachable,  // no network, host not found, connection refused or timed out
   notHTTP,      // an answer came, but it was not a readable HTTP response
   other,        // anything else (TLS failure, cancelled, protocol error)
+};
+
+template <>
+struct EnumTable<HTTPTransportError> {
+  static constexpr std::array cases{EnumCase{HTTPTransportError::unreachable, "unreachable"},
+                                    EnumCase{HTTPTransportError::notHTTP, "notHTTP"},
+                                    EnumCase{HTTPTransportError::other, "other"}};
 };
 
 class HTTPTransport {

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <variant>
 
+#include "base/enum_table.h"
 #include "weather/weather_snapshot.h"
 
 namespace tindra {
@@ -25,6 +26,14 @@ struct WeatherFetchFailure {
   static WeatherFetchFailure invalidResponse() { return {Kind::invalidResponse}; }
 
   friend bool operator==(const WeatherFetchFailure&, const WeatherFetchFailure&) = default;
+};
+
+template <>
+struct EnumTable<WeatherFetchFailure::Kind> {
+  using E = WeatherFetchFailure::Kind;
+  static constexpr std::array cases{
+      EnumCase{E::httpStatus, "httpStatus"}, EnumCase{E::offline, "offline"},
+      EnumCase{E::throttled, "throttled"}, EnumCase{E::invalidResponse, "invalidResponse"}};
 };
 
 struct WeatherFetchResult {
