@@ -35,8 +35,7 @@ void ActivityCenter::reset() {
 }
 
 NoticeDurationScale ActivityCenter::noticeScale() const {
-  return enumFromRaw<NoticeDurationScale>(settings_.read(settings::noticeDurationScale))
-      .value_or(NoticeDurationScale::medium);
+  return settings_.read(settings::noticeDurationScale);
 }
 
 void ActivityCenter::setCurrent(ActivityKind kind) {

@@ -116,7 +116,7 @@ TEST_F(ActivityCenterTest, NoticeLengthComesFromTheSettings) {
     center.offer(ActivityEvent::ended(ActivityKind::idle));
     return center.current();
   };
-  ASSERT_TRUE(store_.write(settings::noticeDurationScale, std::string("short")));
+  ASSERT_TRUE(store_.write(settings::noticeDurationScale, NoticeDurationScale::short_));
   EXPECT_EQ(shownAfter(1.49), ActivityKind::batteryAlert);
   EXPECT_EQ(shownAfter(1.5), ActivityKind::idle);
 
@@ -124,7 +124,7 @@ TEST_F(ActivityCenterTest, NoticeLengthComesFromTheSettings) {
   EXPECT_EQ(shownAfter(1.99), ActivityKind::batteryAlert);
   EXPECT_EQ(shownAfter(2.0), ActivityKind::idle);
 
-  ASSERT_TRUE(store_.write(settings::noticeDurationScale, std::string("long")));
+  ASSERT_TRUE(store_.write(settings::noticeDurationScale, NoticeDurationScale::long_));
   EXPECT_EQ(shownAfter(3.19), ActivityKind::batteryAlert);
   EXPECT_EQ(shownAfter(3.2), ActivityKind::idle);
 

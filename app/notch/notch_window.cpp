@@ -101,8 +101,7 @@ void NotchWindow::readTiming() {
   NotchHoverStateMachine::Timing timing;
   timing.openDelay = settings_.read(settings::hoverOpenDelay);
   timing.holdDuration = settings_.read(settings::holdOpenDuration);
-  timing.openingMode = enumFromRaw<NotchOpeningMode>(settings_.read(settings::notchOpeningMode))
-                           .value_or(NotchOpeningMode::hover);
+  timing.openingMode = settings_.read(settings::notchOpeningMode);
   machine_.setTiming(timing);
 }
 

@@ -151,7 +151,7 @@ TEST(NotchWindowOnDisplayTest, OpensWhenThePointerRestsAndClosesWhenItLeaves) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isExpanded(); }, 3000));
 
   // In click mode resting is not enough; a click opens it.
-  ASSERT_TRUE(displays.store_.write(settings::notchOpeningMode, std::string("click")));
+  ASSERT_TRUE(displays.store_.write(settings::notchOpeningMode, NotchOpeningMode::click));
   QCursor::setPos(window.screen(), notch);
   QTest::qWait(500);
   EXPECT_FALSE(window.isExpanded());
@@ -163,7 +163,7 @@ TEST(NotchWindowOnDisplayTest, OpensWhenThePointerRestsAndClosesWhenItLeaves) {
 
 TEST(NotchWindowOnDisplayTest, StretchesWhilePulledAndOpensForAFileDragInAnyMode) {
   Displays displays;
-  ASSERT_TRUE(displays.store_.write(settings::notchOpeningMode, std::string("click")));
+  ASSERT_TRUE(displays.store_.write(settings::notchOpeningMode, NotchOpeningMode::click));
   NotchWindow& window = *displays.manager_->windows().front();
   const QRectF rest = window.shapeRect();
   const QPoint centre = window.notchRect().center().toPoint();

@@ -21,13 +21,11 @@ NowPlayingProvider::NowPlayingProvider(ProviderContext context, SourceFactory ma
 NowPlayingProvider::~NowPlayingProvider() = default;
 
 NowPlayingSourceMode NowPlayingProvider::sourceMode() const {
-  return enumFromRaw<NowPlayingSourceMode>(settings().read(settings::nowPlayingSourceMode))
-      .value_or(NowPlayingSourceMode::automatic);
+  return settings().read(settings::nowPlayingSourceMode);
 }
 
 NowPlayingPausedLinger NowPlayingProvider::pausedLinger() const {
-  return enumFromRaw<NowPlayingPausedLinger>(settings().read(settings::nowPlayingPausedLinger))
-      .value_or(defaultNowPlayingPausedLinger);
+  return settings().read(settings::nowPlayingPausedLinger);
 }
 
 void NowPlayingProvider::start() {

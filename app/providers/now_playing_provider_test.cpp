@@ -59,7 +59,7 @@ class NowPlayingProviderTest : public ::testing::Test {
 };
 
 TEST_F(NowPlayingProviderTest, PlayingShowsThePausedTrackLingersAndNothingPlayingEnds) {
-  ASSERT_TRUE(settings_.write(settings::nowPlayingPausedLinger, std::string("long")));
+  ASSERT_TRUE(settings_.write(settings::nowPlayingPausedLinger, NowPlayingPausedLinger::long_));
   makeProvider(std::nullopt);
   provider_->start();
   EXPECT_EQ(activities_.current(), ActivityKind::nowPlaying);
@@ -136,7 +136,8 @@ TEST_F(NowPlayingProviderTest, NoSourceIsStartedWhenTheTestFailsOrSettingsAskFor
   EXPECT_EQ(sourcesMade_, 0);
 
   diagnostics_.record(lcNowPlaying(), "test", DiagnosticsLog::Outcome::ok, "separator");
-  ASSERT_TRUE(settings_.write(settings::nowPlayingSourceMode, std::string("appleScriptOnly")));
+  ASSERT_TRUE(
+      settings_.write(settings::nowPlayingSourceMode, NowPlayingSourceMode::appleScriptOnly));
   makeProvider(QStringLiteral("exit 0"));
   provider_->start();
   EXPECT_EQ(lastOutcome(), DiagnosticsLog::Outcome::degraded);

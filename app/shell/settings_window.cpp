@@ -72,7 +72,13 @@ QWidget* SettingsWindow::editorFor(std::string_view name) const {
 void SettingsWindow::addRow(QGridLayout& grid, int line,
                             const settings::SettingsKeyDescription& key) {
   Row row = makeEditor(key);
-  row.label = new QLabel(qstr(key.name));
+  // The key's name, and below it in grey what it is for.
+  auto* label =
+      new QLabel(QStringLiteral("%1<br><small style=\"color: gray\">%2</small>")
+                     .arg(qstr(key.name).toHtmlEscaped(), qstr(key.description).toHtmlEscaped()));
+  label->setWordWrap(true);
+  label->setToolTip(qstr(key.description));
+  row.label = label;
   auto* reset = new QToolButton;
   reset->setText(tr("Reset"));
   reset->setToolTip(tr("Use the default value"));
@@ -207,7 +213,8 @@ void SettingsWindow::refresh(std::string_view name) {
 
 void SettingsWindow::filter(const QString& text) {
   for (const auto& [name, row] : rows_) {
-    const bool match = text.isEmpty() || qstr(name).contains(text, Qt::CaseInsensitive);
+    const bool match = text.isEmpty() || qstr(name).contains(text, Qt::CaseInsensitive) ||
+                       row.label->toolTip().contains(text, Qt::CaseInsensitive);
     row.label->setVisible(match);
     row.editor->setVisible(match);
     row.reset->setVisible(match);

@@ -1,7 +1,7 @@
-// SettingsWindow: every preference Tindra keeps, listed from the key descriptions with an editor
-// that fits its type, a search field, and a reset per key. Edits are written through the store at
-// once; changes from elsewhere (another process, the program itself) show up as they happen. A
-// write that fails is said below the list, with the reason, until a later one succeeds.
+// SettingsWindow: every preference Tindra keeps, listed from the key table with its description, an
+// editor that fits its type, a search field, and a reset per key. Edits are written through the
+// store at once; changes from elsewhere (another process, the program itself) show up as they
+// happen. A write that fails is said below the list, with the reason, until a later one succeeds.
 #pragma once
 
 #include <QLabel>

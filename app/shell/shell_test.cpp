@@ -109,7 +109,7 @@ TEST_F(SettingsWindowTest, EditsGoThroughTheStoreAndOutsideChangesShow) {
   auto* mode = qobject_cast<QComboBox*>(window.editorFor(settings::notchOpeningMode.name));
   ASSERT_NE(mode, nullptr);
   EXPECT_EQ(mode->count(), 3);
-  ASSERT_TRUE(store_.write(settings::notchOpeningMode, std::string("pressAndHold")));
+  ASSERT_TRUE(store_.write(settings::notchOpeningMode, NotchOpeningMode::pressAndHold));
   EXPECT_EQ(mode->currentText(), QStringLiteral("pressAndHold"));
   ASSERT_TRUE(store_.reset(settings::notchOpeningMode));
   EXPECT_EQ(mode->currentText(), QStringLiteral("hover"));

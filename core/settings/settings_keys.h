@@ -1,8 +1,9 @@
-// Every preference Tindra keeps, as a typed key with its name and default, in the order of
-// declaration. Enumeration keys hold raw strings; an unknown stored string reads as the default.
+// Every preference Tindra keeps, declared once in TINDRA_SETTINGS_KEYS: its value type, name,
+// default and what it is for. The table makes the typed key `settings::<name>` and its entry in
+// allKeys(), so nothing can list a key without its description or miss one. Enumeration keys
+// store their case's raw value; an unknown stored string reads as the default.
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -10,127 +11,112 @@
 #include <string_view>
 #include <vector>
 
+#include "activity/notch_color_style.h"
+#include "activity/notch_opening_mode.h"
+#include "activity/notice_duration_scale.h"
 #include "base/json_value.h"
+#include "calendar/event_time_format.h"
+#include "calendar/travel_transport.h"
+#include "files/file_tray_storage_mode.h"
+#include "hud/hud_bar_style.h"
+#include "hud/hud_tint.h"
+#include "lockscreen/lock_screen_style.h"
+#include "nowplaying/now_playing_paused_linger.h"
+#include "nowplaying/now_playing_progress_tint.h"
+#include "nowplaying/now_playing_source_kind.h"
+#include "power/accessory_battery_style.h"
 #include "settings/settings_key.h"
+
+// KEY(type, name, default, description), in the order the Settings window lists them.
+// clang-format off
+#define TINDRA_SETTINGS_KEYS(KEY) \
+  KEY(bool, onboardingCompleted, false, "The first-run introduction has been seen.") \
+  KEY(bool, playSounds, true, "Play a sound with notices that have one.") \
+  KEY(bool, showMenuBarIcon, true, "Show Tindra in the tray.") \
+  KEY(NoticeDurationScale, noticeDurationScale, NoticeDurationScale::medium, "How long notices stay: short, medium or long.") \
+  KEY(bool, receiveBetaUpdates, false, "Offer test versions when updating.") \
+  KEY(bool, showOnDisplaysWithoutNotch, true, "Draw a notch on displays that have none.") \
+  KEY(std::string, displaySelection, "all", "Which displays show the notch: all, main, built-in or one by name.") \
+  KEY(double, simulatedNotchWidth, 190.0, "Width in points of a drawn notch.") \
+  KEY(bool, simulatedNotchMatchesMenuBar, true, "A drawn notch takes the height of the top panel.") \
+  KEY(double, simulatedNotchHeight, 32.0, "Height in points of a drawn notch when it does not match the panel.") \
+  KEY(NotchOpeningMode, notchOpeningMode, NotchOpeningMode::hover, "How the notch opens: on hover, on click, or pressed and held.") \
+  KEY(double, hoverOpenDelay, 0.12, "Seconds the pointer rests on the notch before it opens.") \
+  KEY(double, holdOpenDuration, 0.5, "Seconds of pressing that open the notch in press-and-hold mode.") \
+  KEY(std::vector<std::string>, pinnedWidgets, {}, "Panel sections pinned in the opened notch, in order (\"media\", \"calendar\", \"weather\", \"batteries\", \"fileTray\"); empty shows every section with something to show.") \
+  KEY(NowPlayingSourceMode, nowPlayingSourceMode, NowPlayingSourceMode::automatic, "Where the playing track comes from: automatic or the player scripts only.") \
+  KEY(std::optional<std::string>, nowPlayingFallbackNoticeOSVersion, {}, "The system version on which the basic-mode notice was last shown.") \
+  KEY(bool, artworkOnlineLookup, true, "Look covers up online when the player gives none.") \
+  KEY(NowPlayingPausedLinger, nowPlayingPausedLinger, NowPlayingPausedLinger::short_, "How long a paused track stays shown: short, long or until resumed.") \
+  KEY(NowPlayingProgressTint, nowPlayingProgressTint, NowPlayingProgressTint::standard, "The progress bar in the standard colour or the cover's.") \
+  KEY(bool, volumeHUDEnabled, true, "Show volume changes in the notch.") \
+  KEY(bool, brightnessHUDEnabled, true, "Show brightness changes in the notch.") \
+  KEY(HUDBarStyle, hudBarStyle, HUDBarStyle::continuous, "How the level is drawn: a continuous bar, segments or a ring.") \
+  KEY(HUDTint, hudTint, HUDTint::white, "The level's colour: white, by level, or the accent colour.") \
+  KEY(double, hudDuration, 1.5, "Seconds the level stays shown after a change.") \
+  KEY(bool, volumeFeedbackFallback, false, "Play the volume feedback sound where the system does not.") \
+  KEY(bool, batteryPluggedInNotice, true, "Tell when power is connected.") \
+  KEY(bool, batteryUnpluggedNotice, true, "Tell when power is disconnected.") \
+  KEY(bool, batteryLowAlert, true, "Warn when the battery runs low.") \
+  KEY(std::int64_t, batteryLowThreshold, 20, "Percentage at which the battery counts as low.") \
+  KEY(bool, accessoryConnectNotices, true, "Tell when a Bluetooth accessory connects.") \
+  KEY(bool, airDropNotices, false, "Tell when files arrive from nearby devices.") \
+  KEY(bool, accessoryLowAlert, true, "Warn when an accessory's battery runs low.") \
+  KEY(std::int64_t, accessoryLowThreshold, 20, "Percentage at which an accessory's battery counts as low.") \
+  KEY(bool, accessoryRouteNotice, true, "Tell when sound moves to an accessory.") \
+  KEY(bool, accessoryDisconnectNotice, true, "Tell when a Bluetooth accessory disconnects.") \
+  KEY(AccessoryBatteryStyle, accessoryBatteryStyle, AccessoryBatteryStyle::percentage, "Accessory batteries as a percentage or a ring.") \
+  KEY(bool, calendarEnabled, false, "Show the next meeting.") \
+  KEY(std::int64_t, calendarLeadMinutes, 10, "Minutes before a meeting that it appears.") \
+  KEY(std::vector<std::string>, calendarExcludedIdentifiers, {}, "Calendars whose events are never shown.") \
+  KEY(EventTimeFormat, calendarTimeFormat, EventTimeFormat::countdown, "The meeting's time as a countdown, its start time, or both.") \
+  KEY(bool, calendarPrivacyMode, false, "Hide meeting titles.") \
+  KEY(bool, calendarEventSound, false, "Play a sound when a meeting is about to start.") \
+  KEY(JSONValue::Object, calendarEventSoundLog, {}, "Meetings whose start sound has played, so it plays once.") \
+  KEY(bool, remindersEnabled, false, "Show reminders that are due.") \
+  KEY(bool, travelTimeEnabled, false, "Count travel time before meetings with a place.") \
+  KEY(TravelTransport, travelTransport, TravelTransport::automobile, "How you travel to meetings: by car, on foot or by transit.") \
+  KEY(std::int64_t, travelBufferMinutes, 5, "Minutes added to the travel time.") \
+  KEY(bool, weatherEnabled, false, "Show the weather.") \
+  KEY(bool, focusShown, true, "Show when a Focus mode is on.") \
+  KEY(bool, focusKeepsIndicator, true, "Keep a Focus mark on the notch while the Focus lasts.") \
+  KEY(std::string, focusFilterState, "", "The Focus filter's last state, as written by the system.") \
+  KEY(bool, swipeGestures, true, "Swipes on the notch control playback.") \
+  KEY(bool, swipeChangesTrack, true, "Sideways swipes change the track.") \
+  KEY(bool, swipeFeedback, false, "Give feedback when a swipe is recognised.") \
+  KEY(bool, mouseDragGestures, false, "Dragging with the mouse works like swiping.") \
+  KEY(bool, hideInFullScreen, true, "Hide the notch over full-screen windows.") \
+  KEY(bool, hideForGames, true, "Hide the notch while a game runs.") \
+  KEY(std::string, gameBundleIdentifiers, "", "Applications treated as games, one per line.") \
+  KEY(bool, hideDuringMissionControl, false, "Hide the notch while windows are being arranged.") \
+  KEY(bool, hideFromScreenRecordings, false, "Keep the notch out of screenshots and recordings.") \
+  KEY(bool, glassBackground, false, "A translucent opened notch instead of black.") \
+  KEY(NotchColorStyle, notchColorStyle, NotchColorStyle::monochrome, "The opened notch in black and white or in colour.") \
+  KEY(bool, auraGlowWhenOpen, true, "A soft glow around the opened notch.") \
+  KEY(bool, auraFlashOnOpen, true, "A brief flash when the notch opens.") \
+  KEY(bool, auraColorfulBars, true, "Colourful bars in the live spectrum.") \
+  KEY(bool, auraRimWhenClosed, true, "A thin coloured rim on the closed notch.") \
+  KEY(bool, liveWaveform, false, "Show a live spectrum of the playing audio.") \
+  KEY(bool, experimentalLockScreen, false, "Show widgets on the lock screen (experimental).") \
+  KEY(LockScreenStyle, lockScreenStyle, LockScreenStyle::frosted, "The lock-screen widgets' background: clear, light frost or frosted.") \
+  KEY(double, lockWidgetOffset, 0.0, "Vertical offset in points of the lock-screen widgets.") \
+  KEY(bool, lockScreenNotch, false, "Keep the notch on the lock screen.") \
+  KEY(std::string, lockScreenNotice, "", "The last lock-screen notice, kept to show it once.") \
+  KEY(std::string, lockScreenNotchNotice, "", "The last lock-screen notch notice, kept to show it once.") \
+  KEY(bool, experimentalKeyboardBacklight, false, "Show keyboard backlight changes (experimental).") \
+  KEY(std::string, keyboardBacklightMissingOn, "", "The system version on which no keyboard backlight was found.") \
+  KEY(bool, experimentalCallNotices, false, "Show incoming calls (experimental).") \
+  KEY(bool, experimentalMessageNotices, false, "Show incoming messages (experimental).") \
+  KEY(bool, experimentalFileTray, false, "Keep dropped files in a tray (experimental).") \
+  KEY(FileTrayStorageMode, fileTrayMode, FileTrayStorageMode::link, "The tray keeps links to dropped files or copies of them.")
+// clang-format on
 
 namespace tindra::settings {
 
-// The raw values of the enumeration keys. notchColorStyle's cases belong to the opened-notch
-// layout; the others mirror their subsystems' enumerations.
-inline constexpr std::array<std::string_view, 3> noticeDurationScaleCases{"short", "medium",
-                                                                          "long"};
-inline constexpr std::array<std::string_view, 3> notchOpeningModeCases{"hover", "click",
-                                                                       "pressAndHold"};
-inline constexpr std::array<std::string_view, 2> nowPlayingSourceModeCases{"automatic",
-                                                                           "appleScriptOnly"};
-inline constexpr std::array<std::string_view, 3> nowPlayingPausedLingerCases{"short", "long",
-                                                                             "untilResumed"};
-inline constexpr std::array<std::string_view, 2> nowPlayingProgressTintCases{"standard", "artwork"};
-inline constexpr std::array<std::string_view, 3> hudBarStyleCases{"continuous", "segmented",
-                                                                  "ring"};
-inline constexpr std::array<std::string_view, 3> hudTintCases{"white", "level", "accent"};
-inline constexpr std::array<std::string_view, 2> accessoryBatteryStyleCases{"percentage", "ring"};
-inline constexpr std::array<std::string_view, 3> calendarTimeFormatCases{"countdown", "startTime",
-                                                                         "both"};
-inline constexpr std::array<std::string_view, 3> travelTransportCases{"automobile", "walking",
-                                                                      "transit"};
-inline constexpr std::array<std::string_view, 2> notchColorStyleCases{"monochrome", "colorful"};
-inline constexpr std::array<std::string_view, 3> lockScreenStyleCases{"clear", "lightFrost",
-                                                                      "frosted"};
-inline constexpr std::array<std::string_view, 2> fileTrayModeCases{"link", "copy"};
-
-inline const SettingsKey<bool> onboardingCompleted{"onboardingCompleted", false};
-inline const SettingsKey<bool> playSounds{"playSounds", true};
-inline const SettingsKey<bool> showMenuBarIcon{"showMenuBarIcon", true};
-inline const SettingsKey<std::string> noticeDurationScale{"noticeDurationScale", "medium",
-                                                          noticeDurationScaleCases};
-inline const SettingsKey<bool> receiveBetaUpdates{"receiveBetaUpdates", false};
-inline const SettingsKey<bool> showOnDisplaysWithoutNotch{"showOnDisplaysWithoutNotch", true};
-inline const SettingsKey<std::string> displaySelection{"displaySelection", "all"};
-inline const SettingsKey<double> simulatedNotchWidth{"simulatedNotchWidth", 190.0};
-inline const SettingsKey<bool> simulatedNotchMatchesMenuBar{"simulatedNotchMatchesMenuBar", true};
-inline const SettingsKey<double> simulatedNotchHeight{"simulatedNotchHeight", 32.0};
-inline const SettingsKey<std::string> notchOpeningMode{"notchOpeningMode", "hover",
-                                                       notchOpeningModeCases};
-inline const SettingsKey<double> hoverOpenDelay{"hoverOpenDelay", 0.12};
-inline const SettingsKey<double> holdOpenDuration{"holdOpenDuration", 0.5};
-inline const SettingsKey<std::vector<std::string>> pinnedWidgets{"pinnedWidgets", {}};
-inline const SettingsKey<std::string> nowPlayingSourceMode{"nowPlayingSourceMode", "automatic",
-                                                           nowPlayingSourceModeCases};
-inline const SettingsKey<std::optional<std::string>> nowPlayingFallbackNoticeOSVersion{
-    "nowPlayingFallbackNoticeOSVersion", {}};
-inline const SettingsKey<bool> artworkOnlineLookup{"artworkOnlineLookup", true};
-inline const SettingsKey<std::string> nowPlayingPausedLinger{"nowPlayingPausedLinger", "short",
-                                                             nowPlayingPausedLingerCases};
-inline const SettingsKey<std::string> nowPlayingProgressTint{"nowPlayingProgressTint", "standard",
-                                                             nowPlayingProgressTintCases};
-inline const SettingsKey<bool> volumeHUDEnabled{"volumeHUDEnabled", true};
-inline const SettingsKey<bool> brightnessHUDEnabled{"brightnessHUDEnabled", true};
-inline const SettingsKey<std::string> hudBarStyle{"hudBarStyle", "continuous", hudBarStyleCases};
-inline const SettingsKey<std::string> hudTint{"hudTint", "white", hudTintCases};
-inline const SettingsKey<double> hudDuration{"hudDuration", 1.5};
-inline const SettingsKey<bool> volumeFeedbackFallback{"volumeFeedbackFallback", false};
-inline const SettingsKey<bool> batteryPluggedInNotice{"batteryPluggedInNotice", true};
-inline const SettingsKey<bool> batteryUnpluggedNotice{"batteryUnpluggedNotice", true};
-inline const SettingsKey<bool> batteryLowAlert{"batteryLowAlert", true};
-inline const SettingsKey<std::int64_t> batteryLowThreshold{"batteryLowThreshold", 20};
-inline const SettingsKey<bool> accessoryConnectNotices{"accessoryConnectNotices", true};
-inline const SettingsKey<bool> airDropNotices{"airDropNotices", false};
-inline const SettingsKey<bool> accessoryLowAlert{"accessoryLowAlert", true};
-inline const SettingsKey<std::int64_t> accessoryLowThreshold{"accessoryLowThreshold", 20};
-inline const SettingsKey<bool> accessoryRouteNotice{"accessoryRouteNotice", true};
-inline const SettingsKey<bool> accessoryDisconnectNotice{"accessoryDisconnectNotice", true};
-inline const SettingsKey<std::string> accessoryBatteryStyle{"accessoryBatteryStyle", "percentage",
-                                                            accessoryBatteryStyleCases};
-inline const SettingsKey<bool> calendarEnabled{"calendarEnabled", false};
-inline const SettingsKey<std::int64_t> calendarLeadMinutes{"calendarLeadMinutes", 10};
-inline const SettingsKey<std::vector<std::string>> calendarExcludedIdentifiers{
-    "calendarExcludedIdentifiers", {}};
-inline const SettingsKey<std::string> calendarTimeFormat{"calendarTimeFormat", "countdown",
-                                                         calendarTimeFormatCases};
-inline const SettingsKey<bool> calendarPrivacyMode{"calendarPrivacyMode", false};
-inline const SettingsKey<bool> calendarEventSound{"calendarEventSound", false};
-inline const SettingsKey<JSONValue::Object> calendarEventSoundLog{"calendarEventSoundLog", {}};
-inline const SettingsKey<bool> remindersEnabled{"remindersEnabled", false};
-inline const SettingsKey<bool> travelTimeEnabled{"travelTimeEnabled", false};
-inline const SettingsKey<std::string> travelTransport{"travelTransport", "automobile",
-                                                      travelTransportCases};
-inline const SettingsKey<std::int64_t> travelBufferMinutes{"travelBufferMinutes", 5};
-inline const SettingsKey<bool> weatherEnabled{"weatherEnabled", false};
-inline const SettingsKey<bool> focusShown{"focusShown", true};
-inline const SettingsKey<bool> focusKeepsIndicator{"focusKeepsIndicator", true};
-inline const SettingsKey<std::string> focusFilterState{"focusFilterState", ""};
-inline const SettingsKey<bool> swipeGestures{"swipeGestures", true};
-inline const SettingsKey<bool> swipeChangesTrack{"swipeChangesTrack", true};
-inline const SettingsKey<bool> swipeFeedback{"swipeFeedback", false};
-inline const SettingsKey<bool> mouseDragGestures{"mouseDragGestures", false};
-inline const SettingsKey<bool> hideInFullScreen{"hideInFullScreen", true};
-inline const SettingsKey<bool> hideForGames{"hideForGames", true};
-inline const SettingsKey<std::string> gameBundleIdentifiers{"gameBundleIdentifiers", ""};
-inline const SettingsKey<bool> hideDuringMissionControl{"hideDuringMissionControl", false};
-inline const SettingsKey<bool> hideFromScreenRecordings{"hideFromScreenRecordings", false};
-inline const SettingsKey<bool> glassBackground{"glassBackground", false};
-inline const SettingsKey<std::string> notchColorStyle{"notchColorStyle", "monochrome",
-                                                      notchColorStyleCases};
-inline const SettingsKey<bool> auraGlowWhenOpen{"auraGlowWhenOpen", true};
-inline const SettingsKey<bool> auraFlashOnOpen{"auraFlashOnOpen", true};
-inline const SettingsKey<bool> auraColorfulBars{"auraColorfulBars", true};
-inline const SettingsKey<bool> auraRimWhenClosed{"auraRimWhenClosed", true};
-inline const SettingsKey<bool> liveWaveform{"liveWaveform", false};
-inline const SettingsKey<bool> experimentalLockScreen{"experimentalLockScreen", false};
-inline const SettingsKey<std::string> lockScreenStyle{"lockScreenStyle", "frosted",
-                                                      lockScreenStyleCases};
-inline const SettingsKey<double> lockWidgetOffset{"lockWidgetOffset", 0.0};
-inline const SettingsKey<bool> lockScreenNotch{"lockScreenNotch", false};
-inline const SettingsKey<std::string> lockScreenNotice{"lockScreenNotice", ""};
-inline const SettingsKey<std::string> lockScreenNotchNotice{"lockScreenNotchNotice", ""};
-inline const SettingsKey<bool> experimentalKeyboardBacklight{"experimentalKeyboardBacklight",
-                                                             false};
-inline const SettingsKey<std::string> keyboardBacklightMissingOn{"keyboardBacklightMissingOn", ""};
-inline const SettingsKey<bool> experimentalCallNotices{"experimentalCallNotices", false};
-inline const SettingsKey<bool> experimentalMessageNotices{"experimentalMessageNotices", false};
-inline const SettingsKey<bool> experimentalFileTray{"experimentalFileTray", false};
-inline const SettingsKey<std::string> fileTrayMode{"fileTrayMode", "link", fileTrayModeCases};
+#define TINDRA_DECLARE_SETTINGS_KEY(type, name, defaultValue, description) \
+  inline const SettingsKey<type> name{#name, defaultValue, description};
+TINDRA_SETTINGS_KEYS(TINDRA_DECLARE_SETTINGS_KEY)
+#undef TINDRA_DECLARE_SETTINGS_KEY
 
 // What the Settings window needs to list and edit any key without knowing its C++ type.
 struct SettingsKeyDescription {
@@ -147,10 +133,11 @@ struct SettingsKeyDescription {
   std::string_view name;
   Type type;
   JSONValue defaultValue;
-  std::span<const std::string_view> cases;
+  std::string_view description;
+  std::span<const std::string_view> cases;  // an enumeration's raw values; empty otherwise
 };
 
-// All keys, in declaration order.
+// All keys, in table order.
 const std::vector<SettingsKeyDescription>& allKeys();
 
 // The description of the key called `name`, or nullptr.

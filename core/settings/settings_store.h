@@ -114,14 +114,7 @@ T SettingsStore::read(const SettingsKey<T>& key) const {
   const JSONValue* value = stored(key.name);
   if (value == nullptr) return key.defaultValue;
   std::optional<T> decoded = SettingsCodec<T>::decode(*value);
-  if (!decoded) return key.defaultValue;
-  if constexpr (std::is_same_v<T, std::string>) {
-    if (!key.cases.empty() &&
-        std::find(key.cases.begin(), key.cases.end(), *decoded) == key.cases.end()) {
-      return key.defaultValue;
-    }
-  }
-  return *std::move(decoded);
+  return decoded ? *std::move(decoded) : key.defaultValue;
 }
 
 template <class T>

@@ -50,7 +50,7 @@ TEST_F(SettingsStoreTest, EmptyDomainReadsEveryDefaultAndWritesNothing) {
   EXPECT_EQ(store.read(settings::hoverOpenDelay), 0.12);
   EXPECT_EQ(store.read(settings::batteryLowThreshold), 20);
   EXPECT_EQ(store.read(settings::displaySelection), "all");
-  EXPECT_EQ(store.read(settings::noticeDurationScale), "medium");
+  EXPECT_EQ(store.read(settings::noticeDurationScale), NoticeDurationScale::medium);
   EXPECT_EQ(store.read(settings::nowPlayingFallbackNoticeOSVersion), std::nullopt);
   EXPECT_TRUE(store.read(settings::pinnedWidgets).empty());
   for (const auto& key : settings::allKeys()) EXPECT_EQ(store.stored(key.name), nullptr);
@@ -116,8 +116,8 @@ TEST_F(SettingsStoreTest, WrongTypesAndUnknownCasesReadAsDefaults) {
   EXPECT_EQ(store.read(settings::playSounds), true);
   EXPECT_EQ(store.read(settings::batteryLowThreshold), 20);
   EXPECT_EQ(store.read(settings::hudDuration), 3.0);
-  EXPECT_EQ(store.read(settings::notchOpeningMode), "hover");
-  EXPECT_EQ(store.read(settings::hudTint), "level");
+  EXPECT_EQ(store.read(settings::notchOpeningMode), NotchOpeningMode::hover);
+  EXPECT_EQ(store.read(settings::hudTint), HUDTint::level);
   EXPECT_TRUE(store.read(settings::pinnedWidgets).empty());
   EXPECT_EQ(store.read(settings::simulatedNotchWidth), 190.0);
   EXPECT_EQ(store.read(settings::accessoryLowThreshold), 20);
@@ -159,7 +159,7 @@ TEST_F(SettingsStoreTest, ReloadNotifiesOnlyKeysAnotherProcessChanged) {
                    [&](std::string_view name) { changed.emplace_back(name); });
 
   SettingsStore theirs = open();
-  ASSERT_TRUE(theirs.write(settings::hudTint, "accent"));
+  ASSERT_TRUE(theirs.write(settings::hudTint, HUDTint::accent));
   ASSERT_TRUE(theirs.reset(settings::hudDuration));
   ASSERT_TRUE(theirs.write(settings::playSounds, false));  // same value: no change for others
 
@@ -167,7 +167,7 @@ TEST_F(SettingsStoreTest, ReloadNotifiesOnlyKeysAnotherProcessChanged) {
   EXPECT_EQ(std::set<std::string>(changed.begin(), changed.end()),
             (std::set<std::string>{"hudDuration", "hudTint"}));
   EXPECT_EQ(mine.read(settings::hudDuration), 1.5);
-  EXPECT_EQ(mine.read(settings::hudTint), "accent");
+  EXPECT_EQ(mine.read(settings::hudTint), HUDTint::accent);
 }
 
 TEST_F(SettingsStoreTest, WritingMergesChangesMadeElsewhere) {
@@ -203,6 +203,7 @@ TEST(SettingsKeys, TableIsCompleteOrderedAndUnique) {
   std::set<std::string_view> names;
   for (const auto& key : keys) {
     EXPECT_TRUE(names.insert(key.name).second) << key.name;
+    EXPECT_FALSE(key.description.empty()) << key.name;
     if (key.type == settings::SettingsKeyDescription::Type::enumeration) {
       const std::string* raw = key.defaultValue.asString();
       ASSERT_NE(raw, nullptr);
