@@ -44,6 +44,10 @@ int FileSystemCalls::rename(const char* from, const char* to) {
   return ::rename(from, to);
 }
 
+int FileSystemCalls::access(const char* path, int mode) {
+  return ::access(path, mode);
+}
+
 int FileSystemCalls::unlink(const char* path) {
   return ::unlink(path);
 }

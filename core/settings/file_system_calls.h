@@ -1,5 +1,6 @@
-// FileSystemCalls: the handful of POSIX calls DurableFile makes, behind one interface so that a
-// test can fail any one of them. Each returns what the POSIX call returns and leaves errno set.
+// FileSystemCalls: the handful of POSIX calls DurableFile and SettingsStore make, behind one
+// interface so that a test can fail any one of them. Each returns what the POSIX call returns and
+// leaves errno set.
 #pragma once
 
 #include <sys/types.h>
@@ -21,6 +22,7 @@ class FileSystemCalls {
   virtual int rename(const char* from, const char* to);
   virtual int unlink(const char* path);
   virtual int makeFolders(const char* path);  // like `mkdir -p`: 0, or -1 with errno
+  virtual int access(const char* path, int mode);
 
   // The process-wide instance that makes the real calls.
   static FileSystemCalls& system();

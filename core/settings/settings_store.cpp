@@ -80,9 +80,10 @@ std::filesystem::path SettingsStore::defaultFile() {
   return folder / "tindra" / "settings.json";
 }
 
-SettingsStore::SettingsStore(std::filesystem::path file, Clock clock)
+SettingsStore::SettingsStore(std::filesystem::path file, Clock clock, FileSystemCalls& calls)
     : file_(std::move(file)),
       clock_(std::move(clock)),
+      calls_(calls),
       registry_(std::make_shared<SettingsObservation::Registry>()) {
   load();
 }
@@ -115,7 +116,8 @@ void SettingsStore::reload() {
 
 std::vector<std::string> SettingsStore::load() {
   JSONValue::Object loaded;
-  const DurableFile durable(file_);
+  keepAsideError_ = 0;
+  const DurableFile durable(file_, calls_);
   std::expected<std::string, int> bytes = durable.read();
   if (bytes) {
     std::expected<JSONValue, JSONParseError> document = JSONReader::parse(*bytes);
@@ -141,15 +143,18 @@ std::vector<std::string> SettingsStore::load() {
 }
 
 // Moves an unreadable file out of the way under a dated name, so that saving never overwrites
-// whatever the user had in it.
+// whatever the user had in it. When the move fails, saving waits until a later load manages it.
 void SettingsStore::keepAside() {
   const std::string stem = file_.filename().string() + ".unreadable-" + compactUTCStamp(clock_());
   std::filesystem::path aside = file_.parent_path() / stem;
-  std::error_code error;
-  for (int attempt = 2; std::filesystem::exists(aside, error); ++attempt) {
+  for (int attempt = 2; calls_.access(aside.c_str(), F_OK) == 0; ++attempt) {
     aside = file_.parent_path() / (stem + "-" + std::to_string(attempt));
   }
-  if (std::rename(file_.c_str(), aside.c_str()) == 0) keptAside_ = aside;
+  if (calls_.rename(file_.c_str(), aside.c_str()) == 0) {
+    keptAside_ = aside;
+  } else {
+    keepAsideError_ = errno != 0 ? errno : EIO;
+  }
 }
 
 SettingsStore::WriteResult SettingsStore::change(std::string_view name,
@@ -166,7 +171,11 @@ SettingsStore::WriteResult SettingsStore::change(std::string_view name,
 }
 
 SettingsStore::WriteResult SettingsStore::save() {
-  return DurableFile(file_).write(JSONWriter::writePretty(JSONValue(values_)));
+  if (keepAsideError_ != 0) {
+    return std::unexpected(
+        DurableFile::Failure{DurableFile::Failure::Step::rename, keepAsideError_});
+  }
+  return DurableFile(file_, calls_).write(JSONWriter::writePretty(JSONValue(values_)));
 }
 
 void SettingsStore::notify(std::string_view name) {

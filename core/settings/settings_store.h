@@ -2,8 +2,9 @@
 // (nothing stored, or a value of the wrong type, reads as the key's default); defaults are never
 // written. Every write reaches the file at once through DurableFile; `reload` picks up what
 // another process wrote and tells the observers of the keys that changed. A file that cannot be
-// read as JSON is kept aside under a dated name, never deleted. Single-threaded: use it from one
-// thread (the app's main thread).
+// read as JSON is kept aside under a dated name, never deleted; until that move succeeds nothing
+// is saved over it. All file access goes through FileSystemCalls. Single-threaded: use it from
+// one thread (the app's main thread).
 #pragma once
 
 #include <algorithm>
@@ -52,8 +53,10 @@ class SettingsStore {
   // "$XDG_CONFIG_HOME/tindra/settings.json", or "~/.config/tindra/settings.json" without it.
   static std::filesystem::path defaultFile();
 
-  // Loads `file` (a missing file means every key reads its default).
-  SettingsStore(std::filesystem::path file, Clock clock);
+  // Loads `file` (a missing file means every key reads its default). `calls` must outlive the
+  // store; tests pass a fault-injecting one.
+  SettingsStore(std::filesystem::path file, Clock clock,
+                FileSystemCalls& calls = FileSystemCalls::system());
   ~SettingsStore();
   SettingsStore(const SettingsStore&) = delete;
   SettingsStore& operator=(const SettingsStore&) = delete;
@@ -102,6 +105,10 @@ class SettingsStore {
 
   std::filesystem::path file_;
   Clock clock_;
+  FileSystemCalls& calls_;
+  // errno of the last failed attempt to move an unreadable file aside; while set, nothing is
+  // saved, so the unreadable file is never overwritten.
+  int keepAsideError_ = 0;
   JSONValue::Object values_;
   std::shared_ptr<SettingsObservation::Registry> registry_;
   std::optional<std::filesystem::path> keptAside_;

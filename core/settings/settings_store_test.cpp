@@ -7,6 +7,7 @@
 #include <set>
 #include <sstream>
 
+#include "settings/faulty_file_system_calls.h"
 #include "settings/settings_keys.h"
 
 namespace tindra {
@@ -25,8 +26,9 @@ class SettingsStoreTest : public ::testing::Test {
   }
   void TearDown() override { fs::remove_all(folder_); }
 
-  SettingsStore open() {
-    return SettingsStore(file_, [] { return 1'795'000'000.0; });
+  SettingsStore open(FileSystemCalls& calls = FileSystemCalls::system()) {
+    return SettingsStore(
+        file_, [] { return 1'795'000'000.0; }, calls);
   }
 
   void putFile(const std::string& text) {
@@ -214,6 +216,43 @@ TEST(SettingsKeys, TableIsCompleteOrderedAndUnique) {
   ASSERT_NE(width, nullptr);
   EXPECT_EQ(width->defaultValue, JSONValue(190.0));
   EXPECT_EQ(settings::describeKey("AppleLanguages"), nullptr);
+}
+
+TEST_F(SettingsStoreTest, AWriteThatFailsAtAnyStepKeepsWhatWasSaved) {
+  ASSERT_TRUE(open().write(settings::hudDuration, 2.5));
+  const std::string saved = fileText();
+  using Call = FaultyCalls::Call;
+  // Opening the store and reloading before the write each open the file once to read it.
+  for (auto [step, nth] :
+       {std::pair{Call::open, 3}, {Call::write, 1}, {Call::fsync, 1}, {Call::rename, 1}}) {
+    FaultyCalls calls;
+    calls.fail(step, EIO, nth);
+    SettingsStore store = open(calls);
+    const auto result = store.write(settings::hudDuration, 4.0);
+    EXPECT_FALSE(result.has_value()) << static_cast<int>(step);
+    EXPECT_EQ(fileText(), saved) << static_cast<int>(step);
+    EXPECT_EQ(open().read(settings::hudDuration), 2.5);
+  }
+}
+
+TEST_F(SettingsStoreTest, NothingIsSavedOverAnUnreadableFileThatCouldNotBeMovedAside) {
+  putFile("{ not json");
+  FaultyCalls calls;
+  calls.fail(FaultyCalls::Call::rename, EACCES);  // the move aside, on opening
+  SettingsStore store = open(calls);
+  EXPECT_FALSE(store.keptAside());
+  calls.fail(FaultyCalls::Call::rename, EACCES, 2);  // and again when the write reloads
+  const auto refused = store.write(settings::playSounds, false);
+  ASSERT_FALSE(refused.has_value());
+  EXPECT_EQ(refused.error().step, DurableFile::Failure::Step::rename);
+  EXPECT_EQ(fileText(), "{ not json");
+
+  // Once the move works, the unreadable text is kept aside and the write goes through.
+  ASSERT_TRUE(store.write(settings::playSounds, false));
+  ASSERT_TRUE(store.keptAside());
+  std::ifstream aside(*store.keptAside());
+  EXPECT_EQ(std::string(std::istreambuf_iterator<char>(aside), {}), "{ not json");
+  EXPECT_FALSE(open().read(settings::playSounds));
 }
 
 }  // namespace
