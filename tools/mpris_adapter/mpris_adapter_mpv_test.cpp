@@ -1,0 +1,153 @@
+// The adapter against a real player: mpv with its MPRIS plug-in on this program's private
+// session bus (scripts/private-session), playing two generated tones. The adapter's own output
+// is read with the notch's parser, so what is tested is what the notch would show.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+#include <memory>
+
+#include "nowplaying/adapter_message_parser.h"
+
+namespace tindra {
+namespace {
+
+const QString mprisPlugin = QStringLiteral("/usr/lib/mpv-mpris/mpris.so");
+
+class MprisAdapterWithMpvTest : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    if (QStandardPaths::findExecutable("mpv").isEmpty() || !QFileInfo::exists(mprisPlugin) ||
+        QStandardPaths::findExecutable("sox").isEmpty()) {
+      missing_ = "mpv, mpv-mpris and sox are needed (scripts/install-deps installs them)";
+      return;
+    }
+    folder_ = std::make_unique<QTemporaryDir>();
+    for (const auto& [name, pitch] : {std::pair{"first.wav", "440"}, {"second.wav", "660"}}) {
+      QProcess::execute("sox", {"-n", "-r", "8000", "-c", "1", folder_->filePath(name), "synth",
+                                "60", "sine", pitch});
+    }
+  }
+  static void TearDownTestSuite() { folder_.reset(); }
+
+  void SetUp() override {
+    if (!missing_.empty()) GTEST_SKIP() << missing_;
+  }
+
+  // A player on the bus, playing both tones in turn; no sound card needed.
+  static std::unique_ptr<QProcess> startPlayer() {
+    auto player = std::make_unique<QProcess>();
+    player->start(
+        "mpv", {"--no-config", "--script=" + mprisPlugin, "--ao=null", "--vo=null",
+                "--really-quiet", folder_->filePath("first.wav"), folder_->filePath("second.wav")});
+    const bool onBus = QTest::qWaitFor(
+        [] {
+          return QDBusConnection::sessionBus().interface()->isServiceRegistered(
+              "org.mpris.MediaPlayer2.mpv");
+        },
+        10000);
+    EXPECT_TRUE(onBus) << "mpv did not appear on the bus";
+    return player;
+  }
+  static void stopPlayer(QProcess& player) {
+    player.terminate();
+    player.waitForFinished(5000);
+  }
+  static int runAdapter(const QStringList& words) {
+    return QProcess::execute(TINDRA_ADAPTER, words);
+  }
+
+  // The adapter's stream, read as the notch reads it.
+  struct Stream {
+    QProcess process;
+    AdapterMessageParser parser;
+    std::optional<NowPlayingSnapshot> latest;
+    int messages = 0;
+
+    Stream() {
+      QObject::connect(&process, &QProcess::readyReadStandardOutput, [this] {
+        const QByteArray bytes = process.readAllStandardOutput();
+        for (auto& result : parser.feed({bytes.constData(), std::size_t(bytes.size())})) {
+          ASSERT_TRUE(result.has_value()) << result.error().description();
+          latest = *result;
+          ++messages;
+        }
+      });
+      process.start(TINDRA_ADAPTER, {"stream", "--micros", "--debounce=50", "--no-artwork"});
+    }
+    ~Stream() {
+      process.kill();
+      process.waitForFinished(2000);
+    }
+    bool waitFor(const std::function<bool(const std::optional<NowPlayingSnapshot>&)>& seen) {
+      return QTest::qWaitFor([&] { return messages > 0 && seen(latest); }, 10000);
+    }
+  };
+
+  static inline std::string missing_;
+  static inline std::unique_ptr<QTemporaryDir> folder_;
+};
+
+TEST_F(MprisAdapterWithMpvTest, StreamFollowsThePlayerAndCommandsReachIt) {
+  std::unique_ptr<QProcess> player = startPlayer();
+  Stream stream;
+  // The player names the file first and its length once it has read it.
+  ASSERT_TRUE(stream.waitFor(
+      [](const auto& s) { return s && s->title == "first.wav" && s->duration == 60.0; }));
+  EXPECT_TRUE(stream.latest->isPlaying);
+  EXPECT_EQ(stream.latest->bundleIdentifier, "mpv");
+
+  EXPECT_EQ(runAdapter({"send", "1"}), 0);
+  ASSERT_TRUE(stream.waitFor([](const auto& s) { return s && !s->isPlaying; }));
+
+  EXPECT_EQ(runAdapter({"seek", "30000000"}), 0);
+  ASSERT_TRUE(stream.waitFor(
+      [](const auto& s) { return s && s->elapsed && std::abs(*s->elapsed - 30) < 1; }));
+
+  EXPECT_EQ(runAdapter({"send", "4"}), 0);
+  ASSERT_TRUE(stream.waitFor([](const auto& s) { return s && s->title == "second.wav"; }));
+  EXPECT_EQ(runAdapter({"send", "5"}), 0);
+  ASSERT_TRUE(stream.waitFor([](const auto& s) { return s && s->title == "first.wav"; }));
+
+  EXPECT_EQ(runAdapter({"repeat", "2"}), 0);
+  ASSERT_TRUE(
+      stream.waitFor([](const auto& s) { return s && s->repeatMode == RepeatMode::track; }));
+
+  // The player quits: nothing plays; it comes back: it is followed again.
+  stopPlayer(*player);
+  ASSERT_TRUE(stream.waitFor([](const auto& s) { return !s.has_value(); }));
+  player = startPlayer();
+  ASSERT_TRUE(stream.waitFor([](const auto& s) { return s && s->title == "first.wav"; }));
+  stopPlayer(*player);
+}
+
+TEST_F(MprisAdapterWithMpvTest, SelfTestAndCommandsWithoutAPlayerOrABus) {
+  EXPECT_EQ(runAdapter({"test"}), 0);
+  EXPECT_EQ(runAdapter({"send", "2"}), 1);   // nobody to send it to
+  EXPECT_EQ(runAdapter({"send", "3"}), 64);  // stop is never sent
+  EXPECT_EQ(runAdapter({"repeat", "4"}), 64);
+  EXPECT_EQ(runAdapter({"seek", "soon"}), 64);
+
+  QProcess noBus;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent/bus");
+  noBus.setProcessEnvironment(environment);
+  noBus.start(TINDRA_ADAPTER, {"test"});
+  ASSERT_TRUE(noBus.waitForFinished(10000));
+  EXPECT_EQ(noBus.exitCode(), 2);
+}
+
+}  // namespace
+}  // namespace tindra
+
+int main(int argc, char** argv) {
+  QCoreApplication app(argc, argv);
+  ::testing::InitGoogleTest(&argc, argv);
+  return RUN_ALL_TESTS();
+}

@@ -1,0 +1,93 @@
+#include "mpris_payload.h"
+
+#include <QByteArray>
+#include <QUrl>
+#include <cmath>
+#include <span>
+
+#include "base/base64.h"
+#include "nowplaying/now_playing_snapshot.h"
+
+namespace tindra::MprisPayload {
+
+namespace {
+
+void putText(JSONValue::Object& payload, const char* key, const QString& text) {
+  const QString trimmed = text.trimmed();
+  if (!trimmed.isEmpty()) payload.insert_or_assign(key, trimmed.left(4096).toStdString());
+}
+
+// xesam:artist is a list of strings; some players send one string.
+QString artists(const QVariant& value) {
+  const QStringList list = value.toStringList();
+  return list.isEmpty() ? value.toString() : list.join(QStringLiteral(", "));
+}
+
+// Microsecond times within the seven days any source may report.
+std::optional<double> micros(const QVariant& value) {
+  bool ok = false;
+  const qlonglong number = value.toLongLong(&ok);
+  if (!ok || number < 0 || number > NowPlayingSnapshot::maxSeconds * 1e6) return std::nullopt;
+  return static_cast<double>(number);
+}
+
+}  // namespace
+
+std::optional<std::string> coverBytes(const QString& artUrl, const ReadFile& readFile) {
+  if (artUrl.startsWith(QLatin1String("data:"))) {
+    // data:[<type>][;base64],<data>
+    const qsizetype comma = artUrl.indexOf(u',');
+    if (comma < 0) return std::nullopt;
+    const QString header = artUrl.mid(5, comma - 5);
+    const QByteArray body = artUrl.mid(comma + 1).toLatin1();
+    QByteArray bytes = header.endsWith(QLatin1String(";base64"))
+                           ? QByteArray::fromBase64(body)
+                           : QByteArray::fromPercentEncoding(body);
+    if (bytes.isEmpty() || static_cast<std::size_t>(bytes.size()) > maxCoverBytes)
+      return std::nullopt;
+    return bytes.toStdString();
+  }
+  const QUrl url(artUrl);
+  if (url.isLocalFile()) return readFile(url.toLocalFile(), maxCoverBytes);
+  return std::nullopt;
+}
+
+JSONValue::Object make(const std::optional<MprisPlayerState>& player, bool includeArtwork,
+                       const ReadFile& readFile) {
+  JSONValue::Object payload;
+  if (!player || !player->hasTrack()) return payload;
+  const QVariantMap& metadata = player->metadata;
+  putText(payload, "title", metadata.value(QStringLiteral("xesam:title")).toString());
+  putText(payload, "artist", artists(metadata.value(QStringLiteral("xesam:artist"))));
+  putText(payload, "album", metadata.value(QStringLiteral("xesam:album")).toString());
+  putText(payload, "bundleIdentifier", player->bundleIdentifier());
+  payload.insert_or_assign("playing", player->isPlaying());
+  if (std::isfinite(player->rate) && player->rate >= 0) {
+    payload.insert_or_assign("playbackRate", player->rate);
+  }
+  if (const auto length = micros(metadata.value(QStringLiteral("mpris:length")));
+      length && *length > 0) {
+    payload.insert_or_assign("durationMicros", *length);
+  }
+  if (player->positionMicros) {
+    if (const auto position = micros(QVariant::fromValue(*player->positionMicros))) {
+      payload.insert_or_assign("elapsedTimeMicros", *position);
+      payload.insert_or_assign("timestampEpochMicros",
+                               static_cast<double>(player->sampledAtMicros));
+    }
+  }
+  if (player->shuffle) payload.insert_or_assign("shuffleMode", *player->shuffle ? 3.0 : 1.0);
+  if (player->loopStatus == QLatin1String("None")) payload.insert_or_assign("repeatMode", 1.0);
+  if (player->loopStatus == QLatin1String("Track")) payload.insert_or_assign("repeatMode", 2.0);
+  if (player->loopStatus == QLatin1String("Playlist")) payload.insert_or_assign("repeatMode", 3.0);
+  if (includeArtwork) {
+    const QString artUrl = metadata.value(QStringLiteral("mpris:artUrl")).toString();
+    if (const auto bytes = coverBytes(artUrl, readFile)) {
+      const auto* data = reinterpret_cast<const std::uint8_t*>(bytes->data());
+      payload.insert_or_assign("artworkData", encodeBase64(std::span(data, bytes->size())));
+    }
+  }
+  return payload;
+}
+
+}  // namespace tindra::MprisPayload

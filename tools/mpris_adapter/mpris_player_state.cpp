@@ -1,0 +1,28 @@
+#include "mpris_player_state.h"
+
+#include <QDBusObjectPath>
+#include <QRegularExpression>
+
+namespace tindra {
+
+bool MprisPlayerState::hasTrack() const {
+  return !metadata.value(QStringLiteral("xesam:title")).toString().trimmed().isEmpty();
+}
+
+QString MprisPlayerState::trackKey() const {
+  const QVariant id = metadata.value(QStringLiteral("mpris:trackid"));
+  QString key =
+      id.canConvert<QDBusObjectPath>() ? id.value<QDBusObjectPath>().path() : id.toString();
+  if (key.isEmpty()) key = metadata.value(QStringLiteral("xesam:url")).toString();
+  return key;
+}
+
+QString MprisPlayerState::bundleIdentifier() const {
+  if (!desktopEntry.isEmpty()) return desktopEntry;
+  QString name = busName.section(u'.', 3);  // after "org.mpris.MediaPlayer2."
+  static const QRegularExpression instance(QStringLiteral("\\.instance_?\\d+(_\\d+)?$"));
+  name.remove(instance);
+  return name;
+}
+
+}  // namespace tindra

@@ -1,0 +1,37 @@
+// MprisPlayerState: what the adapter knows of one MPRIS player on the session bus, as plain
+// values: its status, track, position sample and modes. Everything in it came from another
+// process, so nothing is trusted until the payload is made.
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <QVariantMap>
+#include <cstdint>
+#include <optional>
+
+namespace tindra {
+
+struct MprisPlayerState {
+  QString busName;         // "org.mpris.MediaPlayer2.mpv"
+  QString desktopEntry;    // "mpv", "firefox"; empty when the player gives none
+  QString playbackStatus;  // "Playing", "Paused", "Stopped"
+  QVariantMap metadata;
+  double rate = 1.0;
+  std::optional<bool> shuffle;
+  QString loopStatus;  // "None", "Track", "Playlist"; empty when the player has none
+  std::optional<std::int64_t> positionMicros;  // at `sampledAtMicros`
+  std::int64_t sampledAtMicros = 0;            // microseconds since 1970
+  std::int64_t lastActiveMicros = 0;           // when it last changed anything
+  std::int64_t startedPlayingMicros = 0;       // when it last changed to Playing
+
+  bool isPlaying() const { return playbackStatus == QLatin1String("Playing"); }
+  // A player without a title has nothing to show (an idle browser tab, a remote device).
+  bool hasTrack() const;
+  // What names the track for position reads: the track id, else the address.
+  QString trackKey() const;
+  // The bundle identifier the notch names the player by: the desktop entry, else the bus name's
+  // last part without a browser's ".instanceNNNN".
+  QString bundleIdentifier() const;
+};
+
+}  // namespace tindra

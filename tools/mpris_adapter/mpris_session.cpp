@@ -1,0 +1,217 @@
+#include "mpris_session.h"
+
+#include <QDBusConnectionInterface>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusVariant>
+#include <QTimer>
+#include <cmath>
+#include <cstdio>
+
+namespace tindra {
+
+namespace {
+
+const QString prefix = QStringLiteral("org.mpris.MediaPlayer2.");
+const QString objectPath = QStringLiteral("/org/mpris/MediaPlayer2");
+const QString rootInterface = QStringLiteral("org.mpris.MediaPlayer2");
+const QString playerInterface = QStringLiteral("org.mpris.MediaPlayer2.Player");
+const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+
+void complain(const QString& busName, const QString& what) {
+  std::fprintf(stderr, "tindra-mpris-adapter: %s: %s\n", qPrintable(busName), qPrintable(what));
+}
+
+// D-Bus variants arrive wrapped once more inside a{sv} maps.
+QVariant unwrapped(const QVariant& value) {
+  return value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
+}
+
+}  // namespace
+
+MprisSession::MprisSession(QDBusConnection bus, Clock now, QObject* parent)
+    : QObject(parent), bus_(std::move(bus)), now_(std::move(now)) {}
+
+void MprisSession::start() {
+  bus_.connect(QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+               QStringLiteral("org.freedesktop.DBus"), QStringLiteral("NameOwnerChanged"), this,
+               SLOT(onNameOwnerChanged(QString, QString, QString)));
+  bus_.connect(QString(), objectPath, propertiesInterface, QStringLiteral("PropertiesChanged"),
+               this, SLOT(onPropertiesChanged(QString, QVariantMap, QStringList, QDBusMessage)));
+  bus_.connect(QString(), objectPath, playerInterface, QStringLiteral("Seeked"), this,
+               SLOT(onSeeked(qlonglong, QDBusMessage)));
+  const QStringList names = bus_.interface()->registeredServiceNames().value();
+  for (const QString& name : names) {
+    if (name.startsWith(prefix)) addPlayer(name, bus_.interface()->serviceOwner(name).value());
+  }
+}
+
+std::optional<MprisPlayerState> MprisSession::chosen() const {
+  return choose(players_.values());
+}
+
+std::optional<MprisPlayerState> MprisSession::choose(const QList<MprisPlayerState>& players) {
+  const MprisPlayerState* best = nullptr;
+  for (const MprisPlayerState& player : players) {
+    if (!player.hasTrack()) continue;
+    if (best == nullptr) {
+      best = &player;
+    } else if (player.isPlaying() != best->isPlaying()) {
+      if (player.isPlaying()) best = &player;
+    } else if (player.isPlaying() ? player.startedPlayingMicros > best->startedPlayingMicros
+                                  : player.lastActiveMicros > best->lastActiveMicros) {
+      best = &player;
+    }
+  }
+  return best ? std::optional(*best) : std::nullopt;
+}
+
+void MprisSession::onNameOwnerChanged(const QString& name, const QString& oldOwner,
+                                      const QString& newOwner) {
+  if (!name.startsWith(prefix)) return;
+  if (!oldOwner.isEmpty()) removePlayer(name);
+  if (!newOwner.isEmpty()) addPlayer(name, newOwner);
+}
+
+void MprisSession::addPlayer(const QString& busName, const QString& owner) {
+  MprisPlayerState player;
+  player.busName = busName;
+  player.lastActiveMicros = now_();
+  players_.insert(busName, player);
+  owners_.insert(owner, busName);
+  readAll(busName);
+}
+
+void MprisSession::removePlayer(const QString& busName) {
+  if (!players_.remove(busName)) return;
+  for (auto it = owners_.begin(); it != owners_.end();) {
+    it = it.value() == busName ? owners_.erase(it) : std::next(it);
+  }
+  emit changed();
+}
+
+void MprisSession::readAll(const QString& busName) {
+  for (const QString& interface : {rootInterface, playerInterface}) {
+    QDBusMessage call = QDBusMessage::createMethodCall(busName, objectPath, propertiesInterface,
+                                                       QStringLiteral("GetAll"));
+    call << interface;
+    auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call, 2000), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this,
+            [this, busName, interface](QDBusPendingCallWatcher* reply) {
+              reply->deleteLater();
+              const QDBusPendingReply<QVariantMap> properties = *reply;
+              auto player = players_.find(busName);
+              if (player == players_.end()) return;
+              if (properties.isError()) {
+                complain(busName, properties.error().message());
+                return;
+              }
+              if (interface == rootInterface) {
+                player->desktopEntry =
+                    unwrapped(properties.value().value(QStringLiteral("DesktopEntry"))).toString();
+                emit changed();
+                return;
+              }
+              apply(*player, properties.value());
+              readPosition(busName);
+              emit changed();
+            });
+  }
+}
+
+void MprisSession::readPosition(const QString& busName, bool retry) {
+  QDBusMessage call = QDBusMessage::createMethodCall(busName, objectPath, propertiesInterface,
+                                                     QStringLiteral("Get"));
+  call << playerInterface << QStringLiteral("Position");
+  auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call, 2000), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this,
+          [this, busName, retry](QDBusPendingCallWatcher* reply) {
+            reply->deleteLater();
+            const QDBusPendingReply<QDBusVariant> position = *reply;
+            auto player = players_.find(busName);
+            if (player == players_.end()) return;
+            // A player still loading the next track may refuse once; ask again a moment later.
+            if (position.isError() && retry) {
+              QTimer::singleShot(positionRetryMilliseconds, this,
+                                 [this, busName] { readPosition(busName, false); });
+              return;
+            }
+            bool ok = false;
+            const qlonglong micros =
+                position.isError() ? 0 : position.value().variant().toLongLong(&ok);
+            // Players without a position (some browsers) answer with an error or nonsense.
+            player->positionMicros = ok && micros >= 0 ? std::optional(micros) : std::nullopt;
+            player->sampledAtMicros = now_();
+            emit changed();
+          });
+}
+
+bool MprisSession::apply(MprisPlayerState& player, const QVariantMap& properties) {
+  const QString oldTrack = player.trackKey();
+  const QString oldStatus = player.playbackStatus;
+  const double oldRate = player.rate;
+  for (auto it = properties.begin(); it != properties.end(); ++it) {
+    const QVariant value = unwrapped(it.value());
+    if (it.key() == QLatin1String("PlaybackStatus")) {
+      player.playbackStatus = value.toString();
+    } else if (it.key() == QLatin1String("Metadata")) {
+      const QDBusArgument argument = value.value<QDBusArgument>();
+      QVariantMap metadata;
+      if (value.userType() == qMetaTypeId<QDBusArgument>()) {
+        argument >> metadata;
+      } else {
+        metadata = value.toMap();
+      }
+      player.metadata.clear();
+      for (auto entry = metadata.begin(); entry != metadata.end(); ++entry) {
+        player.metadata.insert(entry.key(), unwrapped(entry.value()));
+      }
+    } else if (it.key() == QLatin1String("Rate")) {
+      bool ok = false;
+      const double rate = value.toDouble(&ok);
+      if (ok && std::isfinite(rate)) player.rate = rate;
+    } else if (it.key() == QLatin1String("Shuffle") && value.userType() == QMetaType::Bool) {
+      player.shuffle = value.toBool();
+    } else if (it.key() == QLatin1String("LoopStatus")) {
+      player.loopStatus = value.toString();
+    }
+  }
+  player.lastActiveMicros = now_();
+  if (player.isPlaying() && oldStatus != player.playbackStatus) {
+    player.startedPlayingMicros = player.lastActiveMicros;
+  }
+  return oldTrack != player.trackKey() || oldStatus != player.playbackStatus ||
+         oldRate != player.rate;
+}
+
+MprisPlayerState* MprisSession::byOwner(const QString& owner) {
+  const auto name = owners_.find(owner);
+  if (name == owners_.end()) return nullptr;
+  const auto player = players_.find(name.value());
+  return player == players_.end() ? nullptr : &player.value();
+}
+
+void MprisSession::onPropertiesChanged(const QString& interface, const QVariantMap& changed,
+                                       const QStringList& invalidated,
+                                       const QDBusMessage& message) {
+  MprisPlayerState* player = byOwner(message.service());
+  if (player == nullptr || interface != playerInterface) return;
+  if (!invalidated.isEmpty()) {
+    readAll(player->busName);  // a value changed without being sent
+    return;
+  }
+  const bool moved = apply(*player, changed);
+  if (moved) readPosition(player->busName);
+  emit this->changed();
+}
+
+void MprisSession::onSeeked(qlonglong position, const QDBusMessage& message) {
+  MprisPlayerState* player = byOwner(message.service());
+  if (player == nullptr) return;
+  player->positionMicros = position >= 0 ? std::optional<std::int64_t>(position) : std::nullopt;
+  player->sampledAtMicros = now_();
+  player->lastActiveMicros = player->sampledAtMicros;
+  emit changed();
+}
+
+}  // namespace tindra
