@@ -35,6 +35,12 @@ AdapterProbe::AdapterProbe(AdapterLaunch launch, FileExists fileExists, QObject*
   });
 }
 
+AdapterProbe::~AdapterProbe() {
+  process_.disconnect(this);
+  process_.kill();
+  process_.waitForFinished(1000);
+}
+
 void AdapterProbe::run(int timeoutMilliseconds) {
   if (running_) return;
   QStringList missing;

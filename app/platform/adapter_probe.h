@@ -21,6 +21,10 @@ class AdapterProbe : public QObject {
 
   explicit AdapterProbe(AdapterLaunch launch, FileExists fileExists = nullptr,
                         QObject* parent = nullptr);
+  // Ends a test still running, without a result.
+  ~AdapterProbe() override;
+
+  const AdapterLaunch& launch() const { return launch_; }
 
   // Runs the test once; `finished` follows, possibly before this returns.
   void run(int timeoutMilliseconds = defaultTimeoutMilliseconds);

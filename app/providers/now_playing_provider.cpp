@@ -36,6 +36,9 @@ void NowPlayingProvider::start() {
     return;
   }
   if (probe_) {
+    diagnostics().record(lcNowPlaying(), name(), DiagnosticsLog::Outcome::ok,
+                         QStringLiteral("testing the now-playing adapter %1")
+                             .arg(QString::fromStdString(probe_->launch().program)));
     probe_->run();
   } else {
     startSource();

@@ -40,10 +40,10 @@ class NowPlayingProviderTest : public ::testing::Test {
         },
         std::move(probe));
   }
-  // Starts the provider and waits for its self-test, if it has one.
+  // Starts the provider and waits for its self-test's result (after the line saying it runs).
   void start() {
     provider_->start();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return !diagnostics_.entries().isEmpty(); }, 5000));
+    ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() >= 2; }, 5000));
   }
   DiagnosticsLog::Outcome lastOutcome() const { return diagnostics_.entries().back().outcome; }
 
@@ -117,11 +117,11 @@ TEST_F(NowPlayingProviderTest, TheSourceRunsOnlyWhileTheAdapterPassesItsSelfTest
 
   // Repeated failures bring a retest; passing keeps the source, failing drops it.
   emit source_->repeatedFailure();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 2; }, 5000));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 3; }, 5000));
   EXPECT_TRUE(provider_->hasSource());
   QFile(flag).open(QIODevice::WriteOnly);
   emit source_->repeatedFailure();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 3; }, 5000));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 4; }, 5000));
   EXPECT_EQ(lastOutcome(), DiagnosticsLog::Outcome::failed);
   EXPECT_TRUE(diagnostics_.entries().back().text.contains("exit status 3"));
   EXPECT_FALSE(provider_->hasSource());
