@@ -52,7 +52,8 @@ void TindraApp::startProviders() {
   const ProviderContext context{*activities_, *settings_, *diagnostics_};
   NowPlayingBackend nowPlaying = makeNowPlayingBackend();
   providers_.push_back(std::make_unique<NowPlayingProvider>(
-      context, std::move(nowPlaying.makeSource), std::move(nowPlaying.probe)));
+      context, std::move(nowPlaying.makeSource), std::move(nowPlaying.probe),
+      std::move(nowPlaying.artwork)));
   providers_.push_back(std::make_unique<BatteryProvider>(context, makeBatteryBackend()));
   for (const auto& provider : providers_) {
     views_.setModel(provider->name(), provider->viewModel());

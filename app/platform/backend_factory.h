@@ -12,10 +12,12 @@ namespace tindra {
 
 std::unique_ptr<BatteryBackend> makeBatteryBackend();
 
-// The now-playing source to make and the self-test to run first (none for the fake).
+// The now-playing source to make, the self-test to run first (none for the fake) and what
+// downloads covers (nothing, for the fake).
 struct NowPlayingBackend {
   NowPlayingProvider::SourceFactory makeSource;
   std::unique_ptr<AdapterProbe> probe;
+  std::unique_ptr<ArtworkFetcher> artwork;
 };
 NowPlayingBackend makeNowPlayingBackend();
 

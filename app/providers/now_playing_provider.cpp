@@ -1,5 +1,7 @@
 #include "providers/now_playing_provider.h"
 
+#include <QDateTime>
+
 #include "activity_center.h"
 #include "diagnostics/diagnostics_log.h"
 #include "logging_categories.h"
@@ -10,12 +12,31 @@
 namespace tindra {
 
 NowPlayingProvider::NowPlayingProvider(ProviderContext context, SourceFactory makeSource,
-                                       std::unique_ptr<AdapterProbe> probe, QObject* parent)
+                                       std::unique_ptr<AdapterProbe> probe,
+                                       std::unique_ptr<ArtworkFetcher> fetcher, QObject* parent)
     : Provider(context, parent),
       makeSource_(std::move(makeSource)),
       probe_(std::move(probe)),
+      fetcher_(std::move(fetcher)),
+      artwork_(
+          *fetcher_, [this] { return settings().read(settings::artworkOnlineLookup); },
+          [] { return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0; }),
       viewModel_([this](const NowPlayingCommand& command) { send(command); }) {
   if (probe_) connect(probe_.get(), &AdapterProbe::finished, this, &NowPlayingProvider::onProbed);
+  connect(&artwork_, &ArtworkService::changed, this, &NowPlayingProvider::showCover);
+}
+
+void NowPlayingProvider::showCover() {
+  const auto& artwork = artwork_.current();
+  const bool tinted =
+      settings().read(settings::nowPlayingProgressTint) == NowPlayingProgressTint::artwork;
+  QColor bar;
+  if (artwork && artwork->tint && tinted) {
+    bar = QColor::fromRgbF(static_cast<float>(artwork->tint->red),
+                           static_cast<float>(artwork->tint->green),
+                           static_cast<float>(artwork->tint->blue));
+  }
+  viewModel_.setCover(artwork ? artwork->image : QImage(), bar);
 }
 
 NowPlayingProvider::~NowPlayingProvider() = default;
@@ -75,6 +96,7 @@ void NowPlayingProvider::show(const std::optional<NowPlayingSnapshot>& snapshot)
       NowPlayingActivityPolicy::event(snapshot, wasPlaying_, pausedLinger());
   wasPlaying_ = snapshot && snapshot->isPlaying;
   viewModel_.setSnapshot(snapshot);
+  artwork_.show(snapshot);
   if (event) activities().offer(*event);
 }
 

@@ -11,7 +11,9 @@
 #include "nowplaying/now_playing_paused_linger.h"
 #include "nowplaying/now_playing_source_kind.h"
 #include "platform/adapter_probe.h"
+#include "platform/artwork_fetcher.h"
 #include "platform/now_playing_source.h"
+#include "providers/artwork_service.h"
 #include "providers/now_playing_view_model.h"
 #include "providers/provider.h"
 
@@ -23,9 +25,11 @@ class NowPlayingProvider final : public Provider {
  public:
   using SourceFactory = std::function<std::unique_ptr<NowPlayingSource>()>;
 
-  // Without a probe (the fake source) the source starts at once.
+  // Without a probe (the fake source) the source starts at once. Covers are downloaded and
+  // looked up through `fetcher`.
   NowPlayingProvider(ProviderContext context, SourceFactory makeSource,
-                     std::unique_ptr<AdapterProbe> probe, QObject* parent = nullptr);
+                     std::unique_ptr<AdapterProbe> probe, std::unique_ptr<ArtworkFetcher> fetcher,
+                     QObject* parent = nullptr);
   ~NowPlayingProvider() override;
 
   QString name() const override { return QStringLiteral("media"); }
@@ -42,10 +46,13 @@ class NowPlayingProvider final : public Provider {
   void dropSource();
   void show(const std::optional<NowPlayingSnapshot>& snapshot);
   void send(const NowPlayingCommand& command);
+  void showCover();
 
   SourceFactory makeSource_;
   std::unique_ptr<AdapterProbe> probe_;
   std::unique_ptr<NowPlayingSource> source_;
+  std::unique_ptr<ArtworkFetcher> fetcher_;
+  ArtworkService artwork_;
   NowPlayingViewModel viewModel_;
   bool wasPlaying_ = false;
 };

@@ -12,6 +12,7 @@
 #include "activity_center.h"
 #include "diagnostics/diagnostics_log.h"
 #include "platform/fake/fake_now_playing_source.h"
+#include "platform/fake/offline_artwork_fetcher.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/manual_one_shot_scheduler.h"
@@ -38,7 +39,7 @@ class NowPlayingProviderTest : public ::testing::Test {
           source_ = source.get();
           return source;
         },
-        std::move(probe));
+        std::move(probe), std::make_unique<OfflineArtworkFetcher>());
   }
   // Starts the provider and waits for its self-test's result (after the line saying it runs).
   void start() {

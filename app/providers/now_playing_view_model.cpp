@@ -115,6 +115,13 @@ void NowPlayingViewModel::setSnapshot(const std::optional<NowPlayingSnapshot>& s
   if (playbackChanges) emit playbackChanged();
 }
 
+void NowPlayingViewModel::setCover(const QImage& cover, const QColor& barColor) {
+  if (cover == cover_ && barColor == barColor_) return;
+  cover_ = cover;
+  barColor_ = barColor;
+  emit coverChanged();
+}
+
 void NowPlayingViewModel::togglePlayPause() {
   send_(NowPlayingCommand::togglePlayPause());
 }

@@ -4,6 +4,8 @@
 // ticking. Buttons call the Q_INVOKABLE commands, which reach the provider's source.
 #pragma once
 
+#include <QColor>
+#include <QImage>
 #include <QObject>
 #include <QString>
 #include <functional>
@@ -34,6 +36,10 @@ class NowPlayingViewModel : public QObject {
   Q_PROPERTY(bool canSeek READ canSeek NOTIFY trackChanged)
   Q_PROPERTY(bool canShuffle READ canShuffle NOTIFY trackChanged)
   Q_PROPERTY(bool canRepeat READ canRepeat NOTIFY trackChanged)
+  // The cover, null until known; the bar's colour, invalid for the standard one.
+  Q_PROPERTY(QImage cover READ cover NOTIFY coverChanged)
+  Q_PROPERTY(bool hasCover READ hasCover NOTIFY coverChanged)
+  Q_PROPERTY(QColor barColor READ barColor NOTIFY coverChanged)
 
  public:
   using Send = std::function<void(const NowPlayingCommand&)>;
@@ -58,6 +64,11 @@ class NowPlayingViewModel : public QObject {
   bool canSeek() const { return allows(NowPlayingCapabilities::seek()) && duration() > 0; }
   bool canShuffle() const { return allows(NowPlayingCapabilities::shuffle()); }
   bool canRepeat() const { return allows(NowPlayingCapabilities::repeat()); }
+
+  QImage cover() const { return cover_; }
+  bool hasCover() const { return !cover_.isNull(); }
+  QColor barColor() const { return barColor_; }
+  void setCover(const QImage& cover, const QColor& barColor);
 
   const std::optional<NowPlayingSnapshot>& snapshot() const { return snapshot_; }
   // Signals only what really changed: the track's texts, or its playback.
@@ -85,6 +96,7 @@ class NowPlayingViewModel : public QObject {
  signals:
   void trackChanged();
   void playbackChanged();
+  void coverChanged();
 
  private:
   bool allows(NowPlayingCapabilities capability) const {
@@ -97,6 +109,8 @@ class NowPlayingViewModel : public QObject {
   Clock now_;
   std::optional<NowPlayingSnapshot> snapshot_;
   ScrubState scrub_;
+  QImage cover_;
+  QColor barColor_;
 };
 
 }  // namespace tindra

@@ -8,6 +8,7 @@ Item {
     property var model
 
     MediaCover {
+        model: root.model
         anchors.left: parent.left
         anchors.leftMargin: 12
         anchors.verticalCenter: parent.verticalCenter

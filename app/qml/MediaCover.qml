@@ -1,10 +1,12 @@
 import QtQuick
+import Tindra
 
-// The track's cover. Until the cover itself arrives, a tile in the accent colour with a note.
+// The track's cover; until it arrives (or when there is none), a tile with a note.
 Rectangle {
     id: root
 
     property real size: 24
+    property var model
 
     width: root.size
     height: root.size
@@ -15,8 +17,16 @@ Rectangle {
     }
     Text {
         anchors.centerIn: parent
+        visible: !cover.visible
         text: "\u266a"
         color: "white"
         font.pixelSize: root.size * 0.55
+    }
+    CoverImage {
+        id: cover
+        anchors.fill: parent
+        radius: root.radius
+        visible: root.model !== undefined && root.model.hasCover
+        image: root.model ? root.model.cover : undefined
     }
 }

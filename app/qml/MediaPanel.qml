@@ -38,6 +38,7 @@ Row {
     onModelChanged: refresh()
 
     MediaCover {
+        model: root.model
         size: 76
     }
 
@@ -84,7 +85,7 @@ Row {
                     width: parent.width * bar.fraction
                     height: parent.height
                     radius: 2
-                    color: "white"
+                    color: root.model && root.model.barColor.valid ? root.model.barColor : "white"
                 }
             }
             MouseArea {

@@ -1,6 +1,10 @@
 #include "platform/fake/fake_now_playing_source.h"
 
+#include <QBuffer>
 #include <QDateTime>
+#include <QImage>
+#include <QLinearGradient>
+#include <QPainter>
 
 namespace tindra {
 
@@ -10,6 +14,28 @@ FakeNowPlayingSource::FakeNowPlayingSource(Clock now, QObject* parent)
     now_ = [] { return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0; };
   }
 }
+
+namespace {
+
+// An invented cover: a diagonal gradient whose hues change with the track, as PNG bytes.
+NowPlayingSnapshot::Artwork inventedCover(int number) {
+  QImage image(128, 128, QImage::Format_RGB32);
+  QPainter painter(&image);
+  QLinearGradient gradient(0, 0, 128, 128);
+  gradient.setColorAt(0, QColor::fromHsv((number * 67) % 360, 200, 250));
+  gradient.setColorAt(1, QColor::fromHsv((number * 67 + 120) % 360, 220, 160));
+  painter.fillRect(image.rect(), gradient);
+  painter.end();
+  QByteArray png;
+  QBuffer buffer(&png);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, "PNG");
+  return NowPlayingSnapshot::Artwork::embedded(
+      std::span(reinterpret_cast<const std::uint8_t*>(png.constData()),
+                static_cast<std::size_t>(png.size())));
+}
+
+}  // namespace
 
 NowPlayingSnapshot FakeNowPlayingSource::track(int number, double now) {
   NowPlayingSnapshot snapshot;
@@ -25,6 +51,7 @@ NowPlayingSnapshot FakeNowPlayingSource::track(int number, double now) {
   snapshot.shuffle = ShuffleMode::off;
   snapshot.repeatMode = RepeatMode::off;
   snapshot.capabilities = NowPlayingCapabilities::all();
+  snapshot.artwork = inventedCover(number);
   return snapshot;
 }
 

@@ -7,7 +7,9 @@
 #include "platform/backend_selection.h"
 #include "platform/fake/fake_battery_backend.h"
 #include "platform/fake/fake_now_playing_source.h"
+#include "platform/fake/offline_artwork_fetcher.h"
 #include "platform/linux/upower_battery_backend.h"
+#include "platform/network_artwork_fetcher.h"
 #include "platform/null_battery_backend.h"
 #include "platform/platform_adapter_launch.h"
 
@@ -26,11 +28,12 @@ std::unique_ptr<BatteryBackend> makeBatteryBackend() {
 
 NowPlayingBackend makeNowPlayingBackend() {
   if (fakeBackendRequested(QStringLiteral("media"))) {
-    return {[] { return std::make_unique<FakeNowPlayingSource>(); }, nullptr};
+    return {[] { return std::make_unique<FakeNowPlayingSource>(); }, nullptr,
+            std::make_unique<OfflineArtworkFetcher>()};
   }
   const AdapterLaunch launch = platformAdapterLaunch();
   return {[launch] { return std::make_unique<AdapterNowPlayingSource>(launch); },
-          std::make_unique<AdapterProbe>(launch)};
+          std::make_unique<AdapterProbe>(launch), std::make_unique<NetworkArtworkFetcher>()};
 }
 
 }  // namespace tindra
