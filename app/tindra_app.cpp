@@ -6,6 +6,7 @@
 #include "diagnostics/diagnostics_log.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
+#include "platform/adapter_check.h"
 #include "platform/backend_factory.h"
 #include "platform/screen_source_factory.h"
 #include "providers/battery_provider.h"
@@ -51,6 +52,11 @@ TindraApp::~TindraApp() = default;
 void TindraApp::startProviders() {
   const ProviderContext context{*activities_, *settings_, *diagnostics_};
   NowPlayingBackend nowPlaying = makeNowPlayingBackend();
+  if (nowPlaying.adapter) {
+    adapterCheck_ = std::make_unique<AdapterCheck>(*nowPlaying.adapter, *diagnostics_);
+    shell_->addCheck(
+        {tr("Check Now Playing adapter"), [check = adapterCheck_.get()] { check->run(); }});
+  }
   providers_.push_back(std::make_unique<NowPlayingProvider>(
       context, std::move(nowPlaying.makeSource), std::move(nowPlaying.probe),
       std::move(nowPlaying.artwork)));

@@ -14,6 +14,7 @@
 namespace tindra {
 
 class ActivityCenter;
+class AdapterCheck;
 class DiagnosticsLog;
 class NotchContent;
 class Provider;
@@ -57,6 +58,7 @@ class TindraApp : public QObject {
   std::vector<std::unique_ptr<Provider>> providers_;
   ViewRegistry views_;
   std::unique_ptr<NotchContent> content_;
+  std::unique_ptr<AdapterCheck> adapterCheck_;
   std::unique_ptr<ShellActions> shell_;
   std::unique_ptr<TrayItem> tray_;
   std::unique_ptr<ScreenSource> screens_;

@@ -18,6 +18,7 @@ struct NowPlayingBackend {
   NowPlayingProvider::SourceFactory makeSource;
   std::unique_ptr<AdapterProbe> probe;
   std::unique_ptr<ArtworkFetcher> artwork;
+  std::optional<AdapterLaunch> adapter;  // for the on-request check; none for the fake
 };
 NowPlayingBackend makeNowPlayingBackend();
 

@@ -1,11 +1,15 @@
 #include "shell/diagnostics_window.h"
 
 #include <QFontDatabase>
+#include <QHBoxLayout>
+#include <QPushButton>
 #include <QVBoxLayout>
 
 namespace tindra {
 
-DiagnosticsWindow::DiagnosticsWindow(DiagnosticsLog& log, QWidget* parent) : QWidget(parent) {
+DiagnosticsWindow::DiagnosticsWindow(DiagnosticsLog& log, std::vector<Check> checks,
+                                     QWidget* parent)
+    : QWidget(parent) {
   setWindowTitle(tr("Tindra Diagnostics"));
   resize(760, 420);
   view_.setReadOnly(true);
@@ -18,6 +22,14 @@ DiagnosticsWindow::DiagnosticsWindow(DiagnosticsLog& log, QWidget* parent) : QWi
   });
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(&view_);
+  auto* buttons = new QHBoxLayout;
+  for (Check& check : checks) {
+    auto* button = new QPushButton(check.title);
+    connect(button, &QPushButton::clicked, this, std::move(check.run));
+    buttons->addWidget(button);
+  }
+  buttons->addStretch();
+  layout->addLayout(buttons);
 }
 
 }  // namespace tindra

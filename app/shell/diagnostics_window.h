@@ -5,6 +5,8 @@
 
 #include <QPlainTextEdit>
 #include <QWidget>
+#include <functional>
+#include <vector>
 
 #include "diagnostics/diagnostics_log.h"
 
@@ -14,7 +16,13 @@ class DiagnosticsWindow : public QWidget {
   Q_OBJECT
 
  public:
-  explicit DiagnosticsWindow(DiagnosticsLog& log, QWidget* parent = nullptr);
+  // A check a person can run from the window; it writes what it finds to the log.
+  struct Check {
+    QString title;  // "Check Now Playing adapter"
+    std::function<void()> run;
+  };
+
+  DiagnosticsWindow(DiagnosticsLog& log, std::vector<Check> checks, QWidget* parent = nullptr);
 
   QString text() const { return view_.toPlainText(); }
 

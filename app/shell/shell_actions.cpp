@@ -28,7 +28,8 @@ ShellActions::~ShellActions() {
 }
 
 void ShellActions::openDiagnostics() {
-  if (diagnosticsWindow_ == nullptr) diagnosticsWindow_ = new DiagnosticsWindow(diagnostics_);
+  if (diagnosticsWindow_ == nullptr)
+    diagnosticsWindow_ = new DiagnosticsWindow(diagnostics_, checks_);
   diagnosticsWindow_->show();
   diagnosticsWindow_->raise();
   diagnosticsWindow_->activateWindow();

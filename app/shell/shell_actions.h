@@ -31,6 +31,8 @@ class ShellActions : public QObject {
   // Shows the Settings window, making it on first use.
   void openSettings();
   SettingsWindow* settingsWindow() const { return settingsWindow_; }
+  // A check the Diagnostics window offers as a button; add before it is first opened.
+  void addCheck(DiagnosticsWindow::Check check) { checks_.push_back(std::move(check)); }
   void openDiagnostics();
   DiagnosticsWindow* diagnosticsWindow() const { return diagnosticsWindow_; }
 
@@ -43,6 +45,7 @@ class ShellActions : public QObject {
   QMenu menu_;
   QPointer<SettingsWindow> settingsWindow_;
   QPointer<DiagnosticsWindow> diagnosticsWindow_;
+  std::vector<DiagnosticsWindow::Check> checks_;
 };
 
 }  // namespace tindra

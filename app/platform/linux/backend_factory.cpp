@@ -29,11 +29,12 @@ std::unique_ptr<BatteryBackend> makeBatteryBackend() {
 NowPlayingBackend makeNowPlayingBackend() {
   if (fakeBackendRequested(QStringLiteral("media"))) {
     return {[] { return std::make_unique<FakeNowPlayingSource>(); }, nullptr,
-            std::make_unique<OfflineArtworkFetcher>()};
+            std::make_unique<OfflineArtworkFetcher>(), std::nullopt};
   }
   const AdapterLaunch launch = platformAdapterLaunch();
   return {[launch] { return std::make_unique<AdapterNowPlayingSource>(launch); },
-          std::make_unique<AdapterProbe>(launch), std::make_unique<NetworkArtworkFetcher>()};
+          std::make_unique<AdapterProbe>(launch), std::make_unique<NetworkArtworkFetcher>(),
+          launch};
 }
 
 }  // namespace tindra
