@@ -17,14 +17,26 @@ void putText(JSONValue::Object& payload, const char* key, const QString& text) {
   if (!trimmed.isEmpty()) payload.insert_or_assign(key, trimmed.left(4096).toStdString());
 }
 
-// xesam:artist is a list of strings; some players send one string.
+// xesam:artist is a list of strings; some players send one string, and anything else is none.
 QString artists(const QVariant& value) {
-  const QStringList list = value.toStringList();
-  return list.isEmpty() ? value.toString() : list.join(QStringLiteral(", "));
+  if (value.userType() == QMetaType::QString) return value.toString();
+  if (value.userType() != QMetaType::QStringList) return {};
+  return value.toStringList().join(QStringLiteral(", "));
 }
 
-// Microsecond times within the seven days any source may report.
+// Microsecond times within the seven days any source may report; whole numbers only.
 std::optional<double> micros(const QVariant& value) {
+  switch (value.userType()) {
+    case QMetaType::Int:
+    case QMetaType::UInt:
+    case QMetaType::Long:
+    case QMetaType::ULong:
+    case QMetaType::LongLong:
+    case QMetaType::ULongLong:
+      break;
+    default:
+      return std::nullopt;
+  }
   bool ok = false;
   const qlonglong number = value.toLongLong(&ok);
   if (!ok || number < 0 || number > NowPlayingSnapshot::maxSeconds * 1e6) return std::nullopt;
@@ -57,9 +69,9 @@ JSONValue::Object make(const std::optional<MprisPlayerState>& player, bool inclu
   JSONValue::Object payload;
   if (!player || !player->hasTrack()) return payload;
   const QVariantMap& metadata = player->metadata;
-  putText(payload, "title", metadata.value(QStringLiteral("xesam:title")).toString());
+  putText(payload, "title", player->text(QStringLiteral("xesam:title")));
   putText(payload, "artist", artists(metadata.value(QStringLiteral("xesam:artist"))));
-  putText(payload, "album", metadata.value(QStringLiteral("xesam:album")).toString());
+  putText(payload, "album", player->text(QStringLiteral("xesam:album")));
   putText(payload, "bundleIdentifier", player->bundleIdentifier());
   payload.insert_or_assign("playing", player->isPlaying());
   if (std::isfinite(player->rate) && player->rate >= 0) {
@@ -81,7 +93,7 @@ JSONValue::Object make(const std::optional<MprisPlayerState>& player, bool inclu
   if (player->loopStatus == QLatin1String("Track")) payload.insert_or_assign("repeatMode", 2.0);
   if (player->loopStatus == QLatin1String("Playlist")) payload.insert_or_assign("repeatMode", 3.0);
   if (includeArtwork) {
-    const QString artUrl = metadata.value(QStringLiteral("mpris:artUrl")).toString();
+    const QString artUrl = player->text(QStringLiteral("mpris:artUrl"));
     if (const auto bytes = coverBytes(artUrl, readFile)) {
       const auto* data = reinterpret_cast<const std::uint8_t*>(bytes->data());
       payload.insert_or_assign("artworkData", encodeBase64(std::span(data, bytes->size())));

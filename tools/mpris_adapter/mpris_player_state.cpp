@@ -5,8 +5,14 @@
 
 namespace tindra {
 
+QString MprisPlayerState::text(const QString& key) const {
+  const QVariant value = metadata.value(key);
+  // Only a string is a text: a player that sends a number or a list here answers nonsense.
+  return value.userType() == QMetaType::QString ? value.toString() : QString();
+}
+
 bool MprisPlayerState::hasTrack() const {
-  return !metadata.value(QStringLiteral("xesam:title")).toString().trimmed().isEmpty();
+  return !text(QStringLiteral("xesam:title")).trimmed().isEmpty();
 }
 
 QString MprisPlayerState::trackKey() const {

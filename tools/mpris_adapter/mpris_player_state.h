@@ -25,6 +25,8 @@ struct MprisPlayerState {
   std::int64_t startedPlayingMicros = 0;       // when it last changed to Playing
 
   bool isPlaying() const { return playbackStatus == QLatin1String("Playing"); }
+  // The metadata entry `key` when it is a string; empty otherwise.
+  QString text(const QString& key) const;
   // A player without a title has nothing to show (an idle browser tab, a remote device).
   bool hasTrack() const;
   // What names the track for position reads: the track id, else the address.
