@@ -1,4 +1,4 @@
-// Hexadecimal digits, for the tray's stored bookmarks and quarantine times.
+// Hexadecimal digits, for the tray's stored bookmarks, quarantine times and data: addresses.
 #pragma once
 
 namespace tindra {

@@ -6,6 +6,7 @@
 #include <span>
 
 #include "base/base64.h"
+#include "base/data_url.h"
 #include "nowplaying/now_playing_snapshot.h"
 
 namespace tindra::MprisPayload {
@@ -46,18 +47,8 @@ std::optional<double> micros(const QVariant& value) {
 }  // namespace
 
 std::optional<std::string> coverBytes(const QString& artUrl, const ReadFile& readFile) {
-  if (artUrl.startsWith(QLatin1String("data:"))) {
-    // data:[<type>][;base64],<data>
-    const qsizetype comma = artUrl.indexOf(u',');
-    if (comma < 0) return std::nullopt;
-    const QString header = artUrl.mid(5, comma - 5);
-    const QByteArray body = artUrl.mid(comma + 1).toLatin1();
-    QByteArray bytes = header.endsWith(QLatin1String(";base64"))
-                           ? QByteArray::fromBase64(body)
-                           : QByteArray::fromPercentEncoding(body);
-    if (bytes.isEmpty() || static_cast<std::size_t>(bytes.size()) > maxCoverBytes)
-      return std::nullopt;
-    return bytes.toStdString();
+  if (artUrl.startsWith(QLatin1String("data:"), Qt::CaseInsensitive)) {
+    return decodeDataURL(artUrl.toStdString(), maxCoverBytes);
   }
   const QUrl url(artUrl);
   if (url.isLocalFile()) return readFile(url.toLocalFile(), maxCoverBytes);
