@@ -1,5 +1,6 @@
 // The adapter against a real player: mpv with its MPRIS plug-in on this program's private
-// session bus (scripts/private-session), playing two generated tones. The adapter's own output
+// session bus (scripts/private-session --sound-server), playing two generated tones into a
+// private PulseAudio's null sink. The adapter's own output
 // is read with the notch's parser, so what is tested is what the notch would show.
 #include <gtest/gtest.h>
 
@@ -102,6 +103,12 @@ TEST_F(MprisAdapterWithMpvTest, StreamFollowsThePlayerAndCommandsReachIt) {
       [](const auto& s) { return s && s->title == "first.wav" && s->duration == 60.0; }));
   EXPECT_TRUE(stream.latest->isPlaying);
   EXPECT_EQ(stream.latest->bundleIdentifier, "mpv");
+  if (qEnvironmentVariableIsSet("TINDRA_SOUND_SERVER")) {  // the tone really plays
+    QProcess streams;
+    streams.start("pactl", {"list", "short", "sink-inputs"});
+    ASSERT_TRUE(streams.waitForFinished(5000));
+    EXPECT_FALSE(streams.readAllStandardOutput().trimmed().isEmpty());
+  }
 
   EXPECT_EQ(runAdapter({"send", "1"}), 0);
   ASSERT_TRUE(stream.waitFor([](const auto& s) { return s && !s->isPlaying; }));
