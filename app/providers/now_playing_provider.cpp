@@ -95,6 +95,9 @@ void NowPlayingProvider::show(const std::optional<NowPlayingSnapshot>& snapshot)
   const std::optional<ActivityEvent> event =
       NowPlayingActivityPolicy::event(snapshot, wasPlaying_, pausedLinger());
   wasPlaying_ = snapshot && snapshot->isPlaying;
+  if (snapshot && (!viewModel_.snapshot() || viewModel_.snapshot()->title != snapshot->title)) {
+    qCDebug(lcNowPlaying).noquote() << "now playing:" << QString::fromStdString(snapshot->title);
+  }
   viewModel_.setSnapshot(snapshot);
   artwork_.show(snapshot);
   if (event) activities().offer(*event);

@@ -5,15 +5,20 @@
 namespace tindra {
 
 PayloadStream::PayloadStream(int debounceMilliseconds, Make make, Write write, QObject* parent)
-    : QObject(parent), make_(std::move(make)), write_(std::move(write)) {
+    : QObject(parent),
+      make_(std::move(make)),
+      write_(std::move(write)),
+      debounce_(std::max(0, debounceMilliseconds)) {
   timer_.setSingleShot(true);
-  timer_.setInterval(std::max(0, debounceMilliseconds));
   connect(&timer_, &QTimer::timeout, this, &PayloadStream::flush);
 }
 
 void PayloadStream::touch() {
-  // Changes in a burst share one message; the first one starts the wait.
-  if (!timer_.isActive()) timer_.start();
+  if (timer_.isActive()) return;  // a message is already on its way
+  // After a quiet spell at once (once the current events are handled); else when the interval
+  // since the last message is over.
+  const qint64 quiet = sinceSent_.isValid() ? sinceSent_.elapsed() : debounce_;
+  timer_.start(static_cast<int>(std::max<qint64>(0, debounce_ - quiet)));
 }
 
 JSONValue::Object PayloadStream::diff(const JSONValue::Object& previous,
@@ -41,6 +46,7 @@ void PayloadStream::flush() {
     message.insert_or_assign("payload", std::move(changed));
   }
   sent_ = std::move(payload);
+  sinceSent_.start();
   write_(JSONWriter::write(JSONValue(std::move(message))));
 }
 

@@ -1,8 +1,11 @@
 // PayloadStream: writes the chosen player's payload as adapter messages, one JSON object per
-// line: the full payload first, then only what changed (a removed key as null), at most once per
-// debounce interval, and nothing at all while nothing changed.
+// line: the full payload first, then only what changed (a removed key as null), and nothing at
+// all while nothing changed. A change after a quiet spell goes out at once (with whatever else
+// the same moment brought); changes that follow it within the debounce interval share one
+// message at its end.
 #pragma once
 
+#include <QElapsedTimer>
 #include <QObject>
 #include <QTimer>
 #include <functional>
@@ -33,7 +36,9 @@ class PayloadStream : public QObject {
 
   Make make_;
   Write write_;
+  int debounce_;
   QTimer timer_;
+  QElapsedTimer sinceSent_;
   std::optional<JSONValue::Object> sent_;
 };
 
