@@ -108,6 +108,22 @@ TEST_F(NowPlayingProviderTest, CommandsReachTheSourceOnlyWhenThePlayerCanCarryTh
   EXPECT_EQ(source_->commands()[2], NowPlayingCommand::setShuffle(ShuffleMode::tracks));
 }
 
+TEST_F(NowPlayingProviderTest, DraggingTheBarShowsTheKnobThereAndLettingGoSeeks) {
+  makeProvider(std::nullopt);
+  provider_->start();
+  NowPlayingViewModel& view = *provider_->viewModel();
+  EXPECT_NEAR(view.displayPosition(), 63, 0.01);  // the invented track's sample
+  view.drag(500);                                 // past the end: held at the duration
+  EXPECT_DOUBLE_EQ(view.displayPosition(), 214);
+  EXPECT_EQ(view.millisecondsToNextSecond(), -1);  // nothing ticks while dragging
+  view.drag(120.5);
+  view.commitDrag();
+  ASSERT_FALSE(source_->commands().empty());
+  EXPECT_EQ(source_->commands().back(), NowPlayingCommand::seek(120.5));
+  // The fake player confirms the seek; the knob stays where it was let go.
+  EXPECT_NEAR(view.displayPosition(), 120.5, 0.01);
+}
+
 TEST_F(NowPlayingProviderTest, TheSourceRunsOnlyWhileTheAdapterPassesItsSelfTest) {
   const QString flag = dir_.filePath("broken");
   makeProvider(QStringLiteral("[ -e '%1' ] && exit 3; exit 0").arg(flag));

@@ -44,7 +44,7 @@
   KEY(double, hoverOpenDelay, 0.12, "Seconds the pointer rests on the notch before it opens.") \
   KEY(double, holdOpenDuration, 0.5, "Seconds of pressing that open the notch in press-and-hold mode.") \
   KEY(std::vector<std::string>, pinnedWidgets, {}, "Panel sections pinned in the opened notch, in order (\"media\", \"calendar\", \"weather\", \"batteries\", \"fileTray\"); empty shows every section with something to show.") \
-  KEY(NowPlayingSourceMode, nowPlayingSourceMode, NowPlayingSourceMode::automatic, "Where the playing track comes from: automatic or the player scripts only.") \
+  KEY(NowPlayingSourceMode, nowPlayingSourceMode, NowPlayingSourceMode::automatic, "Where the playing track comes from: automatic, or only the player scripts, which exist on a Mac alone (on the desktop that shows nothing).") \
   KEY(std::optional<std::string>, nowPlayingFallbackNoticeOSVersion, {}, "The system version on which the basic-mode notice was last shown.") \
   KEY(bool, artworkOnlineLookup, true, "Look covers up online when the player gives none.") \
   KEY(NowPlayingPausedLinger, nowPlayingPausedLinger, NowPlayingPausedLinger::short_, "How long a paused track stays shown: short, long or until resumed.") \

@@ -147,7 +147,8 @@ void MprisSession::readPosition(const QString& busName, bool retry) {
 }
 
 bool MprisSession::apply(MprisPlayerState& player, const QVariantMap& properties) {
-  const QString oldTrack = player.trackKey();
+  // Some players never change their track id: the title counts too.
+  const QString oldTrack = player.trackKey() + player.text(QStringLiteral("xesam:title"));
   const QString oldStatus = player.playbackStatus;
   const double oldRate = player.rate;
   for (auto it = properties.begin(); it != properties.end(); ++it) {
@@ -180,8 +181,8 @@ bool MprisSession::apply(MprisPlayerState& player, const QVariantMap& properties
   if (player.isPlaying() && oldStatus != player.playbackStatus) {
     player.startedPlayingMicros = player.lastActiveMicros;
   }
-  return oldTrack != player.trackKey() || oldStatus != player.playbackStatus ||
-         oldRate != player.rate;
+  return oldTrack != player.trackKey() + player.text(QStringLiteral("xesam:title")) ||
+         oldStatus != player.playbackStatus || oldRate != player.rate;
 }
 
 MprisPlayerState* MprisSession::byOwner(const QString& owner) {
