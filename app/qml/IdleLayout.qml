@@ -24,9 +24,11 @@ Column {
         font.weight: Font.Light
     }
     Text {
+        width: root.width
+        elide: Text.ElideRight
         text: root.content.clock.dateText
         color: "#a1a1a6"
-        font.pixelSize: 13
+        font.pixelSize: 12
     }
     Row {
         topPadding: 8
