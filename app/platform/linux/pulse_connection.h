@@ -1,0 +1,52 @@
+// PulseConnection: Tindra's one connection to the sound server through libpulse (PulseAudio, or
+// PipeWire's pulse layer), on libpulse's own thread. It connects when the server is there,
+// reconnects when the server restarts, and reports the server's sink and server events on the
+// main thread. The volume backend uses it; the live spectrum will too.
+#pragma once
+
+#include <pulse/pulseaudio.h>
+
+#include <QObject>
+#include <QTimer>
+#include <functional>
+
+namespace tindra {
+
+class PulseConnection : public QObject {
+  Q_OBJECT
+
+ public:
+  static constexpr int reconnectMilliseconds = 2000;
+
+  explicit PulseConnection(QObject* parent = nullptr);
+  ~PulseConnection() override;
+
+  void start();
+  bool isReady() const { return ready_; }
+
+  // Runs `work` on libpulse's thread with its lock held; `work` gets the context, which is
+  // ready. Nothing runs while the connection is down.
+  void run(const std::function<void(pa_context*)>& work);
+
+  // Hands `work` to the main thread; for libpulse callbacks.
+  void post(std::function<void()> work);
+
+ signals:
+  void readyChanged(bool ready);
+  // A sink or the server (its default sink) changed.
+  void changed();
+
+ private:
+  void connectNow();
+  void dropContext();
+  static void onState(pa_context* context, void* self);
+  static void onEvent(pa_context* context, pa_subscription_event_type_t type, uint32_t index,
+                      void* self);
+
+  pa_threaded_mainloop* loop_ = nullptr;
+  pa_context* context_ = nullptr;  // guarded by the loop's lock
+  bool ready_ = false;             // main thread
+  QTimer retry_;
+};
+
+}  // namespace tindra

@@ -1,0 +1,113 @@
+#include "platform/linux/pulse_volume_backend.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace tindra {
+
+namespace {
+
+QString propertyText(const pa_proplist* properties, const char* key) {
+  const char* value = pa_proplist_gets(properties, key);
+  return value ? QString::fromUtf8(value) : QString();
+}
+
+}  // namespace
+
+PulseVolumeBackend::PulseVolumeBackend(QObject* parent) : VolumeBackend(parent) {
+  connect(&connection_, &PulseConnection::readyChanged, this, [this](bool ready) {
+    if (ready) {
+      setCheck(DiagnosticsLog::Outcome::ok,
+               QStringLiteral("following the sound server's default output"));
+      readDefaultSink();
+    } else {
+      setCheck(DiagnosticsLog::Outcome::degraded,
+               QStringLiteral("the sound server went away: no volume until it returns"));
+      publish(std::nullopt);
+    }
+  });
+  connect(&connection_, &PulseConnection::changed, this, &PulseVolumeBackend::readDefaultSink);
+}
+
+void PulseVolumeBackend::start() {
+  connection_.start();
+}
+
+AudioTransport PulseVolumeBackend::transportOf(const QString& bus, const QString& nameAndPort) {
+  const QString name = nameAndPort.toLower();
+  if (bus == QLatin1String("bluetooth")) return AudioTransport::bluetooth;
+  if (bus == QLatin1String("usb")) return AudioTransport::usb;
+  if (name.contains(QLatin1String("hdmi"))) return AudioTransport::hdmi;
+  if (name.contains(QLatin1String("displayport"))) return AudioTransport::displayPort;
+  if (bus == QLatin1String("pci") || bus == QLatin1String("isa")) return AudioTransport::builtIn;
+  return AudioTransport::other;
+}
+
+void PulseVolumeBackend::readDefaultSink() {
+  connection_.run([this](pa_context* context) {
+    // "@DEFAULT_SINK@" follows the server's current default.
+    pa_operation* operation = pa_context_get_sink_info_by_name(
+        context, "@DEFAULT_SINK@",
+        [](pa_context*, const pa_sink_info* sink, int last, void* self) {
+          auto* backend = static_cast<PulseVolumeBackend*>(self);
+          if (last != 0) return;
+          if (sink == nullptr) return;
+          VolumeReading reading;
+          reading.output = QString::fromUtf8(sink->name);
+          reading.level = static_cast<double>(pa_cvolume_avg(&sink->volume)) /
+                          static_cast<double>(PA_VOLUME_NORM);
+          reading.muted = sink->mute != 0;
+          const QString port =
+              sink->active_port ? QString::fromUtf8(sink->active_port->name) : QString();
+          reading.transport = transportOf(propertyText(sink->proplist, PA_PROP_DEVICE_BUS),
+                                          reading.output + u' ' + port);
+          const int channels = sink->volume.channels;
+          backend->connection().post([backend, reading, channels] {
+            backend->channels_ = channels;
+            backend->publish(reading);
+          });
+        },
+        this);
+    if (operation) pa_operation_unref(operation);
+  });
+}
+
+void PulseVolumeBackend::setLevel(double level) {
+  if (!reading_) return;
+  const QByteArray sink = reading_->output.toUtf8();
+  const double clamped = std::clamp(level, 0.0, 1.0);
+  const int channels = channels_;
+  connection_.run([sink, clamped, channels](pa_context* context) {
+    pa_cvolume volume;
+    pa_cvolume_set(&volume, static_cast<unsigned>(channels),
+                   static_cast<pa_volume_t>(std::lround(clamped * PA_VOLUME_NORM)));
+    pa_operation* operation =
+        pa_context_set_sink_volume_by_name(context, sink.constData(), &volume, nullptr, nullptr);
+    if (operation) pa_operation_unref(operation);
+  });
+}
+
+void PulseVolumeBackend::setMuted(bool muted) {
+  if (!reading_) return;
+  const QByteArray sink = reading_->output.toUtf8();
+  connection_.run([sink, muted](pa_context* context) {
+    pa_operation* operation = pa_context_set_sink_mute_by_name(context, sink.constData(),
+                                                               muted ? 1 : 0, nullptr, nullptr);
+    if (operation) pa_operation_unref(operation);
+  });
+}
+
+void PulseVolumeBackend::publish(std::optional<VolumeReading> reading) {
+  if (reading == reading_) return;
+  reading_ = std::move(reading);
+  emit readingChanged();
+}
+
+void PulseVolumeBackend::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
+  ServiceCheck check{outcome, text};
+  if (check == check_) return;
+  check_ = std::move(check);
+  emit checkChanged();
+}
+
+}  // namespace tindra

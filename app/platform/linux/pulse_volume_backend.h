@@ -1,0 +1,40 @@
+// PulseVolumeBackend: the default sink's volume and mute through the sound server. Every sink or
+// server event reads the default sink again (so a new default, such as headphones plugged in,
+// is followed at once); nothing is polled. Writes go to the sink the reading came from.
+#pragma once
+
+#include "platform/linux/pulse_connection.h"
+#include "platform/volume_backend.h"
+
+namespace tindra {
+
+class PulseVolumeBackend final : public VolumeBackend {
+  Q_OBJECT
+
+ public:
+  explicit PulseVolumeBackend(QObject* parent = nullptr);
+
+  void start() override;
+  std::optional<VolumeReading> reading() const override { return reading_; }
+  void setLevel(double level) override;
+  void setMuted(bool muted) override;
+  ServiceCheck check() const override { return check_; }
+
+  // The transport from a sink's properties: its bus ("usb", "bluetooth") and its name or port.
+  static AudioTransport transportOf(const QString& bus, const QString& nameAndPort);
+
+  PulseConnection& connection() { return connection_; }
+
+ private:
+  void readDefaultSink();
+  void publish(std::optional<VolumeReading> reading);
+  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
+
+  PulseConnection connection_;
+  std::optional<VolumeReading> reading_;
+  int channels_ = 2;
+  ServiceCheck check_{DiagnosticsLog::Outcome::ok,
+                      QStringLiteral("connecting to the sound server")};
+};
+
+}  // namespace tindra

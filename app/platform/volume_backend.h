@@ -1,0 +1,41 @@
+// VolumeBackend: the default output's volume and mute, followed as they change (by Tindra, a
+// mixer, a headset button or a new default output), and written back on request.
+#pragma once
+
+#include <QObject>
+#include <QString>
+#include <optional>
+
+#include "hud/audio_transport.h"
+#include "platform/service_check.h"
+
+namespace tindra {
+
+struct VolumeReading {
+  QString output;    // the sound server's name for the output ("alsa_output.pci-0000_00_1f.3...")
+  double level = 0;  // 0 ... 1 is the normal range; some servers allow more
+  bool muted = false;
+  AudioTransport transport = AudioTransport::other;
+
+  friend bool operator==(const VolumeReading&, const VolumeReading&) = default;
+};
+
+class VolumeBackend : public QObject {
+  Q_OBJECT
+
+ public:
+  using QObject::QObject;
+
+  virtual void start() = 0;
+  // None while there is no sound server or no output.
+  virtual std::optional<VolumeReading> reading() const = 0;
+  virtual void setLevel(double level) = 0;
+  virtual void setMuted(bool muted) = 0;
+  virtual ServiceCheck check() const = 0;
+
+ signals:
+  void readingChanged();
+  void checkChanged();
+};
+
+}  // namespace tindra
