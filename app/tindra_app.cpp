@@ -10,6 +10,7 @@
 #include "platform/backend_factory.h"
 #include "platform/screen_source_factory.h"
 #include "providers/battery_provider.h"
+#include "providers/hud_provider.h"
 #include "providers/now_playing_provider.h"
 #include "settings/settings_store.h"
 #include "settings_file_watcher.h"
@@ -61,6 +62,7 @@ void TindraApp::startProviders() {
       context, std::move(nowPlaying.makeSource), std::move(nowPlaying.probe),
       std::move(nowPlaying.artwork)));
   providers_.push_back(std::make_unique<BatteryProvider>(context, makeBatteryBackend()));
+  providers_.push_back(std::make_unique<HudProvider>(context, makeVolumeBackend()));
   for (const auto& provider : providers_) {
     views_.setModel(provider->name(), provider->viewModel());
     provider->start();

@@ -6,11 +6,13 @@
 
 #include "platform/adapter_probe.h"
 #include "platform/battery_backend.h"
+#include "platform/volume_backend.h"
 #include "providers/now_playing_provider.h"
 
 namespace tindra {
 
 std::unique_ptr<BatteryBackend> makeBatteryBackend();
+std::unique_ptr<VolumeBackend> makeVolumeBackend();
 
 // The now-playing source to make, the self-test to run first (none for the fake) and what
 // downloads covers (nothing, for the fake).

@@ -28,6 +28,8 @@ std::optional<ViewRegistry::View> ViewRegistry::compact(ActivityKind kind) {
   switch (kind) {
     case ActivityKind::nowPlaying:
       return View{QStringLiteral("media"), view("MediaCompact.qml")};
+    case ActivityKind::hud:
+      return View{QStringLiteral("hud"), view("HudCompact.qml")};
     default:
       return std::nullopt;
   }

@@ -7,7 +7,9 @@
 #include "platform/backend_selection.h"
 #include "platform/fake/fake_battery_backend.h"
 #include "platform/fake/fake_now_playing_source.h"
+#include "platform/fake/fake_volume_backend.h"
 #include "platform/fake/offline_artwork_fetcher.h"
+#include "platform/linux/pulse_volume_backend.h"
 #include "platform/linux/upower_battery_backend.h"
 #include "platform/network_artwork_fetcher.h"
 #include "platform/null_battery_backend.h"
@@ -24,6 +26,12 @@ std::unique_ptr<BatteryBackend> makeBatteryBackend() {
         QStringLiteral("no system bus (%1): no battery is shown").arg(bus.lastError().message()));
   }
   return std::make_unique<UPowerBatteryBackend>(bus);
+}
+
+std::unique_ptr<VolumeBackend> makeVolumeBackend() {
+  if (fakeBackendRequested(QStringLiteral("hud"))) return std::make_unique<FakeVolumeBackend>();
+  // It waits for a sound server that is not there yet and follows one that restarts.
+  return std::make_unique<PulseVolumeBackend>();
 }
 
 NowPlayingBackend makeNowPlayingBackend() {
