@@ -62,7 +62,7 @@ void TindraApp::startProviders() {
       context, std::move(nowPlaying.makeSource), std::move(nowPlaying.probe),
       std::move(nowPlaying.artwork)));
   providers_.push_back(std::make_unique<BatteryProvider>(context, makeBatteryBackend()));
-  providers_.push_back(std::make_unique<HudProvider>(context, makeVolumeBackend()));
+  providers_.push_back(std::make_unique<HudProvider>(context, makeHudBackends()));
   for (const auto& provider : providers_) {
     views_.setModel(provider->name(), provider->viewModel());
     provider->start();

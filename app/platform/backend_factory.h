@@ -6,13 +6,15 @@
 
 #include "platform/adapter_probe.h"
 #include "platform/battery_backend.h"
-#include "platform/volume_backend.h"
+#include "providers/hud_provider.h"
 #include "providers/now_playing_provider.h"
 
 namespace tindra {
 
 std::unique_ptr<BatteryBackend> makeBatteryBackend();
-std::unique_ptr<VolumeBackend> makeVolumeBackend();
+// The indicator's output volume, display and keyboard lights, and keys. The keys are never
+// fake: with TINDRA_FAKE=hud the real keys step the invented levels.
+HudBackends makeHudBackends();
 
 // The now-playing source to make, the self-test to run first (none for the fake) and what
 // downloads covers (nothing, for the fake).

@@ -16,6 +16,8 @@ struct VolumeReading {
   double level = 0;  // 0 ... 1 is the normal range; some servers allow more
   bool muted = false;
   AudioTransport transport = AudioTransport::other;
+  bool volumeSettable = true;  // false for an output whose level cannot be set
+  bool muteSettable = true;
 
   friend bool operator==(const VolumeReading&, const VolumeReading&) = default;
 };
@@ -31,6 +33,8 @@ class VolumeBackend : public QObject {
   virtual std::optional<VolumeReading> reading() const = 0;
   virtual void setLevel(double level) = 0;
   virtual void setMuted(bool muted) = 0;
+  // The short volume-change sound, on the output the reading came from.
+  virtual void playFeedback() = 0;
   virtual ServiceCheck check() const = 0;
 
  signals:

@@ -11,21 +11,26 @@ class FakeVolumeBackend final : public VolumeBackend {
   using VolumeBackend::VolumeBackend;
 
   void start() override {
-    publish(VolumeReading{"invented-output", 0.6, false, AudioTransport::builtIn});
+    publish(VolumeReading{"invented-output", 0.6, false, AudioTransport::builtIn, true, true});
   }
   std::optional<VolumeReading> reading() const override { return reading_; }
   void setLevel(double level) override {
     if (reading_)
-      publish(VolumeReading{reading_->output, level, reading_->muted, reading_->transport});
+      publish(
+          VolumeReading{reading_->output, level, reading_->muted, reading_->transport, true, true});
   }
   void setMuted(bool muted) override {
     if (reading_)
-      publish(VolumeReading{reading_->output, reading_->level, muted, reading_->transport});
+      publish(
+          VolumeReading{reading_->output, reading_->level, muted, reading_->transport, true, true});
   }
+  void playFeedback() override { ++feedbackPlayed; }
   ServiceCheck check() const override {
     return {DiagnosticsLog::Outcome::degraded,
             QStringLiteral("invented readings (TINDRA_FAKE asks for them)")};
   }
+
+  int feedbackPlayed = 0;
 
   void publish(std::optional<VolumeReading> reading) {
     if (reading == reading_) return;

@@ -5,14 +5,19 @@
 
 #include "platform/adapter_now_playing_source.h"
 #include "platform/backend_selection.h"
+#include "platform/fake/fake_backlight_backend.h"
 #include "platform/fake/fake_battery_backend.h"
 #include "platform/fake/fake_now_playing_source.h"
 #include "platform/fake/fake_volume_backend.h"
 #include "platform/fake/offline_artwork_fetcher.h"
 #include "platform/linux/pulse_volume_backend.h"
+#include "platform/linux/sysfs_backlight_backend.h"
 #include "platform/linux/upower_battery_backend.h"
+#include "platform/linux/upower_keyboard_backlight_backend.h"
+#include "platform/linux/x11_media_key_source.h"
 #include "platform/network_artwork_fetcher.h"
 #include "platform/null_battery_backend.h"
+#include "platform/null_media_key_source.h"
 #include "platform/platform_adapter_launch.h"
 
 namespace tindra {
@@ -28,10 +33,34 @@ std::unique_ptr<BatteryBackend> makeBatteryBackend() {
   return std::make_unique<UPowerBatteryBackend>(bus);
 }
 
-std::unique_ptr<VolumeBackend> makeVolumeBackend() {
-  if (fakeBackendRequested(QStringLiteral("hud"))) return std::make_unique<FakeVolumeBackend>();
-  // It waits for a sound server that is not there yet and follows one that restarts.
-  return std::make_unique<PulseVolumeBackend>();
+namespace {
+
+std::unique_ptr<MediaKeySource> makeMediaKeySource() {
+  if (qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String("wayland")) {
+    return std::make_unique<NullMediaKeySource>(
+        QStringLiteral("a Wayland session lets no program take the keys: the desktop keeps them, "
+                       "and the level changes it makes are shown"));
+  }
+  return std::make_unique<X11MediaKeySource>();
+}
+
+}  // namespace
+
+HudBackends makeHudBackends() {
+  if (fakeBackendRequested(QStringLiteral("hud"))) {
+    return {std::make_unique<FakeVolumeBackend>(),
+            std::make_unique<FakeBacklightBackend>(QStringLiteral("invented-panel"), 0.7),
+            std::make_unique<FakeBacklightBackend>(QStringLiteral("invented-keyboard"), 0.4),
+            makeMediaKeySource()};
+  }
+  // TINDRA_BACKLIGHT_FOLDER stands in for /sys/class/backlight in tests and demos.
+  const QString backlights =
+      qEnvironmentVariable("TINDRA_BACKLIGHT_FOLDER", SysfsBacklightBackend::defaultFolder);
+  const QDBusConnection systemBus = QDBusConnection::systemBus();
+  // The volume waits for a sound server that is not there yet and follows one that restarts.
+  return {std::make_unique<PulseVolumeBackend>(),
+          std::make_unique<SysfsBacklightBackend>(backlights, systemBus),
+          std::make_unique<UPowerKeyboardBacklightBackend>(systemBus), makeMediaKeySource()};
 }
 
 NowPlayingBackend makeNowPlayingBackend() {

@@ -1,7 +1,10 @@
 #include "platform/linux/pulse_volume_backend.h"
 
+#include <QFile>
 #include <algorithm>
 #include <cmath>
+
+#include "assign_if_changed.h"
 
 namespace tindra {
 
@@ -12,9 +15,15 @@ QString propertyText(const pa_proplist* properties, const char* key) {
   return value ? QString::fromUtf8(value) : QString();
 }
 
+std::optional<PulseSample::Sound> tickSound() {
+  QFile file(QStringLiteral(":/sounds/tindra-volume-tick.wav"));
+  return file.open(QIODevice::ReadOnly) ? PulseSample::fromWav(file.readAll()) : std::nullopt;
+}
+
 }  // namespace
 
-PulseVolumeBackend::PulseVolumeBackend(QObject* parent) : VolumeBackend(parent) {
+PulseVolumeBackend::PulseVolumeBackend(QObject* parent)
+    : VolumeBackend(parent), tick_(connection_, "tindra-volume-tick", tickSound()) {
   connect(&connection_, &PulseConnection::readyChanged, this, [this](bool ready) {
     if (ready) {
       setCheck(DiagnosticsLog::Outcome::ok,
@@ -57,6 +66,7 @@ void PulseVolumeBackend::readDefaultSink() {
           reading.level = static_cast<double>(pa_cvolume_avg(&sink->volume)) /
                           static_cast<double>(PA_VOLUME_NORM);
           reading.muted = sink->mute != 0;
+          reading.volumeSettable = sink->volume.channels > 0;
           const QString port =
               sink->active_port ? QString::fromUtf8(sink->active_port->name) : QString();
           reading.transport = transportOf(propertyText(sink->proplist, PA_PROP_DEVICE_BUS),
@@ -97,17 +107,16 @@ void PulseVolumeBackend::setMuted(bool muted) {
   });
 }
 
+void PulseVolumeBackend::playFeedback() {
+  if (reading_) tick_.play(reading_->output);
+}
+
 void PulseVolumeBackend::publish(std::optional<VolumeReading> reading) {
-  if (reading == reading_) return;
-  reading_ = std::move(reading);
-  emit readingChanged();
+  if (assignIfChanged(reading_, std::move(reading))) emit readingChanged();
 }
 
 void PulseVolumeBackend::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
-  ServiceCheck check{outcome, text};
-  if (check == check_) return;
-  check_ = std::move(check);
-  emit checkChanged();
+  if (assignIfChanged(check_, ServiceCheck{outcome, text})) emit checkChanged();
 }
 
 }  // namespace tindra

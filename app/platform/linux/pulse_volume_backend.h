@@ -1,9 +1,11 @@
 // PulseVolumeBackend: the default sink's volume and mute through the sound server. Every sink or
 // server event reads the default sink again (so a new default, such as headphones plugged in,
-// is followed at once); nothing is polled. Writes go to the sink the reading came from.
+// is followed at once); nothing is polled. Writes, and the volume-change sound, go to the sink
+// the reading came from.
 #pragma once
 
 #include "platform/linux/pulse_connection.h"
+#include "platform/linux/pulse_sample.h"
 #include "platform/volume_backend.h"
 
 namespace tindra {
@@ -18,6 +20,7 @@ class PulseVolumeBackend final : public VolumeBackend {
   std::optional<VolumeReading> reading() const override { return reading_; }
   void setLevel(double level) override;
   void setMuted(bool muted) override;
+  void playFeedback() override;
   ServiceCheck check() const override { return check_; }
 
   // The transport from a sink's properties: its bus ("usb", "bluetooth") and its name or port.
@@ -31,6 +34,7 @@ class PulseVolumeBackend final : public VolumeBackend {
   void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
   PulseConnection connection_;
+  PulseSample tick_;
   std::optional<VolumeReading> reading_;
   int channels_ = 2;
   ServiceCheck check_{DiagnosticsLog::Outcome::ok,

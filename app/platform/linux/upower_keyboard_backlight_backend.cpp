@@ -1,0 +1,109 @@
+#include "platform/linux/upower_keyboard_backlight_backend.h"
+
+#include <algorithm>
+#include <cmath>
+
+#include "hud/keyboard_backlight_policy.h"
+#include "platform/linux/dbus_reply.h"
+
+namespace tindra {
+
+namespace {
+
+const QString service = QStringLiteral("org.freedesktop.UPower");
+const QString path = QStringLiteral("/org/freedesktop/UPower/KbdBacklight");
+const QString interface = QStringLiteral("org.freedesktop.UPower.KbdBacklight");
+const QString device = QStringLiteral("kbd_backlight");
+
+std::optional<int> intAnswer(const QDBusMessage& answer) {
+  if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().size() != 1 ||
+      answer.arguments().front().typeId() != QMetaType::Int) {
+    return std::nullopt;
+  }
+  return answer.arguments().front().toInt();
+}
+
+}  // namespace
+
+UPowerKeyboardBacklightBackend::UPowerKeyboardBacklightBackend(QDBusConnection bus, QObject* parent)
+    : BacklightBackend(parent),
+      bus_(std::move(bus)),
+      watcher_(service, bus_,
+               QDBusServiceWatcher::WatchForRegistration |
+                   QDBusServiceWatcher::WatchForUnregistration) {}
+
+void UPowerKeyboardBacklightBackend::start() {
+  bus_.connect(service, path, interface, QStringLiteral("BrightnessChanged"), this,
+               SLOT(onBrightnessChanged(int)));
+  connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this,
+          &UPowerKeyboardBacklightBackend::readMaximum);
+  connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+    maximum_ = 0;
+    publish(std::nullopt);
+    setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
+              QStringLiteral("UPower went away: the keyboard light keys stay with the desktop"));
+  });
+  readMaximum();
+}
+
+QDBusMessage UPowerKeyboardBacklightBackend::call(const QString& method) const {
+  return QDBusMessage::createMethodCall(service, path, interface, method);
+}
+
+void UPowerKeyboardBacklightBackend::readMaximum() {
+  whenAnswered(
+      bus_.asyncCall(call(QStringLiteral("GetMaxBrightness"))), this,
+      [this](const QDBusMessage& answer) {
+        maximum_ = intAnswer(answer).value_or(0);
+        if (maximum_ <= 0) {
+          publish(std::nullopt);
+          setAccess(
+              BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
+              QStringLiteral("UPower reports no keyboard backlight (%1)")
+                  .arg(answer.type() == QDBusMessage::ErrorMessage ? answer.errorName()
+                                                                   : QStringLiteral("no levels")));
+          return;
+        }
+        readLevel([this] {
+          setAccess(
+              BrightnessAccess::readWrite, DiagnosticsLog::Outcome::ok,
+              QStringLiteral("keyboard backlight through UPower, %1 levels").arg(maximum_ + 1));
+        });
+      });
+}
+
+void UPowerKeyboardBacklightBackend::readLevel(std::function<void()> then) {
+  whenAnswered(bus_.asyncCall(call(QStringLiteral("GetBrightness"))), this,
+               [this, then = std::move(then)](const QDBusMessage& answer) {
+                 if (const std::optional<int> value = intAnswer(answer))
+                   onBrightnessChanged(*value);
+                 if (then) then();
+               });
+}
+
+void UPowerKeyboardBacklightBackend::onBrightnessChanged(int value) {
+  if (maximum_ <= 0) return;
+  const std::optional<double> level =
+      KeyboardBacklightPolicy::level(static_cast<float>(value) / static_cast<float>(maximum_));
+  if (!level || *level < 0) {
+    publish(std::nullopt);
+    setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
+              QStringLiteral("the keyboard backlight level cannot be read (%1 of %2)")
+                  .arg(value)
+                  .arg(maximum_));
+    return;
+  }
+  publish(BacklightReading{device, *level, false});
+}
+
+void UPowerKeyboardBacklightBackend::setLevel(double level) {
+  if (access() != BrightnessAccess::readWrite) return;
+  QDBusMessage message = call(QStringLiteral("SetBrightness"));
+  message << static_cast<int>(std::lround(std::clamp(level, 0.0, 1.0) * maximum_));
+  whenAnswered(bus_.asyncCall(message), this, [this, level](const QDBusMessage&) {
+    // Whatever UPower answered, what counts is where the light is now.
+    readLevel([this, level] { emit writeFinished(level, reading() ? reading()->level : 0); });
+  });
+}
+
+}  // namespace tindra
