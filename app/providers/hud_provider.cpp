@@ -186,7 +186,10 @@ void HudProvider::onVolume() {
   const bool sameOutput = volume_ && reading && volume_->output == reading->output;
   const bool moved =
       sameOutput && (volume_->level != reading->level || volume_->muted != reading->muted);
-  if (!sameOutput) volumePending_ = {};
+  if (!sameOutput) {
+    volumePending_ = {};
+    volumeWritten_.reset();
+  }
   volume_ = reading;
   updateRouting();
   if (!moved || !settings().read(settings::volumeHUDEnabled)) return;

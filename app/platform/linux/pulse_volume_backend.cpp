@@ -59,8 +59,12 @@ void PulseVolumeBackend::readDefaultSink() {
         context, "@DEFAULT_SINK@",
         [](pa_context*, const pa_sink_info* sink, int last, void* self) {
           auto* backend = static_cast<PulseVolumeBackend*>(self);
-          if (last != 0) return;
-          if (sink == nullptr) return;
+          if (last < 0) {
+            // No default output (the server has none): nothing to set, the keys go back.
+            backend->connection().post([backend] { backend->publish(std::nullopt); });
+            return;
+          }
+          if (last != 0 || sink == nullptr) return;
           VolumeReading reading;
           reading.output = QString::fromUtf8(sink->name);
           reading.level = static_cast<double>(pa_cvolume_avg(&sink->volume)) /

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QFile>
 #include <QProcess>
 #include <QTest>
 
@@ -59,6 +60,32 @@ TEST_F(PulseVolumeBackendTest, FollowsTheDefaultOutputAndWritesToIt) {
   ASSERT_TRUE(waitFor([&] { return backend.reading()->muted; }));
   pactl({"set-sink-mute", "second", "0"});
   pactl({"set-sink-volume", "second", "100%"});
+}
+
+TEST_F(PulseVolumeBackendTest, KeepsTheVolumeSoundInTheServersCache) {
+  PulseVolumeBackend backend;
+  backend.start();
+  ASSERT_TRUE(waitFor([] {
+    return pactl({"list", "samples", "short"}).contains("tindra-volume-tick");
+  }));
+}
+
+TEST(PulseSampleTest, TakesSixteenBitPcmWavAndNothingElse) {
+  QFile file(":/sounds/tindra-volume-tick.wav");
+  ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+  const QByteArray wav = file.readAll();
+  const auto sound = PulseSample::fromWav(wav);
+  ASSERT_TRUE(sound);
+  EXPECT_EQ(sound->spec.rate, 48000u);
+  EXPECT_EQ(sound->spec.channels, 1);
+  EXPECT_EQ(sound->frames.size(), 2160 * 2);  // 45 ms
+
+  EXPECT_FALSE(PulseSample::fromWav(wav.left(40)));  // the data chunk runs past the end
+  QByteArray eightBit = wav;
+  eightBit[34] = 8;
+  EXPECT_FALSE(PulseSample::fromWav(eightBit));
+  EXPECT_FALSE(PulseSample::fromWav("RIFF\x04\0\0\0WAVE"));
+  EXPECT_FALSE(PulseSample::fromWav(QByteArray()));
 }
 
 // Runs last in this program: the server it leaves behind is one the test started itself.

@@ -83,9 +83,9 @@ void UPowerKeyboardBacklightBackend::readLevel(std::function<void()> then) {
 
 void UPowerKeyboardBacklightBackend::onBrightnessChanged(int value) {
   if (maximum_ <= 0) return;
-  const std::optional<double> level =
-      KeyboardBacklightPolicy::level(static_cast<float>(value) / static_cast<float>(maximum_));
-  if (!level || *level < 0) {
+  const double ratio = static_cast<double>(value) / maximum_;
+  // The policy judges the reading; the level keeps double precision.
+  if (!KeyboardBacklightPolicy::level(static_cast<float>(ratio)) || ratio < 0) {
     publish(std::nullopt);
     setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
               QStringLiteral("the keyboard backlight level cannot be read (%1 of %2)")
@@ -93,7 +93,7 @@ void UPowerKeyboardBacklightBackend::onBrightnessChanged(int value) {
                   .arg(maximum_));
     return;
   }
-  publish(BacklightReading{device, *level, false});
+  publish(BacklightReading{device, std::min(ratio, 1.0), false});
 }
 
 void UPowerKeyboardBacklightBackend::setLevel(double level) {

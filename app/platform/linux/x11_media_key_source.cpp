@@ -158,7 +158,9 @@ void X11MediaKeySource::setWanted(const std::vector<KeyGrab>& wanted) {
       refused_.push_back(combination);
     }
   }
-  xcb_flush(connection_);
+  // A round trip, so that the server has taken the releases too before anyone else asks.
+  XcbReply<xcb_get_input_focus_reply_t>(
+      xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
   // Replies may have brought events along.
   readEvents();
   setCheck(refused_.empty() ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::degraded,
