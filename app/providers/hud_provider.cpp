@@ -62,7 +62,7 @@ HudProvider::HudProvider(ProviderContext context, HudBackends backends, QObject*
   }
   connect(keyboard_.backend.get(), &BacklightBackend::writeFinished, this,
           &HudProvider::onKeyboardWrite);
-  connect(backends_.keys.get(), &MediaKeySource::pressed, this, &HudProvider::onKey);
+  connect(backends_.keys.get(), &MediaKeySource::pressed, this, &HudProvider::handleKey);
   connect(backends_.keys.get(), &MediaKeySource::checkChanged, this, &HudProvider::recordKeys);
   observations_.push_back(
       settings().observe({std::string(settings::volumeHUDEnabled.name),
@@ -121,7 +121,7 @@ std::vector<KeyGrab> HudProvider::grabsFor(const MediaKeyContext& context) {
   return grabs;
 }
 
-void HudProvider::onKey(const MediaKeyPress& press) {
+void HudProvider::handleKey(const MediaKeyPress& press) {
   const MediaKeyDecision decision = MediaKeyRouter::decide(
       press.key, press.isKeyDown, press.isRepeat, press.modifiers, keyContext_);
   const std::optional<MediaKeyAction> action = decision.action();

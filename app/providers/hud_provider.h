@@ -42,6 +42,8 @@ class HudProvider final : public Provider {
   HudViewModel* viewModel() override { return &viewModel_; }
 
   const MediaKeyContext& keyContext() const { return keyContext_; }
+  // A key press, routed as the key source's are (the demo tour presses keys this way).
+  void handleKey(const MediaKeyPress& press);
   // The key and modifier combinations the router would swallow in `context`: the ones to hold.
   static std::vector<KeyGrab> grabsFor(const MediaKeyContext& context);
 
@@ -54,7 +56,6 @@ class HudProvider final : public Provider {
     std::optional<BacklightReading> last;  // to tell a change from a new device
   };
 
-  void onKey(const MediaKeyPress& press);
   void stepVolume(VolumeAction action, KeyModifiers modifiers);
   void stepLight(Light& light, bool up, bool fine);
   void onVolume();

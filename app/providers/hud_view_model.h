@@ -29,7 +29,7 @@ class HudViewModel : public QObject {
   Q_PROPERTY(QColor barColor READ barColor NOTIFY changed)
   Q_PROPERTY(double glideSeconds READ glideSeconds NOTIFY changed)  // 0: settle
   // While the indicator is the notch's activity; the opened notch shows it large then.
-  Q_PROPERTY(bool hasContent READ showing NOTIFY showingChanged)
+  Q_PROPERTY(bool showing READ showing NOTIFY showingChanged)
 
  public:
   using QObject::QObject;

@@ -1,34 +1,29 @@
 import QtQuick
 
-// The level on the closed notch: a speaker on the left ear and the bar on the right one, filled
-// to the level (empty while muted).
+// The level on the closed notch: its symbol on the left ear, the bar (or ring) on the right one.
 Item {
     id: root
 
     property var model
 
-    SpeakerGlyph {
+    HudSymbol {
         anchors.left: parent.left
         anchors.leftMargin: 14
         anchors.verticalCenter: parent.verticalCenter
-        width: 16
-        height: Math.min(14, parent.height - 8)
-        muted: root.model ? root.model.muted : false
+        width: 18
+        height: Math.min(16, parent.height - 8)
+        name: root.model ? root.model.symbol : ""
     }
-    Rectangle {
-        id: track
+    HudBar {
         anchors.right: parent.right
         anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
-        width: 56
-        height: 5
-        radius: 2.5
-        color: "#3a3a3c"
-        Rectangle {
-            width: parent.width * (root.model ? root.model.level : 0)
-            height: parent.height
-            radius: parent.radius
-            color: "white"
-        }
+        width: barStyle === "ring" ? height : 60
+        height: barStyle === "ring" ? Math.min(18, parent.height - 8) : 8
+        level: root.model ? root.model.level : 0
+        barStyle: root.model ? root.model.barStyle : "continuous"
+        color: root.model ? root.model.barColor : "white"
+        glideSeconds: root.model ? root.model.glideSeconds : 0
+        segmentCount: root.model ? root.model.segmentCount : 16
     }
 }

@@ -43,9 +43,14 @@ Item {
     }
 
     // Opened: the idle layout at rest on the left, then a section for each subsystem that has
-    // something to show (or is pinned).
+    // something to show (or is pinned). While a transient section has something (a level just
+    // changed), it stands there alone.
     Item {
         id: panel
+
+        readonly property bool transientShown: root.content.sections.some(
+            section => section.transient && section.model.showing)
+
         x: root.notch.shapeRect.x
         y: root.notch.notchRect.height
         width: root.notch.shapeRect.width
@@ -69,7 +74,8 @@ Item {
                 delegate: Loader {
                     required property var modelData
                     height: parent.height
-                    visible: item !== null && (modelData.pinned || item.hasContent)
+                    visible: item !== null && (modelData.transient ? item.hasContent
+                        : (modelData.pinned || item.hasContent) && !panel.transientShown)
                     Component.onCompleted: setSource(modelData.source, { model: modelData.model })
                 }
             }

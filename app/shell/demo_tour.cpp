@@ -11,8 +11,10 @@
 #include "activity_center.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
+#include "providers/hud_provider.h"
 #include "providers/now_playing_view_model.h"
 #include "providers/provider.h"
+#include "settings/settings_keys.h"
 #include "tindra_app.h"
 
 namespace tindra {
@@ -40,6 +42,8 @@ class Backdrop : public QWidget {
   }
 };
 
+using Key = SystemDefinedKeyEvent::Key;
+
 NotchWindow* firstNotch(TindraApp& app) {
   const std::vector<NotchWindow*> windows = app.notches().windows();
   return windows.empty() ? nullptr : windows.front();
@@ -66,6 +70,14 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
     Provider* provider = app_.provider(QStringLiteral("media"));
     return provider ? qobject_cast<NowPlayingViewModel*>(provider->viewModel()) : nullptr;
   };
+  const auto press = [this](Key key, HUDBarStyle style, HUDTint tint) {
+    auto* hud = qobject_cast<HudProvider*>(app_.provider(QStringLiteral("hud")));
+    if (hud == nullptr) return;
+    (void)app_.settings().write(settings::hudBarStyle, style);
+    (void)app_.settings().write(settings::hudTint, tint);
+    hud->handleKey({key, true, false, {}, std::chrono::steady_clock::now()});
+    hud->handleKey({key, false, false, {}, std::chrono::steady_clock::now()});
+  };
   steps_ = {
       {0,
        [this, pointerTo] {
@@ -74,13 +86,18 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
        }},
       // The fake player is already playing its invented track.
       {700, [this] { shoot(QStringLiteral("1-closed-now-playing.png")); }},
-      // No indicator provider yet: the level is offered as it will be.
-      {0, [&activities] { activities.offer(ActivityEvent::began(ActivityKind::hud, 1.5)); }},
-      {500, [this] { shoot(QStringLiteral("2-closed-level.png")); }},
-      // The level lapses after 1.5 s and the playing track comes back on its own.
-      {1500, [this] { shoot(QStringLiteral("3-closed-after-level.png")); }},
+      // Keys step the invented levels, once in each bar style and tint.
+      {0, [press] { press(Key::soundUp, HUDBarStyle::continuous, HUDTint::white); }},
+      {500, [this] { shoot(QStringLiteral("2-closed-level-continuous.png")); }},
+      {0, [press] { press(Key::brightnessUp, HUDBarStyle::segmented, HUDTint::level); }},
+      {500, [this] { shoot(QStringLiteral("2-closed-level-segmented.png")); }},
+      {0, [press] { press(Key::soundDown, HUDBarStyle::ring, HUDTint::accent); }},
+      {500, [this] { shoot(QStringLiteral("2-closed-level-ring.png")); }},
+      // Opened while the level lasts, it is shown large beside the rest.
       {0, [pointerTo] { pointerTo(true); }},
-      {900, [this] { shoot(QStringLiteral("4-opened.png")); }},
+      {700, [this] { shoot(QStringLiteral("3-opened-level.png")); }},
+      // The level lapses after 1.5 s; the panel goes on without it.
+      {1500, [this] { shoot(QStringLiteral("4-opened.png")); }},
       {0,
        [media] {
          if (NowPlayingViewModel* model = media()) model->togglePlayPause();

@@ -34,14 +34,19 @@ QObject* NotchContent::compactModel() const {
 }
 
 QStringList NotchContent::shownSections(const std::vector<std::string>& pinned) {
+  QStringList transient;
+  for (const ViewRegistry::Section& section : ViewRegistry::sections()) {
+    if (section.transient) transient << section.name;
+  }
   QStringList shown;
   for (const std::string& name : pinned) {
     const QString candidate = QString::fromStdString(name);
-    const bool known = std::ranges::any_of(
-        ViewRegistry::sections(), [&](const auto& section) { return section.name == candidate; });
+    const bool known = std::ranges::any_of(ViewRegistry::sections(), [&](const auto& section) {
+      return section.name == candidate && !section.transient;
+    });
     if (known && !shown.contains(candidate)) shown << candidate;
   }
-  if (!shown.isEmpty()) return shown;
+  if (!shown.isEmpty()) return transient + shown;
   for (const ViewRegistry::Section& section : ViewRegistry::sections()) shown << section.name;
   return shown;
 }
@@ -58,7 +63,8 @@ void NotchContent::refresh() {
     sections << QVariantMap{{"name", name},
                             {"source", section->view.source},
                             {"model", QVariant::fromValue(model)},
-                            {"pinned", !pinned.empty()}};
+                            {"pinned", !pinned.empty() && !section->transient},
+                            {"transient", section->transient}};
   }
   QVariantList idleItems;
   for (const ViewRegistry::View& item : ViewRegistry::idleItems()) {

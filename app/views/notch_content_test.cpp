@@ -29,10 +29,11 @@ class NotchContentTest : public ::testing::Test {
 };
 
 TEST_F(NotchContentTest, PinnedSectionsComeInTheirOrderAndUnknownNamesAreSkipped) {
-  EXPECT_EQ(NotchContent::shownSections({}), (QStringList{"media", "batteries"}));
-  EXPECT_EQ(NotchContent::shownSections({"batteries", "weather?", "media", "batteries"}),
-            (QStringList{"batteries", "media"}));
-  EXPECT_EQ(NotchContent::shownSections({"nonsense"}), (QStringList{"media", "batteries"}));
+  // The level indicator's section comes first and whatever is pinned.
+  EXPECT_EQ(NotchContent::shownSections({}), (QStringList{"hud", "media", "batteries"}));
+  EXPECT_EQ(NotchContent::shownSections({"batteries", "weather?", "media", "batteries", "hud"}),
+            (QStringList{"hud", "batteries", "media"}));
+  EXPECT_EQ(NotchContent::shownSections({"nonsense"}), (QStringList{"hud", "media", "batteries"}));
 
   // Only sections whose provider runs are drawn.
   EXPECT_TRUE(content_.sections().isEmpty());

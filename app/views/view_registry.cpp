@@ -13,6 +13,7 @@ QUrl view(const char* file) {
 const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
   // The calendar, weather and file tray sections join here as their providers arrive.
   static const std::vector<Section> all{
+      {QStringLiteral("hud"), {QStringLiteral("hud"), view("HudPanel.qml")}, true},
       {QStringLiteral("media"), {QStringLiteral("media"), view("MediaPanel.qml")}},
       {QStringLiteral("batteries"), {QStringLiteral("battery"), view("BatteriesPanel.qml")}},
   };

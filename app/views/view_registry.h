@@ -25,6 +25,8 @@ class ViewRegistry {
   struct Section {
     QString name;  // as listed in `pinnedWidgets`: "media", "batteries", ...
     View view;
+    // Shown only while its activity lasts, whatever is pinned (the level indicator).
+    bool transient = false;
   };
 
   // Every panel section in the panel's default order.

@@ -1,0 +1,57 @@
+#include "views/view_registry.h"
+
+#include <gtest/gtest.h>
+
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <memory>
+
+#include "activity/activity_kind.h"
+#include "providers/battery_view_model.h"
+#include "providers/hud_view_model.h"
+#include "providers/now_playing_view_model.h"
+
+void qml_register_types_Tindra();
+
+namespace tindra {
+namespace {
+
+// Every registered view loads, on its provider's view model, without a single QML warning: a
+// view that fails to load leaves an empty notch and nothing else says so.
+TEST(ViewRegistryTest, EveryViewLoadsOnItsProvidersModelWithoutWarnings) {
+  qml_register_types_Tindra();
+  QQmlEngine engine;
+  engine.addImportPath(QStringLiteral("qrc:/"));
+  QList<QQmlError> warnings;
+  QObject::connect(&engine, &QQmlEngine::warnings,
+                   [&](const QList<QQmlError>& more) { warnings += more; });
+
+  NowPlayingViewModel media([](const NowPlayingCommand&) {});
+  BatteryViewModel battery;
+  HudViewModel hud;
+  hud.show(HUDState(HUDKind::volume, 0.5), HUDBarMotion::settle(), HUDBarStyle::ring,
+           HUDTint::level);
+  const std::map<QString, QObject*> models{{"media", &media}, {"battery", &battery}, {"hud", &hud}};
+
+  std::vector<ViewRegistry::View> views = ViewRegistry::idleItems();
+  for (const auto& section : ViewRegistry::sections()) views.push_back(section.view);
+  for (const ActivityKind kind : allCases<ActivityKind>()) {
+    if (const auto view = ViewRegistry::compact(kind)) views.push_back(*view);
+  }
+  for (const ViewRegistry::View& view : views) {
+    SCOPED_TRACE(view.source.toString().toStdString());
+    ASSERT_TRUE(models.contains(view.provider));
+    QQmlComponent component(&engine, view.source);
+    if (component.isError()) {
+      ADD_FAILURE() << component.errorString().toStdString();
+      continue;
+    }
+    std::unique_ptr<QObject> item(component.createWithInitialProperties(
+        {{"model", QVariant::fromValue(models.at(view.provider))}}));
+    EXPECT_TRUE(item) << component.errorString().toStdString();
+  }
+  for (const QQmlError& warning : warnings) ADD_FAILURE() << warning.toString().toStdString();
+}
+
+}  // namespace
+}  // namespace tindra
