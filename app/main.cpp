@@ -9,7 +9,10 @@
 #include <cstdlib>
 
 #include "diagnostics/first_frame_report.h"
+#include "diagnostics/key_latency_report.h"
 #include "platform/display_platform.h"
+#include "providers/hud_view_model.h"
+#include "providers/provider.h"
 #include "shell/demo_tour.h"
 #include "tindra_app.h"
 
@@ -46,6 +49,9 @@ int main(int argc, char* argv[]) {
   }
   tindra::TindraApp tindra({.animated = true});
   tindra::reportFirstFrameIfAsked();
+  if (auto* hud = tindra.provider(QStringLiteral("hud"))) {
+    tindra::reportKeyLatencyIfAsked(*static_cast<tindra::HudViewModel*>(hud->viewModel()));
+  }
   if (!options.isSet(demo)) return QApplication::exec();
 
   tindra::DemoTour tour(tindra, QDir(options.value(demo)));
