@@ -49,12 +49,12 @@
   KEY(bool, artworkOnlineLookup, true, "Look covers up online when the player gives none.") \
   KEY(NowPlayingPausedLinger, nowPlayingPausedLinger, NowPlayingPausedLinger::short_, "How long a paused track stays shown: short, long or until resumed.") \
   KEY(NowPlayingProgressTint, nowPlayingProgressTint, NowPlayingProgressTint::standard, "The progress bar in the standard colour or the cover's.") \
-  KEY(bool, volumeHUDEnabled, true, "Show volume changes in the notch.") \
-  KEY(bool, brightnessHUDEnabled, true, "Show brightness changes in the notch.") \
+  KEY(bool, volumeHUDEnabled, true, "Show volume changes in the notch. Option-Shift with a volume or brightness key changes it in smaller steps.") \
+  KEY(bool, brightnessHUDEnabled, true, "Show brightness changes in the notch. Keys go to the system when the output or display cannot be controlled, or when BetterDisplay handles it.") \
   KEY(HUDBarStyle, hudBarStyle, HUDBarStyle::continuous, "How the level is drawn: a continuous bar, segments or a ring.") \
   KEY(HUDTint, hudTint, HUDTint::white, "The level's colour: white, by level, or the accent colour.") \
   KEY(double, hudDuration, 1.5, "Seconds the level stays shown after a change.") \
-  KEY(bool, volumeFeedbackFallback, false, "Play the volume feedback sound where the system does not.") \
+  KEY(bool, volumeFeedbackFallback, false, "Play the volume feedback sound where the system does not. Hold Shift while pressing a volume key to do the opposite.") \
   KEY(bool, batteryPluggedInNotice, true, "Tell when power is connected.") \
   KEY(bool, batteryUnpluggedNotice, true, "Tell when power is disconnected.") \
   KEY(bool, batteryLowAlert, true, "Warn when the battery runs low.") \
