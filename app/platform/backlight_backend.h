@@ -46,8 +46,15 @@ class BacklightBackend : public QObject {
   void writeFinished(double requested, double after);
 
  protected:
-  void publish(std::optional<BacklightReading> reading) {
-    if (assignIfChanged(reading_, std::move(reading))) emit readingChanged();
+  void publish(const BacklightReading& reading) {
+    if (reading_ == reading) return;
+    reading_ = reading;
+    emit readingChanged();
+  }
+  void forgetReading() {
+    if (!reading_) return;
+    reading_.reset();
+    emit readingChanged();
   }
   void setAccess(BrightnessAccess access, DiagnosticsLog::Outcome outcome, const QString& text) {
     const bool accessChanged = assignIfChanged(access_, access);

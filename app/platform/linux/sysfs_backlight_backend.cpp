@@ -83,11 +83,11 @@ void SysfsBacklightBackend::read() {
   const QString path = folder_ + u'/' + device_;
   std::optional<int> value = readNumber(path + QStringLiteral("/actual_brightness"));
   if (!value) value = readNumber(path + QStringLiteral("/brightness"));
-  std::optional<BacklightReading> reading;
   if (value) {
-    reading = BacklightReading{device_, std::clamp(*value / double(maximum_), 0.0, 1.0), false};
+    publish(BacklightReading{device_, std::clamp(*value / double(maximum_), 0.0, 1.0), false});
+  } else {
+    forgetReading();
   }
-  publish(reading);
 }
 
 void SysfsBacklightBackend::setLevel(double level) {

@@ -39,7 +39,7 @@ void UPowerKeyboardBacklightBackend::start() {
           &UPowerKeyboardBacklightBackend::readMaximum);
   connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
     maximum_ = 0;
-    publish(std::nullopt);
+    forgetReading();
     setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
               QStringLiteral("UPower went away: the keyboard light keys stay with the desktop"));
   });
@@ -56,7 +56,7 @@ void UPowerKeyboardBacklightBackend::readMaximum() {
       [this](const QDBusMessage& answer) {
         maximum_ = intAnswer(answer).value_or(0);
         if (maximum_ <= 0) {
-          publish(std::nullopt);
+          forgetReading();
           setAccess(
               BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
               QStringLiteral("UPower reports no keyboard backlight (%1)")
@@ -86,7 +86,7 @@ void UPowerKeyboardBacklightBackend::onBrightnessChanged(int value) {
   const double ratio = static_cast<double>(value) / maximum_;
   // The policy judges the reading; the level keeps double precision.
   if (!KeyboardBacklightPolicy::level(static_cast<float>(ratio)) || ratio < 0) {
-    publish(std::nullopt);
+    forgetReading();
     setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
               QStringLiteral("the keyboard backlight level cannot be read (%1 of %2)")
                   .arg(value)
