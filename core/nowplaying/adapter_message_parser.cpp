@@ -17,6 +17,9 @@ constexpr double maxSeconds = NowPlayingSnapshot::maxSeconds;
 constexpr double microsPerSecond = 1'000'000;
 constexpr std::size_t keptBufferCapacity = 1 << 20;
 
+// Linux allows process ids up to 2^22; a little more room costs nothing.
+constexpr double maxProcessIdentifier = 2147483647;
+
 std::optional<double> finiteNumber(const JSONValue* value) {
   const double* number = value ? value->asNumber() : nullptr;
   if (!number || !std::isfinite(*number)) return std::nullopt;
@@ -234,6 +237,11 @@ AdapterMessageParser::Result AdapterMessageParser::snapshot() const {
   NowPlayingSnapshot& snapshot = result->emplace();
   copyNonEmptyString(fields.bundleIdentifier, snapshot.bundleIdentifier);
   copyNonEmptyString(fields.parentBundleIdentifier, snapshot.parentBundleIdentifier);
+  if (const auto process = finiteNumber(fields.processIdentifier);
+      process && *process >= 1 && *process <= maxProcessIdentifier &&
+      std::trunc(*process) == *process) {
+    snapshot.processIdentifier = static_cast<std::int64_t>(*process);
+  }
   snapshot.title = *title;
   copyNonEmptyString(fields.artist, snapshot.artist);
   copyNonEmptyString(fields.album, snapshot.album);

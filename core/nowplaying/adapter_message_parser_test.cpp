@@ -227,7 +227,8 @@ TEST(AdapterMessageParserTest, FieldsFallBackAndStayWithinSevenDays) {
       R"({"title":"T","playing":true,"durationMicros":0,"duration":100,"elapsedTimeMicros":0,)"
       R"("elapsedTime":5,"playbackRate":-1,"timestampEpochMicros":0,)"
       R"("timestamp":"2024-05-01T12:30:05.5Z","shuffleMode":2,"repeatMode":3,"artist":"",)"
-      R"("album":"Al","bundleIdentifier":"b","parentApplicationBundleIdentifier":"p"})");
+      R"("album":"Al","bundleIdentifier":"b","parentApplicationBundleIdentifier":"p",)"
+      R"("processIdentifier":4242})");
   EXPECT_FALSE(s.duration) << "a finite micro value decides, even when refused";
   EXPECT_EQ(s.elapsed, 0.0);
   EXPECT_EQ(s.playbackRate, 1.0);
@@ -238,7 +239,14 @@ TEST(AdapterMessageParserTest, FieldsFallBackAndStayWithinSevenDays) {
   EXPECT_EQ(s.album, "Al");
   EXPECT_EQ(s.bundleIdentifier, "b");
   EXPECT_EQ(s.parentBundleIdentifier, "p");
+  EXPECT_EQ(s.processIdentifier, 4242);
   EXPECT_EQ(s.capabilities.rawValue, 63);
+  for (const char* nonsense : {"0", "-5", "4.5", "\"12\"", "1e12"}) {
+    EXPECT_FALSE(
+        parsed(std::string(R"({"title":"T","playing":true,"processIdentifier":)") + nonsense + "}")
+            .processIdentifier)
+        << nonsense;
+  }
 
   s = parsed(R"({"title":"T","playing":false,"durationMicros":"9","duration":604800,)"
              R"("elapsedTimeMicros":604800000001,"elapsedTime":3,"playbackRate":2,)"

@@ -43,7 +43,8 @@ JSONValue** AdapterStateFields::slotFor(std::string_view name) {
     case 16:
       return is("bundleIdentifier", bundleIdentifier);
     case 17:
-      return is("elapsedTimeMicros", elapsedTimeMicros);
+      return name[0] == 'e' ? is("elapsedTimeMicros", elapsedTimeMicros)
+                            : is("processIdentifier", processIdentifier);
     case 20:
       return is("timestampEpochMicros", timestampEpochMicros);
     case 33:

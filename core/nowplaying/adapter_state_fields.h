@@ -19,6 +19,7 @@ struct AdapterStateFields {
   JSONValue* playbackRate = nullptr;
   JSONValue* bundleIdentifier = nullptr;
   JSONValue* parentBundleIdentifier = nullptr;
+  JSONValue* processIdentifier = nullptr;
   JSONValue* artist = nullptr;
   JSONValue* album = nullptr;
   JSONValue* timestampEpochMicros = nullptr;

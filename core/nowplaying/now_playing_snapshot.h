@@ -53,6 +53,9 @@ struct NowPlayingSnapshot {
 
   std::optional<std::string> bundleIdentifier;
   std::optional<std::string> parentBundleIdentifier;
+  // The player's process, where the adapter knows it (the desktop's does): what the live
+  // spectrum listens to.
+  std::optional<std::int64_t> processIdentifier;
   std::string title;
   std::optional<std::string> artist;
   std::optional<std::string> album;

@@ -106,6 +106,8 @@ TEST_F(MprisAdapterWithMpvTest, StreamFollowsThePlayerAndCommandsReachIt) {
       [](const auto& s) { return s && s->title == "first.wav" && s->duration == 60.0; }));
   EXPECT_TRUE(stream.latest->isPlaying);
   EXPECT_EQ(stream.latest->bundleIdentifier, "mpv");
+  ASSERT_TRUE(stream.waitFor([](const auto& s) { return s && s->processIdentifier; }));
+  EXPECT_EQ(*stream.latest->processIdentifier, player->processId());
   if (qEnvironmentVariableIsSet("TINDRA_SOUND_SERVER")) {  // the tone really plays
     const auto playing = [] {
       QProcess streams;

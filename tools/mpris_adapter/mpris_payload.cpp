@@ -64,6 +64,9 @@ JSONValue::Object make(const std::optional<MprisPlayerState>& player, bool inclu
   putText(payload, "artist", artists(metadata.value(QStringLiteral("xesam:artist"))));
   putText(payload, "album", player->text(QStringLiteral("xesam:album")));
   putText(payload, "bundleIdentifier", player->bundleIdentifier());
+  if (player->processIdentifier) {
+    payload.insert_or_assign("processIdentifier", static_cast<double>(*player->processIdentifier));
+  }
   payload.insert_or_assign("playing", player->isPlaying());
   if (std::isfinite(player->rate) && player->rate >= 0) {
     payload.insert_or_assign("playbackRate", player->rate);

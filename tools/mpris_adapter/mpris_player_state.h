@@ -12,9 +12,10 @@
 namespace tindra {
 
 struct MprisPlayerState {
-  QString busName;         // "org.mpris.MediaPlayer2.mpv"
-  QString desktopEntry;    // "mpv", "firefox"; empty when the player gives none
-  QString playbackStatus;  // "Playing", "Paused", "Stopped"
+  QString busName;       // "org.mpris.MediaPlayer2.mpv"
+  QString desktopEntry;  // "mpv", "firefox"; empty when the player gives none
+  std::optional<std::int64_t> processIdentifier;  // of the bus name's owner
+  QString playbackStatus;                         // "Playing", "Paused", "Stopped"
   QVariantMap metadata;
   double rate = 1.0;
   std::optional<bool> shuffle;

@@ -80,6 +80,25 @@ void MprisSession::addPlayer(const QString& busName, const QString& owner) {
   players_.insert(busName, player);
   owners_.insert(owner, busName);
   readAll(busName);
+  readProcess(busName);
+}
+
+// The player's process, for the app's live spectrum to find the player's own audio stream.
+void MprisSession::readProcess(const QString& busName) {
+  QDBusMessage call = QDBusMessage::createMethodCall(
+      QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+      QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetConnectionUnixProcessID"));
+  call << busName;
+  auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call, 2000), this);
+  connect(watcher, &QDBusPendingCallWatcher::finished, this,
+          [this, busName](QDBusPendingCallWatcher* reply) {
+            reply->deleteLater();
+            const QDBusPendingReply<uint> process = *reply;
+            auto player = players_.find(busName);
+            if (player == players_.end() || process.isError()) return;
+            player->processIdentifier = process.value();
+            emit changed();
+          });
 }
 
 void MprisSession::removePlayer(const QString& busName) {

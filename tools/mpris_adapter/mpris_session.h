@@ -45,6 +45,7 @@ class MprisSession : public QObject {
   void addPlayer(const QString& busName, const QString& owner);
   void removePlayer(const QString& busName);
   void readAll(const QString& busName);
+  void readProcess(const QString& busName);
   void readPosition(const QString& busName, bool retry = true);
   // Applies player properties; true when the position should be read again.
   bool apply(MprisPlayerState& player, const QVariantMap& properties);
