@@ -6,6 +6,7 @@
 
 #include "platform/adapter_probe.h"
 #include "platform/battery_backend.h"
+#include "platform/process_tap_session.h"
 #include "providers/hud_provider.h"
 #include "providers/now_playing_provider.h"
 
@@ -22,7 +23,8 @@ struct NowPlayingBackend {
   NowPlayingProvider::SourceFactory makeSource;
   std::unique_ptr<AdapterProbe> probe;
   std::unique_ptr<ArtworkFetcher> artwork;
-  std::optional<AdapterLaunch> adapter;  // for the on-request check; none for the fake
+  std::optional<AdapterLaunch> adapter;         // for the on-request check; none for the fake
+  std::unique_ptr<ProcessTapSession> spectrum;  // none for the fake: pseudo bars, marked so
 };
 NowPlayingBackend makeNowPlayingBackend();
 

@@ -11,9 +11,20 @@
 
 namespace tindra {
 
+namespace {
+
+SpectrumTarget spectrumTarget(const NowPlayingSnapshot& snapshot) {
+  return {snapshot.processIdentifier,
+          QString::fromStdString(snapshot.bundleIdentifier.value_or(std::string())),
+          QString::fromStdString(snapshot.parentBundleIdentifier.value_or(std::string()))};
+}
+
+}  // namespace
+
 NowPlayingProvider::NowPlayingProvider(ProviderContext context, SourceFactory makeSource,
                                        std::unique_ptr<AdapterProbe> probe,
-                                       std::unique_ptr<ArtworkFetcher> fetcher, QObject* parent)
+                                       std::unique_ptr<ArtworkFetcher> fetcher,
+                                       std::unique_ptr<ProcessTapSession> tap, QObject* parent)
     : Provider(context, parent),
       makeSource_(std::move(makeSource)),
       probe_(std::move(probe)),
@@ -21,7 +32,11 @@ NowPlayingProvider::NowPlayingProvider(ProviderContext context, SourceFactory ma
       artwork_(
           *fetcher_, [this] { return settings().read(settings::artworkOnlineLookup); },
           [] { return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0; }),
-      viewModel_([this](const NowPlayingCommand& command) { send(command); }) {
+      spectrum_(std::move(tap), spectrumBands),
+      viewModel_([this](const NowPlayingCommand& command) { send(command); }, nullptr, &spectrum_) {
+  spectrum_.setEnabled(settings().read(settings::liveWaveform));
+  spectrumSetting_ = settings().observe(settings::liveWaveform,
+                                        [this](bool enabled) { spectrum_.setEnabled(enabled); });
   if (probe_) connect(probe_.get(), &AdapterProbe::finished, this, &NowPlayingProvider::onProbed);
   connect(&artwork_, &ArtworkService::changed, this, &NowPlayingProvider::showCover);
 }
@@ -100,6 +115,8 @@ void NowPlayingProvider::show(const std::optional<NowPlayingSnapshot>& snapshot)
   }
   viewModel_.setSnapshot(snapshot);
   artwork_.show(snapshot);
+  spectrum_.setTarget(snapshot ? std::optional(spectrumTarget(*snapshot)) : std::nullopt,
+                      snapshot && snapshot->isPlaying);
   if (event) activities().offer(*event);
 }
 

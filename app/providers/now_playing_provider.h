@@ -15,7 +15,9 @@
 #include "platform/now_playing_source.h"
 #include "providers/artwork_service.h"
 #include "providers/now_playing_view_model.h"
+#include "providers/process_tap_spectrum.h"
 #include "providers/provider.h"
+#include "settings/settings_store.h"
 
 namespace tindra {
 
@@ -26,10 +28,10 @@ class NowPlayingProvider final : public Provider {
   using SourceFactory = std::function<std::unique_ptr<NowPlayingSource>()>;
 
   // Without a probe (the fake source) the source starts at once. Covers are downloaded and
-  // looked up through `fetcher`.
+  // looked up through `fetcher`; the live spectrum listens through `tap` (none: pseudo bars).
   NowPlayingProvider(ProviderContext context, SourceFactory makeSource,
                      std::unique_ptr<AdapterProbe> probe, std::unique_ptr<ArtworkFetcher> fetcher,
-                     QObject* parent = nullptr);
+                     std::unique_ptr<ProcessTapSession> tap = nullptr, QObject* parent = nullptr);
   ~NowPlayingProvider() override;
 
   QString name() const override { return QStringLiteral("media"); }
@@ -37,6 +39,10 @@ class NowPlayingProvider final : public Provider {
   NowPlayingViewModel* viewModel() override { return &viewModel_; }
 
   bool hasSource() const { return source_ != nullptr; }
+  ProcessTapSpectrum& spectrum() { return spectrum_; }
+
+  // Bars on the right ear.
+  static constexpr int spectrumBands = 6;
 
  private:
   NowPlayingSourceMode sourceMode() const;
@@ -53,6 +59,8 @@ class NowPlayingProvider final : public Provider {
   std::unique_ptr<NowPlayingSource> source_;
   std::unique_ptr<ArtworkFetcher> fetcher_;
   ArtworkService artwork_;
+  ProcessTapSpectrum spectrum_;
+  SettingsObservation spectrumSetting_;
   NowPlayingViewModel viewModel_;
   bool wasPlaying_ = false;
 };

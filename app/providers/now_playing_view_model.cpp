@@ -29,8 +29,8 @@ bool samePlayback(const NowPlayingSnapshot& a, const NowPlayingSnapshot& b) {
 
 }  // namespace
 
-NowPlayingViewModel::NowPlayingViewModel(Send send, Clock now, QObject* parent)
-    : QObject(parent), send_(std::move(send)), now_(std::move(now)) {
+NowPlayingViewModel::NowPlayingViewModel(Send send, Clock now, QObject* spectrum, QObject* parent)
+    : QObject(parent), send_(std::move(send)), now_(std::move(now)), spectrum_(spectrum) {
   if (!now_) {
     now_ = [] { return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0; };
   }

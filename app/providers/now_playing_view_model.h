@@ -40,12 +40,17 @@ class NowPlayingViewModel : public QObject {
   Q_PROPERTY(QImage cover READ cover NOTIFY coverChanged)
   Q_PROPERTY(bool hasCover READ hasCover NOTIFY coverChanged)
   Q_PROPERTY(QColor barColor READ barColor NOTIFY coverChanged)
+  // The live spectrum (a ProcessTapSpectrum) for SpectrumBars; null where there is none.
+  Q_PROPERTY(QObject* spectrum READ spectrum CONSTANT)
 
  public:
   using Send = std::function<void(const NowPlayingCommand&)>;
   using Clock = std::function<double()>;  // seconds since 1970
 
-  explicit NowPlayingViewModel(Send send, Clock now = nullptr, QObject* parent = nullptr);
+  explicit NowPlayingViewModel(Send send, Clock now = nullptr, QObject* spectrum = nullptr,
+                               QObject* parent = nullptr);
+
+  QObject* spectrum() const { return spectrum_; }
 
   bool hasTrack() const { return snapshot_.has_value(); }
   QString title() const;
@@ -111,6 +116,7 @@ class NowPlayingViewModel : public QObject {
   ScrubState scrub_;
   QImage cover_;
   QColor barColor_;
+  QObject* spectrum_;
 };
 
 }  // namespace tindra

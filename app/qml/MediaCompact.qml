@@ -1,11 +1,15 @@
 import QtQuick
+import Tindra
 
 // The playing track on the closed notch: its cover on the left ear and whether it plays on the
-// right one. The bars stand still: they show the state, not the sound.
+// right one: the live spectrum of the player's sound where it is switched on, else bars that
+// stand still and show the state, not the sound.
 Item {
     id: root
 
     property var model
+    readonly property bool live: root.model !== undefined && root.model.spectrum !== null
+                                 && root.model.spectrum.enabled
 
     MediaCover {
         model: root.model
@@ -19,7 +23,7 @@ Item {
         anchors.rightMargin: 14
         anchors.verticalCenter: parent.verticalCenter
         spacing: 2
-        visible: root.model !== undefined && root.model.playing
+        visible: root.model !== undefined && root.model.playing && !root.live
         Repeater {
             model: [0.55, 1.0, 0.7, 0.4]
             delegate: Rectangle {
@@ -31,6 +35,16 @@ Item {
                 color: "#ff375f"
             }
         }
+    }
+    SpectrumBars {
+        anchors.right: parent.right
+        anchors.rightMargin: 14
+        anchors.verticalCenter: parent.verticalCenter
+        width: 6 * 3 + 5 * 2
+        height: 14
+        visible: root.live && root.model.playing
+        spectrum: root.model ? root.model.spectrum : null
+        color: root.model && root.model.barColor.valid ? root.model.barColor : "#ff375f"
     }
     Text {
         anchors.right: parent.right

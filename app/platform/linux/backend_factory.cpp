@@ -10,6 +10,7 @@
 #include "platform/fake/fake_now_playing_source.h"
 #include "platform/fake/fake_volume_backend.h"
 #include "platform/fake/offline_artwork_fetcher.h"
+#include "platform/linux/pulse_process_tap_session.h"
 #include "platform/linux/pulse_volume_backend.h"
 #include "platform/linux/sysfs_backlight_backend.h"
 #include "platform/linux/upower_battery_backend.h"
@@ -35,6 +36,17 @@ std::unique_ptr<BatteryBackend> makeBatteryBackend() {
 
 namespace {
 
+// The one connection to the sound server, shared by the volume and the live spectrum.
+std::shared_ptr<PulseConnection> soundServer() {
+  static std::weak_ptr<PulseConnection> shared;
+  std::shared_ptr<PulseConnection> connection = shared.lock();
+  if (!connection) {
+    connection = std::make_shared<PulseConnection>();
+    shared = connection;
+  }
+  return connection;
+}
+
 std::unique_ptr<MediaKeySource> makeMediaKeySource() {
   if (qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String("wayland")) {
     return std::make_unique<NullMediaKeySource>(
@@ -58,7 +70,7 @@ HudBackends makeHudBackends() {
       qEnvironmentVariable("TINDRA_BACKLIGHT_FOLDER", SysfsBacklightBackend::defaultFolder);
   const QDBusConnection systemBus = QDBusConnection::systemBus();
   // The volume waits for a sound server that is not there yet and follows one that restarts.
-  return {std::make_unique<PulseVolumeBackend>(),
+  return {std::make_unique<PulseVolumeBackend>(soundServer()),
           std::make_unique<SysfsBacklightBackend>(backlights, systemBus),
           std::make_unique<UPowerKeyboardBacklightBackend>(systemBus), makeMediaKeySource()};
 }
@@ -66,12 +78,12 @@ HudBackends makeHudBackends() {
 NowPlayingBackend makeNowPlayingBackend() {
   if (fakeBackendRequested(QStringLiteral("media"))) {
     return {[] { return std::make_unique<FakeNowPlayingSource>(); }, nullptr,
-            std::make_unique<OfflineArtworkFetcher>(), std::nullopt};
+            std::make_unique<OfflineArtworkFetcher>(), std::nullopt, nullptr};
   }
   const AdapterLaunch launch = platformAdapterLaunch();
   return {[launch] { return std::make_unique<AdapterNowPlayingSource>(launch); },
-          std::make_unique<AdapterProbe>(launch), std::make_unique<NetworkArtworkFetcher>(),
-          launch};
+          std::make_unique<AdapterProbe>(launch), std::make_unique<NetworkArtworkFetcher>(), launch,
+          std::make_unique<PulseProcessTapSession>(soundServer())};
 }
 
 }  // namespace tindra

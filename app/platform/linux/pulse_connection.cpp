@@ -56,6 +56,12 @@ void PulseConnection::run(const std::function<void(pa_context*)>& work) {
   pa_threaded_mainloop_unlock(loop_);
 }
 
+void PulseConnection::locked(const std::function<void()>& work) {
+  pa_threaded_mainloop_lock(loop_);
+  work();
+  pa_threaded_mainloop_unlock(loop_);
+}
+
 void PulseConnection::post(std::function<void()> work) {
   QMetaObject::invokeMethod(this, std::move(work), Qt::QueuedConnection);
 }
@@ -66,7 +72,8 @@ void PulseConnection::onState(pa_context* context, void* self) {
   switch (pa_context_get_state(context)) {
     case PA_CONTEXT_READY: {
       const auto mask = static_cast<pa_subscription_mask_t>(PA_SUBSCRIPTION_MASK_SINK |
-                                                            PA_SUBSCRIPTION_MASK_SERVER);
+                                                            PA_SUBSCRIPTION_MASK_SERVER |
+                                                            PA_SUBSCRIPTION_MASK_SINK_INPUT);
       pa_operation_unref(pa_context_subscribe(context, mask, nullptr, nullptr));
       connection->post([connection] {
         connection->ready_ = true;
@@ -91,9 +98,14 @@ void PulseConnection::onState(pa_context* context, void* self) {
   }
 }
 
-void PulseConnection::onEvent(pa_context*, pa_subscription_event_type_t, uint32_t, void* self) {
+void PulseConnection::onEvent(pa_context*, pa_subscription_event_type_t type, uint32_t,
+                              void* self) {
   auto* connection = static_cast<PulseConnection*>(self);
-  connection->post([connection] { emit connection->changed(); });
+  if ((type & PA_SUBSCRIPTION_EVENT_FACILITY_MASK) == PA_SUBSCRIPTION_EVENT_SINK_INPUT) {
+    connection->post([connection] { emit connection->streamsChanged(); });
+  } else {
+    connection->post([connection] { emit connection->changed(); });
+  }
 }
 
 }  // namespace tindra

@@ -1,12 +1,14 @@
 // PulseConnection: Tindra's one connection to the sound server through libpulse (PulseAudio, or
 // PipeWire's pulse layer), on libpulse's own thread. It connects when the server is there,
 // reconnects when the server restarts, and reports the server's sink and server events on the
-// main thread. The volume backend uses it; the live spectrum will too.
+// main thread. The volume backend and the live spectrum share one (backend_factory.cpp).
 #pragma once
 
 #include <pulse/pulseaudio.h>
 
 #include <QObject>
+#include <QPointer>
+#include <QString>
 #include <QTimer>
 #include <functional>
 
@@ -27,6 +29,9 @@ class PulseConnection : public QObject {
   // Runs `work` on libpulse's thread with its lock held; `work` gets the context, which is
   // ready. Nothing runs while the connection is down.
   void run(const std::function<void(pa_context*)>& work);
+  // Runs `work` with libpulse's lock held, whether or not the server is connected: for releasing
+  // streams, which must not race their callbacks.
+  void locked(const std::function<void()>& work);
 
   // Hands `work` to the main thread; for libpulse callbacks.
   void post(std::function<void()> work);
@@ -35,6 +40,8 @@ class PulseConnection : public QObject {
   void readyChanged(bool ready);
   // A sink or the server (its default sink) changed.
   void changed();
+  // A playback stream (sink input) came, went or changed.
+  void streamsChanged();
 
  private:
   void connectNow();
@@ -47,6 +54,27 @@ class PulseConnection : public QObject {
   pa_context* context_ = nullptr;  // guarded by the loop's lock
   bool ready_ = false;             // main thread
   QTimer retry_;
+};
+
+// A property of a sink or stream as text; empty when it is not set.
+inline QString pulseProperty(const pa_proplist* properties, const char* key) {
+  const char* value = pa_proplist_gets(properties, key);
+  return value ? QString::fromUtf8(value) : QString();
+}
+
+// The user data of a libpulse request whose answer goes back to `receiver` on the main thread:
+// libpulse's thread never touches the receiver, and an answer that arrives after the receiver is
+// gone is dropped.
+template <class Receiver>
+struct PulseRequest {
+  PulseConnection* connection;
+  QPointer<Receiver> receiver;
+
+  void answer(std::function<void(Receiver&)> work) {
+    connection->post([receiver = receiver, work = std::move(work)] {
+      if (receiver) work(*receiver);
+    });
+  }
 };
 
 }  // namespace tindra

@@ -10,11 +10,6 @@ namespace tindra {
 
 namespace {
 
-QString propertyText(const pa_proplist* properties, const char* key) {
-  const char* value = pa_proplist_gets(properties, key);
-  return value ? QString::fromUtf8(value) : QString();
-}
-
 std::optional<PulseSample::Sound> tickSound() {
   QFile file(QStringLiteral(":/sounds/tindra-volume-tick.wav"));
   return file.open(QIODevice::ReadOnly) ? PulseSample::fromWav(file.readAll()) : std::nullopt;
@@ -22,9 +17,11 @@ std::optional<PulseSample::Sound> tickSound() {
 
 }  // namespace
 
-PulseVolumeBackend::PulseVolumeBackend(QObject* parent)
-    : VolumeBackend(parent), tick_(connection_, "tindra-volume-tick", tickSound()) {
-  connect(&connection_, &PulseConnection::readyChanged, this, [this](bool ready) {
+PulseVolumeBackend::PulseVolumeBackend(std::shared_ptr<PulseConnection> connection, QObject* parent)
+    : VolumeBackend(parent),
+      connection_(std::move(connection)),
+      tick_(*connection_, "tindra-volume-tick", tickSound()) {
+  connect(connection_.get(), &PulseConnection::readyChanged, this, [this](bool ready) {
     if (ready) {
       setCheck(DiagnosticsLog::Outcome::ok,
                QStringLiteral("following the sound server's default output"));
@@ -35,11 +32,11 @@ PulseVolumeBackend::PulseVolumeBackend(QObject* parent)
       publish(std::nullopt);
     }
   });
-  connect(&connection_, &PulseConnection::changed, this, &PulseVolumeBackend::readDefaultSink);
+  connect(connection_.get(), &PulseConnection::changed, this, &PulseVolumeBackend::readDefaultSink);
 }
 
 void PulseVolumeBackend::start() {
-  connection_.start();
+  connection_->start();
 }
 
 AudioTransport PulseVolumeBackend::transportOf(const QString& bus, const QString& nameAndPort) {
@@ -53,18 +50,20 @@ AudioTransport PulseVolumeBackend::transportOf(const QString& bus, const QString
 }
 
 void PulseVolumeBackend::readDefaultSink() {
-  connection_.run([this](pa_context* context) {
+  connection_->run([this](pa_context* context) {
     // "@DEFAULT_SINK@" follows the server's current default.
     pa_operation* operation = pa_context_get_sink_info_by_name(
         context, "@DEFAULT_SINK@",
-        [](pa_context*, const pa_sink_info* sink, int last, void* self) {
-          auto* backend = static_cast<PulseVolumeBackend*>(self);
+        [](pa_context*, const pa_sink_info* sink, int last, void* data) {
+          auto* request = static_cast<PulseRequest<PulseVolumeBackend>*>(data);
           if (last < 0) {
             // No default output (the server has none): nothing to set, the keys go back.
-            backend->connection().post([backend] { backend->publish(std::nullopt); });
+            request->answer([](PulseVolumeBackend& backend) { backend.publish(std::nullopt); });
+          }
+          if (last != 0 || sink == nullptr) {
+            delete request;
             return;
           }
-          if (last != 0 || sink == nullptr) return;
           VolumeReading reading;
           reading.output = QString::fromUtf8(sink->name);
           reading.level = static_cast<double>(pa_cvolume_avg(&sink->volume)) /
@@ -73,15 +72,15 @@ void PulseVolumeBackend::readDefaultSink() {
           reading.volumeSettable = sink->volume.channels > 0;
           const QString port =
               sink->active_port ? QString::fromUtf8(sink->active_port->name) : QString();
-          reading.transport = transportOf(propertyText(sink->proplist, PA_PROP_DEVICE_BUS),
+          reading.transport = transportOf(pulseProperty(sink->proplist, PA_PROP_DEVICE_BUS),
                                           reading.output + u' ' + port);
           const int channels = sink->volume.channels;
-          backend->connection().post([backend, reading, channels] {
-            backend->channels_ = channels;
-            backend->publish(reading);
+          request->answer([reading, channels](PulseVolumeBackend& backend) {
+            backend.channels_ = channels;
+            backend.publish(reading);
           });
         },
-        this);
+        new PulseRequest<PulseVolumeBackend>{connection_.get(), this});
     if (operation) pa_operation_unref(operation);
   });
 }
@@ -91,7 +90,7 @@ void PulseVolumeBackend::setLevel(double level) {
   const QByteArray sink = reading_->output.toUtf8();
   const double clamped = std::clamp(level, 0.0, 1.0);
   const int channels = channels_;
-  connection_.run([sink, clamped, channels](pa_context* context) {
+  connection_->run([sink, clamped, channels](pa_context* context) {
     pa_cvolume volume;
     pa_cvolume_set(&volume, static_cast<unsigned>(channels),
                    static_cast<pa_volume_t>(std::lround(clamped * PA_VOLUME_NORM)));
@@ -104,7 +103,7 @@ void PulseVolumeBackend::setLevel(double level) {
 void PulseVolumeBackend::setMuted(bool muted) {
   if (!reading_) return;
   const QByteArray sink = reading_->output.toUtf8();
-  connection_.run([sink, muted](pa_context* context) {
+  connection_->run([sink, muted](pa_context* context) {
     pa_operation* operation = pa_context_set_sink_mute_by_name(context, sink.constData(),
                                                                muted ? 1 : 0, nullptr, nullptr);
     if (operation) pa_operation_unref(operation);

@@ -4,6 +4,8 @@
 // the reading came from.
 #pragma once
 
+#include <memory>
+
 #include "platform/linux/pulse_connection.h"
 #include "platform/linux/pulse_sample.h"
 #include "platform/volume_backend.h"
@@ -14,7 +16,10 @@ class PulseVolumeBackend final : public VolumeBackend {
   Q_OBJECT
 
  public:
-  explicit PulseVolumeBackend(QObject* parent = nullptr);
+  // Shares `connection` with the other users of the sound server.
+  explicit PulseVolumeBackend(
+      std::shared_ptr<PulseConnection> connection = std::make_shared<PulseConnection>(),
+      QObject* parent = nullptr);
 
   void start() override;
   std::optional<VolumeReading> reading() const override { return reading_; }
@@ -26,14 +31,12 @@ class PulseVolumeBackend final : public VolumeBackend {
   // The transport from a sink's properties: its bus ("usb", "bluetooth") and its name or port.
   static AudioTransport transportOf(const QString& bus, const QString& nameAndPort);
 
-  PulseConnection& connection() { return connection_; }
-
  private:
   void readDefaultSink();
   void publish(std::optional<VolumeReading> reading);
   void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
-  PulseConnection connection_;
+  std::shared_ptr<PulseConnection> connection_;
   PulseSample tick_;
   std::optional<VolumeReading> reading_;
   int channels_ = 2;
