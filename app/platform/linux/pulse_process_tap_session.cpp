@@ -147,6 +147,7 @@ void PulseProcessTapSession::refresh() {
             stream.binary = pulseProperty(info->proplist, PA_PROP_APPLICATION_PROCESS_BINARY);
             stream.applicationId = pulseProperty(info->proplist, PA_PROP_APPLICATION_ID);
             stream.corked = info->corked != 0;
+            stream.spec = info->sample_spec;
             listing->streams.push_back(std::move(stream));
             return;
           }
@@ -169,25 +170,27 @@ void PulseProcessTapSession::onStreams(const std::vector<PlaybackStream>& stream
   lookingUp_ = true;
   lookingFor_ = wanted;
   if (mine) {
-    readSink(QByteArray::number(mine->sink), mine->index,
+    readSink(QByteArray::number(mine->sink), mine->index, mine->spec,
              QStringLiteral("the player's own stream (%1)").arg(mine->binary));
   } else {
-    readSink("@DEFAULT_SINK@", PA_INVALID_INDEX, QStringLiteral("the default output"));
+    readSink("@DEFAULT_SINK@", PA_INVALID_INDEX, std::nullopt,
+             QStringLiteral("the default output"));
   }
 }
 
-// The monitor of `sink` (an index, or "@DEFAULT_SINK@") and its format, then the capture.
 void PulseProcessTapSession::readSink(const QByteArray& sink, std::uint32_t streamIndex,
-                                      const QString& what) {
-  connection_->run([this, sink, streamIndex, what](pa_context* context) {
+                                      std::optional<pa_sample_spec> spec, const QString& what) {
+  connection_->run([this, sink, streamIndex, spec, what](pa_context* context) {
     struct Lookup : PulseRequest<PulseProcessTapSession> {
       std::uint32_t streamIndex;
+      std::optional<pa_sample_spec> spec;
       QString what;
     };
     const auto onSink = [](pa_context*, const pa_sink_info* info, int last, void* data) {
       auto* lookup = static_cast<Lookup*>(data);
       if (last == 0 && info != nullptr) {
-        const Source source{info->monitor_source, info->sample_spec, QString::fromUtf8(info->name)};
+        const Source source{info->monitor_source, lookup->spec.value_or(info->sample_spec),
+                            QString::fromUtf8(info->name)};
         lookup->answer([source, index = lookup->streamIndex, what = lookup->what](auto& session) {
           session.capture(source, index, what);
         });
@@ -201,7 +204,7 @@ void PulseProcessTapSession::readSink(const QByteArray& sink, std::uint32_t stre
       }
       delete lookup;
     };
-    auto* lookup = new Lookup{{connection_.get(), this}, streamIndex, what};
+    auto* lookup = new Lookup{{connection_.get(), this}, streamIndex, spec, what};
     bool isIndex = false;
     const std::uint32_t index = sink.toUInt(&isIndex);
     pa_operation* operation =

@@ -28,6 +28,7 @@ class PulseProcessTapSession final : public ProcessTapSession {
     QString binary;                      // "mpv", "firefox-esr"
     QString applicationId;               // "org.mozilla.firefox", often empty
     bool corked = false;                 // paused by its application
+    pa_sample_spec spec{};               // the stream's own format
   };
 
   explicit PulseProcessTapSession(std::shared_ptr<PulseConnection> connection,
@@ -52,7 +53,10 @@ class PulseProcessTapSession final : public ProcessTapSession {
 
   void refresh();
   void onStreams(const std::vector<PlaybackStream>& streams);
-  void readSink(const QByteArray& sink, std::uint32_t streamIndex, const QString& what);
+  // Captures the monitor of `sink` (an index, or "@DEFAULT_SINK@"): of the stream `streamIndex`
+  // alone where it is valid, in `spec` where it is given, else in the sink's format.
+  void readSink(const QByteArray& sink, std::uint32_t streamIndex,
+                std::optional<pa_sample_spec> spec, const QString& what);
   void capture(const Source& source, std::uint32_t streamIndex, const QString& what);
   void dropCapture();
   static void endWhenConnected(pa_stream* stream, void*);
