@@ -61,7 +61,8 @@ void TindraApp::startProviders() {
   providers_.push_back(std::make_unique<NowPlayingProvider>(
       context, std::move(nowPlaying.makeSource), std::move(nowPlaying.probe),
       std::move(nowPlaying.artwork), std::move(nowPlaying.spectrum)));
-  providers_.push_back(std::make_unique<BatteryProvider>(context, makeBatteryBackend()));
+  providers_.push_back(
+      std::make_unique<BatteryProvider>(context, makeBatteryBackend(), makeSoundPlayer()));
   providers_.push_back(std::make_unique<HudProvider>(context, makeHudBackends()));
   for (const auto& provider : providers_) {
     views_.setModel(provider->name(), provider->viewModel());

@@ -7,12 +7,15 @@
 #include "platform/adapter_probe.h"
 #include "platform/battery_backend.h"
 #include "platform/process_tap_session.h"
+#include "platform/sound_player.h"
 #include "providers/hud_provider.h"
 #include "providers/now_playing_provider.h"
 
 namespace tindra {
 
 std::unique_ptr<BatteryBackend> makeBatteryBackend();
+// The notice sounds; none where nothing can play them.
+std::unique_ptr<SoundPlayer> makeSoundPlayer();
 // The indicator's output volume, display and keyboard lights, and keys. The keys are never
 // fake: with TINDRA_FAKE=hud the real keys step the invented levels.
 HudBackends makeHudBackends();

@@ -1,11 +1,15 @@
-// BatteryProvider ("battery"): the internal battery's percentage and power state for the idle
-// layout and the "batteries" section. It follows its backend's readings as they arrive and
-// copies every change of the backend's service check into the diagnostics log.
+// BatteryProvider ("battery"): the internal battery for the idle layout and the "batteries"
+// section, and its notices: power connected, power disconnected and the low-battery warning
+// (BatteryNoticeTracker's rules, the user's notice settings), each as the batteryAlert activity
+// with a sound where there is one and sounds are on. It follows its backend's readings as they
+// arrive and copies every change of the backend's service check into the diagnostics log.
 #pragma once
 
 #include <memory>
 
 #include "platform/battery_backend.h"
+#include "platform/sound_player.h"
+#include "power/battery_notice_tracker.h"
 #include "providers/battery_view_model.h"
 #include "providers/provider.h"
 
@@ -15,8 +19,9 @@ class BatteryProvider final : public Provider {
   Q_OBJECT
 
  public:
+  // `sounds` may be null (no sound server on this platform).
   BatteryProvider(ProviderContext context, std::unique_ptr<BatteryBackend> backend,
-                  QObject* parent = nullptr);
+                  std::unique_ptr<SoundPlayer> sounds = nullptr, QObject* parent = nullptr);
 
   QString name() const override { return QStringLiteral("battery"); }
   void start() override;
@@ -24,8 +29,13 @@ class BatteryProvider final : public Provider {
 
  private:
   void recordCheck();
+  void onReading();
+  void migrateOldSetting();
+  BatteryNoticeTracker::Settings noticeSettings() const;
 
   std::unique_ptr<BatteryBackend> backend_;
+  std::unique_ptr<SoundPlayer> sounds_;
+  BatteryNoticeTracker tracker_;
   BatteryViewModel viewModel_;
 };
 

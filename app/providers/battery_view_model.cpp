@@ -14,4 +14,15 @@ void BatteryViewModel::setReading(std::optional<BatteryStatus> reading) {
   emit changed();
 }
 
+QString BatteryViewModel::notice() const {
+  if (!notice_) return {};
+  const std::string_view kind = rawValue(notice_->kind);
+  return QString::fromUtf8(kind.data(), static_cast<qsizetype>(kind.size()));
+}
+
+void BatteryViewModel::setNotice(const BatteryNotice& notice) {
+  notice_ = notice;
+  emit noticeChanged();
+}
+
 }  // namespace tindra

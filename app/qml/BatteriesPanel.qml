@@ -43,4 +43,10 @@ Column {
         color: "#a1a1a6"
         font.pixelSize: 12
     }
+    Text {
+        visible: root.model !== undefined && root.model.lowPowerMode
+        text: qsTr("Low Power Mode is on")
+        color: "#ffd60a"
+        font.pixelSize: 11
+    }
 }

@@ -31,6 +31,8 @@ std::optional<ViewRegistry::View> ViewRegistry::compact(ActivityKind kind) {
       return View{QStringLiteral("media"), view("MediaCompact.qml")};
     case ActivityKind::hud:
       return View{QStringLiteral("hud"), view("HudCompact.qml")};
+    case ActivityKind::batteryAlert:
+      return View{QStringLiteral("battery"), view("BatteryCompact.qml")};
     default:
       return std::nullopt;
   }

@@ -4,6 +4,8 @@
 #include <cmath>
 #include <limits>
 
+#include "power/power_source_parser.h"
+
 namespace tindra {
 
 namespace {
@@ -20,7 +22,7 @@ std::optional<int> minutes(std::int64_t seconds) {
 
 }  // namespace
 
-std::optional<BatteryStatus> UPowerDevice::batteryStatus() const {
+std::optional<PowerSourceDescription> UPowerDevice::powerSourceDescription() const {
   if (type != typeBattery || !isPresent || !std::isfinite(percentage)) return std::nullopt;
   const auto current = static_cast<State>(state);
   const bool charging = current == State::charging;
@@ -29,10 +31,28 @@ std::optional<BatteryStatus> UPowerDevice::batteryStatus() const {
   const bool pluggedIn = charging || charged || current == State::pendingCharge;
   const bool discharging = current == State::discharging || current == State::pendingDischarge ||
                            current == State::empty;
-  const double clamped = std::clamp(percentage, 0.0, 100.0);
-  return BatteryStatus(static_cast<int>(std::lround(clamped)), pluggedIn, charging, charged,
-                       discharging ? minutes(timeToEmpty) : std::nullopt,
-                       charging ? minutes(timeToFull) : std::nullopt);
+  PowerSourceDescription description{
+      {"Type", "InternalBattery"},
+      {"Is Present", true},
+      {"Current Capacity", std::lround(std::clamp(percentage, 0.0, 100.0))},
+      {"Max Capacity", 100},
+      {"Power Source State", pluggedIn ? "AC Power" : "Battery Power"},
+      {"Is Charging", charging},
+      {"Is Charged", charged},
+  };
+  if (const auto left = minutes(timeToEmpty); discharging && left) {
+    description.emplace("Time to Empty", *left);
+  }
+  if (const auto left = minutes(timeToFull); charging && left) {
+    description.emplace("Time to Full Charge", *left);
+  }
+  return description;
+}
+
+std::optional<BatteryStatus> UPowerDevice::batteryStatus(bool isLowPowerMode) const {
+  const std::optional<PowerSourceDescription> description = powerSourceDescription();
+  if (!description) return std::nullopt;
+  return PowerSourceParser::parse(std::span(&*description, 1), isLowPowerMode);
 }
 
 }  // namespace tindra

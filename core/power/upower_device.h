@@ -9,6 +9,7 @@
 
 #include "base/enum_table.h"
 #include "power/battery_status.h"
+#include "power/power_source_value.h"
 
 namespace tindra {
 
@@ -32,9 +33,12 @@ struct UPowerDevice {
   std::int64_t timeToEmpty = 0;  // seconds; 0 while UPower is still estimating
   std::int64_t timeToFull = 0;
 
-  // The reading the views show, or nothing when this is no battery (a desktop's display device
-  // reports no type and no presence).
-  std::optional<BatteryStatus> batteryStatus() const;
+  // The device as a power-source description with the keys PowerSourceParser reads, so the
+  // same parser and notice rules run on every platform; none when this is no battery (a
+  // desktop's display device reports no type and no presence) or its percentage is not finite.
+  std::optional<PowerSourceDescription> powerSourceDescription() const;
+  // The reading the views show: the description, parsed.
+  std::optional<BatteryStatus> batteryStatus(bool isLowPowerMode = false) const;
 };
 
 template <>

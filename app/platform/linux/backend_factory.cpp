@@ -11,6 +11,7 @@
 #include "platform/fake/fake_volume_backend.h"
 #include "platform/fake/offline_artwork_fetcher.h"
 #include "platform/linux/pulse_process_tap_session.h"
+#include "platform/linux/pulse_sound_player.h"
 #include "platform/linux/pulse_volume_backend.h"
 #include "platform/linux/sysfs_backlight_backend.h"
 #include "platform/linux/upower_battery_backend.h"
@@ -57,6 +58,11 @@ std::unique_ptr<MediaKeySource> makeMediaKeySource() {
 }
 
 }  // namespace
+
+std::unique_ptr<SoundPlayer> makeSoundPlayer() {
+  return std::make_unique<PulseSoundPlayer>(soundServer(),
+                                            QStringList{"tindra-charging", "tindra-low-battery"});
+}
 
 HudBackends makeHudBackends() {
   if (fakeBackendRequested(QStringLiteral("hud"))) {

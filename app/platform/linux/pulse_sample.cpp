@@ -85,8 +85,10 @@ void PulseSample::upload() {
 void PulseSample::play(const QString& sink) {
   const QByteArray sinkName = sink.toUtf8();
   connection_.run([this, sinkName](pa_context* context) {
+    // No sink named: the default output.
     pa_operation* operation = pa_context_play_sample(
-        context, name_.constData(), sinkName.constData(), PA_VOLUME_INVALID, nullptr, nullptr);
+        context, name_.constData(), sinkName.isEmpty() ? nullptr : sinkName.constData(),
+        PA_VOLUME_INVALID, nullptr, nullptr);
     if (operation) pa_operation_unref(operation);
   });
 }

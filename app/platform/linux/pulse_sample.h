@@ -27,6 +27,7 @@ class PulseSample : public QObject {
   PulseSample(PulseConnection& connection, QByteArray name, std::optional<Sound> sound,
               QObject* parent = nullptr);
 
+  // Plays on `sink`; on the default output when it is empty.
   void play(const QString& sink);
 
  private:

@@ -3,7 +3,10 @@
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusVariant>
 #include <utility>
+
+#include "assign_if_changed.h"
 
 namespace tindra {
 
@@ -13,6 +16,8 @@ const QString service = QStringLiteral("org.freedesktop.UPower");
 const QString displayDevice = QStringLiteral("/org/freedesktop/UPower/devices/DisplayDevice");
 const QString deviceInterface = QStringLiteral("org.freedesktop.UPower.Device");
 const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+const QString profilesService = QStringLiteral("net.hadess.PowerProfiles");
+const QString profilesPath = QStringLiteral("/net/hadess/PowerProfiles");
 
 bool isSignedOrSmallInteger(const QVariant& value) {
   switch (value.typeId()) {
@@ -54,6 +59,9 @@ UPowerBatteryBackend::UPowerBatteryBackend(QDBusConnection bus, QObject* parent)
       watcher_(
           service, bus_,
           QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
+      profilesWatcher_(
+          profilesService, bus_,
+          QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
       check_{DiagnosticsLog::Outcome::ok, QStringLiteral("asking UPower for the battery")} {}
 
 void UPowerBatteryBackend::start() {
@@ -62,7 +70,41 @@ void UPowerBatteryBackend::start() {
   connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, &UPowerBatteryBackend::readAll);
   connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this,
           &UPowerBatteryBackend::onServiceGone);
+  bus_.connect(profilesService, profilesPath, propertiesInterface,
+               QStringLiteral("PropertiesChanged"), this,
+               SLOT(onProfilesChanged(QString, QVariantMap, QStringList)));
+  connect(&profilesWatcher_, &QDBusServiceWatcher::serviceRegistered, this,
+          &UPowerBatteryBackend::readProfile);
+  connect(&profilesWatcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+    powerSaver_ = false;
+    publish(device_.batteryStatus(powerSaver_));
+  });
   readAll();
+  readProfile();
+}
+
+void UPowerBatteryBackend::readProfile() {
+  QDBusMessage call = QDBusMessage::createMethodCall(profilesService, profilesPath,
+                                                     propertiesInterface, QStringLiteral("Get"));
+  call << profilesService << QStringLiteral("ActiveProfile");
+  auto* pending = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
+  connect(pending, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
+    done->deleteLater();
+    const QDBusPendingReply<QDBusVariant> reply = *done;
+    // No power-profiles-daemon: no low power mode to show.
+    onProfilesChanged(
+        profilesService,
+        {{QStringLiteral("ActiveProfile"), reply.isError() ? QVariant() : reply.value().variant()}},
+        {});
+  });
+}
+
+void UPowerBatteryBackend::onProfilesChanged(const QString& interface, const QVariantMap& changed,
+                                             const QStringList&) {
+  const auto profile = changed.constFind(QStringLiteral("ActiveProfile"));
+  if (interface != profilesService || profile == changed.constEnd()) return;
+  powerSaver_ = profile->toString() == QLatin1String("power-saver");
+  publish(device_.batteryStatus(powerSaver_));
 }
 
 void UPowerBatteryBackend::readAll() {
@@ -114,20 +156,15 @@ void UPowerBatteryBackend::apply(const QVariantMap& properties) {
   take(properties, "IsPresent", device_.isPresent);
   take(properties, "TimeToEmpty", device_.timeToEmpty);
   take(properties, "TimeToFull", device_.timeToFull);
-  publish(device_.batteryStatus());
+  publish(device_.batteryStatus(powerSaver_));
 }
 
 void UPowerBatteryBackend::publish(std::optional<BatteryStatus> reading) {
-  if (reading == reading_) return;
-  reading_ = reading;
-  emit readingChanged();
+  if (assignIfChanged(reading_, reading)) emit readingChanged();
 }
 
 void UPowerBatteryBackend::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
-  ServiceCheck check{outcome, text};
-  if (check == check_) return;
-  check_ = std::move(check);
-  emit checkChanged();
+  if (assignIfChanged(check_, ServiceCheck{outcome, text})) emit checkChanged();
 }
 
 }  // namespace tindra

@@ -1,6 +1,8 @@
-// UPowerBatteryBackend: the battery as UPower's display device reports it on the system bus. It
-// reads all properties once when UPower appears and then follows PropertiesChanged; when UPower
-// goes away the reading is dropped and the check says so, and it comes back with the service.
+// UPowerBatteryBackend: the battery as UPower's display device reports it on the system bus (the
+// composite UPower makes of every battery that powers the machine). It reads all properties once
+// when UPower appears and then follows PropertiesChanged; when UPower goes away the reading is
+// dropped and the check says so, and it comes back with the service. Low power mode is
+// power-profiles-daemon's "power-saver" profile, followed the same way.
 #pragma once
 
 #include <QDBusConnection>
@@ -27,18 +29,23 @@ class UPowerBatteryBackend final : public BatteryBackend {
  private slots:
   void onPropertiesChanged(const QString& interface, const QVariantMap& changed,
                            const QStringList& invalidated);
+  void onProfilesChanged(const QString& interface, const QVariantMap& changed,
+                         const QStringList& invalidated);
 
  private:
   void readAll();
   void onReadAll(QDBusPendingCallWatcher* call);
   void onServiceGone();
   void apply(const QVariantMap& properties);
+  void readProfile();
   void publish(std::optional<BatteryStatus> reading);
   void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
   QDBusConnection bus_;
   QDBusServiceWatcher watcher_;
+  QDBusServiceWatcher profilesWatcher_;
   UPowerDevice device_;
+  bool powerSaver_ = false;
   std::optional<BatteryStatus> reading_;
   ServiceCheck check_;
 };

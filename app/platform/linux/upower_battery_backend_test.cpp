@@ -2,11 +2,18 @@
 
 #include <gtest/gtest.h>
 
+#include <QDBusMessage>
 #include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QElapsedTimer>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 #include <memory>
 
+#include "activity_center.h"
+#include "providers/battery_provider.h"
+#include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
 
 namespace tindra {
@@ -75,6 +82,51 @@ TEST_F(UPowerBatteryBackendTest, FollowsTheDisplayDeviceAndKeepsValuesOverNonsen
 
   setProperties({{"IsPresent", false}});
   EXPECT_TRUE(waitFor([&] { return !backend.reading(); }));
+}
+
+// Low power mode is power-profiles-daemon's power-saver profile, followed as it changes; the
+// provider on top turns UPower's changes into notices.
+TEST_F(UPowerBatteryBackendTest, PowerSaverAndNoticesFollowTheServices) {
+  DBusMockService profiles(QDBusConnection::systemBus(), "net.hadess.PowerProfiles",
+                           {"--template", "power_profiles_daemon"});
+  QString error;
+  ASSERT_TRUE(profiles.start(&error)) << error.toStdString();
+  setUpBattery(50);
+  auto owned = std::make_unique<UPowerBatteryBackend>(QDBusConnection::systemBus());
+  UPowerBatteryBackend& backend = *owned;
+  QTemporaryDir dir;
+  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
+  ActivityCenter activities(settings);
+  DiagnosticsLog diagnostics;
+  BatteryProvider provider({activities, settings, diagnostics}, std::move(owned));
+  provider.start();
+  ASSERT_TRUE(waitFor([&] { return backend.reading() && backend.reading()->percent == 50; }));
+  EXPECT_FALSE(backend.reading()->isLowPowerMode);
+
+  QDBusMessage set =
+      QDBusMessage::createMethodCall("net.hadess.PowerProfiles", "/net/hadess/PowerProfiles",
+                                     "org.freedesktop.DBus.Properties", "Set");
+  set << "net.hadess.PowerProfiles"
+      << "ActiveProfile" << QVariant::fromValue(QDBusVariant("power-saver"));
+  ASSERT_EQ(QDBusConnection::systemBus().call(set).type(), QDBusMessage::ReplyMessage);
+  ASSERT_TRUE(waitFor([&] { return backend.reading()->isLowPowerMode; }));
+  EXPECT_TRUE(provider.viewModel()->lowPowerMode());
+
+  // Plugged in, then discharging through the threshold: how long a change takes to the notice.
+  QElapsedTimer sinceChange;
+  sinceChange.start();
+  setProperties({{"State", 1u}});
+  ASSERT_TRUE(waitFor([&] { return activities.current() == ActivityKind::batteryAlert; }));
+  std::printf("UPower change to notice: %.2f ms\n", sinceChange.nsecsElapsed() / 1e6);
+  EXPECT_EQ(provider.viewModel()->notice(), "pluggedIn");
+  activities.reset();
+  setProperties({{"State", 2u}, {"Percentage", 21.0}});
+  ASSERT_TRUE(waitFor([&] { return provider.viewModel()->notice() == "unplugged"; }));
+  setProperties({{"Percentage", 19.6}});
+  ASSERT_TRUE(waitFor([&] { return provider.viewModel()->notice() == "low"; }));
+  EXPECT_EQ(provider.viewModel()->noticePercent(), 20);
+  ASSERT_TRUE(profiles.stop());
+  ASSERT_TRUE(waitFor([&] { return !backend.reading()->isLowPowerMode; }));
 }
 
 TEST_F(UPowerBatteryBackendTest, LosesTheBatteryWithUPowerAndFindsItWhenUPowerReturns) {
