@@ -9,6 +9,7 @@
 #include "platform/adapter_check.h"
 #include "platform/backend_factory.h"
 #include "platform/screen_source_factory.h"
+#include "providers/accessory_provider.h"
 #include "providers/battery_provider.h"
 #include "providers/hud_provider.h"
 #include "providers/now_playing_provider.h"
@@ -61,9 +62,11 @@ void TindraApp::startProviders() {
   providers_.push_back(std::make_unique<NowPlayingProvider>(
       context, std::move(nowPlaying.makeSource), std::move(nowPlaying.probe),
       std::move(nowPlaying.artwork), std::move(nowPlaying.spectrum)));
-  providers_.push_back(
-      std::make_unique<BatteryProvider>(context, makeBatteryBackend(), makeSoundPlayer()));
+  const std::shared_ptr<SoundPlayer> sounds = makeSoundPlayer();
+  providers_.push_back(std::make_unique<BatteryProvider>(context, makeBatteryBackend(), sounds));
   providers_.push_back(std::make_unique<HudProvider>(context, makeHudBackends()));
+  providers_.push_back(
+      std::make_unique<AccessoryProvider>(context, makeAccessoryBackend(), sounds));
   for (const auto& provider : providers_) {
     views_.setModel(provider->name(), provider->viewModel());
     provider->start();

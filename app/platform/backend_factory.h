@@ -4,6 +4,7 @@
 
 #include <memory>
 
+#include "platform/accessory_backend.h"
 #include "platform/adapter_probe.h"
 #include "platform/battery_backend.h"
 #include "platform/process_tap_session.h"
@@ -14,8 +15,9 @@
 namespace tindra {
 
 std::unique_ptr<BatteryBackend> makeBatteryBackend();
-// The notice sounds; none where nothing can play them.
-std::unique_ptr<SoundPlayer> makeSoundPlayer();
+std::unique_ptr<AccessoryBackend> makeAccessoryBackend();
+// The notice sounds, one player for every provider; none where nothing can play them.
+std::shared_ptr<SoundPlayer> makeSoundPlayer();
 // The indicator's output volume, display and keyboard lights, and keys. The keys are never
 // fake: with TINDRA_FAKE=hud the real keys step the invented levels.
 HudBackends makeHudBackends();

@@ -20,7 +20,7 @@ std::optional<bool> storedBool(const SettingsStore& settings, std::string_view n
 }  // namespace
 
 BatteryProvider::BatteryProvider(ProviderContext context, std::unique_ptr<BatteryBackend> backend,
-                                 std::unique_ptr<SoundPlayer> sounds, QObject* parent)
+                                 std::shared_ptr<SoundPlayer> sounds, QObject* parent)
     : Provider(context, parent), backend_(std::move(backend)), sounds_(std::move(sounds)) {
   backend_->setParent(nullptr);  // owned here, not by the Qt tree
   connect(backend_.get(), &BatteryBackend::readingChanged, this, &BatteryProvider::onReading);

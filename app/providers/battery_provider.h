@@ -21,7 +21,7 @@ class BatteryProvider final : public Provider {
  public:
   // `sounds` may be null (no sound server on this platform).
   BatteryProvider(ProviderContext context, std::unique_ptr<BatteryBackend> backend,
-                  std::unique_ptr<SoundPlayer> sounds = nullptr, QObject* parent = nullptr);
+                  std::shared_ptr<SoundPlayer> sounds = nullptr, QObject* parent = nullptr);
 
   QString name() const override { return QStringLiteral("battery"); }
   void start() override;
@@ -34,7 +34,7 @@ class BatteryProvider final : public Provider {
   BatteryNoticeTracker::Settings noticeSettings() const;
 
   std::unique_ptr<BatteryBackend> backend_;
-  std::unique_ptr<SoundPlayer> sounds_;
+  std::shared_ptr<SoundPlayer> sounds_;
   BatteryNoticeTracker tracker_;
   BatteryViewModel viewModel_;
 };

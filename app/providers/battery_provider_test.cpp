@@ -28,7 +28,7 @@ class BatteryProviderTest : public ::testing::Test {
     backend_ = backend.get();
     provider_ = std::make_unique<BatteryProvider>(
         ProviderContext{activities_, settings_, diagnostics_}, std::move(backend),
-        std::make_unique<RecordedSounds>(played_));
+        std::make_shared<RecordedSounds>(played_));
   }
 
   static BatteryStatus onBattery(int percent) {

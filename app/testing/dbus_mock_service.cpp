@@ -40,9 +40,8 @@ bool DBusMockService::stop() {
 }
 
 QString DBusMockService::call(const QString& path, const QString& method,
-                              const QVariantList& arguments) {
-  QDBusMessage message = QDBusMessage::createMethodCall(
-      busName_, path, QStringLiteral("org.freedesktop.DBus.Mock"), method);
+                              const QVariantList& arguments, const QString& interface) {
+  QDBusMessage message = QDBusMessage::createMethodCall(busName_, path, interface, method);
   message.setArguments(arguments);
   const QDBusMessage reply = bus_.call(message, QDBus::Block, 5000);
   return reply.type() == QDBusMessage::ErrorMessage ? reply.errorMessage() : QString();

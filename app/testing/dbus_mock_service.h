@@ -21,8 +21,10 @@ class DBusMockService {
   // Stops the service and waits until its name has left the bus; false if it stayed.
   bool stop();
 
-  // Calls one of the template's org.freedesktop.DBus.Mock methods; the error text, or empty.
-  QString call(const QString& path, const QString& method, const QVariantList& arguments);
+  // Calls one of the template's mock methods (org.freedesktop.DBus.Mock unless `interface` names
+  // the template's own); the error text, or empty.
+  QString call(const QString& path, const QString& method, const QVariantList& arguments,
+               const QString& interface = QStringLiteral("org.freedesktop.DBus.Mock"));
 
  private:
   bool nameOnBus() const;

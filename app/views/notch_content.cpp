@@ -57,14 +57,17 @@ void NotchContent::refresh() {
   for (const QString& name : shownSections(pinned)) {
     const auto section =
         std::ranges::find(ViewRegistry::sections(), name, &ViewRegistry::Section::name);
-    QObject* model = views_.model(section->view.provider);
-    if (!model) continue;
-    // A pinned section keeps its place even while it has nothing to show.
-    sections << QVariantMap{{"name", name},
-                            {"source", section->view.source},
-                            {"model", QVariant::fromValue(model)},
-                            {"pinned", !pinned.empty() && !section->transient},
-                            {"transient", section->transient}};
+    // A section may be drawn by several providers' views, side by side.
+    for (const ViewRegistry::View& view : section->views) {
+      QObject* model = views_.model(view.provider);
+      if (!model) continue;
+      // A pinned section keeps its place even while it has nothing to show.
+      sections << QVariantMap{{"name", name},
+                              {"source", view.source},
+                              {"model", QVariant::fromValue(model)},
+                              {"pinned", !pinned.empty() && !section->transient},
+                              {"transient", section->transient}};
+    }
   }
   QVariantList idleItems;
   for (const ViewRegistry::View& item : ViewRegistry::idleItems()) {

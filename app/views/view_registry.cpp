@@ -13,9 +13,11 @@ QUrl view(const char* file) {
 const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
   // The calendar, weather and file tray sections join here as their providers arrive.
   static const std::vector<Section> all{
-      {QStringLiteral("hud"), {QStringLiteral("hud"), view("HudPanel.qml")}, true},
-      {QStringLiteral("media"), {QStringLiteral("media"), view("MediaPanel.qml")}},
-      {QStringLiteral("batteries"), {QStringLiteral("battery"), view("BatteriesPanel.qml")}},
+      {QStringLiteral("hud"), {{QStringLiteral("hud"), view("HudPanel.qml")}}, true},
+      {QStringLiteral("media"), {{QStringLiteral("media"), view("MediaPanel.qml")}}},
+      {QStringLiteral("batteries"),
+       {{QStringLiteral("battery"), view("BatteriesPanel.qml")},
+        {QStringLiteral("accessories"), view("AccessoriesPanel.qml")}}},
   };
   return all;
 }
@@ -33,6 +35,8 @@ std::optional<ViewRegistry::View> ViewRegistry::compact(ActivityKind kind) {
       return View{QStringLiteral("hud"), view("HudCompact.qml")};
     case ActivityKind::batteryAlert:
       return View{QStringLiteral("battery"), view("BatteryCompact.qml")};
+    case ActivityKind::accessory:
+      return View{QStringLiteral("accessories"), view("AccessoryCompact.qml")};
     default:
       return std::nullopt;
   }

@@ -23,8 +23,8 @@ class ViewRegistry {
     QUrl source;
   };
   struct Section {
-    QString name;  // as listed in `pinnedWidgets`: "media", "batteries", ...
-    View view;
+    QString name;             // as listed in `pinnedWidgets`: "media", "batteries", ...
+    std::vector<View> views;  // one or more providers' parts, drawn side by side
     // Shown only while its activity lasts, whatever is pinned (the level indicator).
     bool transient = false;
   };

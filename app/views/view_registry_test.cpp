@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "activity/activity_kind.h"
+#include "providers/accessory_view_model.h"
 #include "providers/battery_view_model.h"
 #include "providers/hud_view_model.h"
 #include "providers/now_playing_view_model.h"
@@ -28,13 +29,23 @@ TEST(ViewRegistryTest, EveryViewLoadsOnItsProvidersModelWithoutWarnings) {
 
   NowPlayingViewModel media([](const NowPlayingCommand&) {});
   BatteryViewModel battery;
+  AccessoryViewModel accessories;
+  BluetoothAccessory buds;
+  buds.name = "Buds";
+  buds.kind = BluetoothAccessoryKind::airPodsPro;
+  buds.battery = {80, 70, 40, std::nullopt};
+  accessories.setAccessories({buds});
+  accessories.setNotice({AccessoryNotice::Kind::connected, buds, std::nullopt});
   HudViewModel hud;
   hud.show(HUDState(HUDKind::volume, 0.5), HUDBarMotion::settle(), HUDBarStyle::ring,
            HUDTint::level);
-  const std::map<QString, QObject*> models{{"media", &media}, {"battery", &battery}, {"hud", &hud}};
+  const std::map<QString, QObject*> models{
+      {"media", &media}, {"battery", &battery}, {"hud", &hud}, {"accessories", &accessories}};
 
   std::vector<ViewRegistry::View> views = ViewRegistry::idleItems();
-  for (const auto& section : ViewRegistry::sections()) views.push_back(section.view);
+  for (const auto& section : ViewRegistry::sections()) {
+    views.insert(views.end(), section.views.begin(), section.views.end());
+  }
   for (const ActivityKind kind : allCases<ActivityKind>()) {
     if (const auto view = ViewRegistry::compact(kind)) views.push_back(*view);
   }

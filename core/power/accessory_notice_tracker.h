@@ -11,11 +11,13 @@
 // Several notices at one reading come in this order: disconnected, connected, low.
 #pragma once
 
+#include <array>
 #include <map>
 #include <optional>
 #include <string>
 #include <vector>
 
+#include "base/enum_table.h"
 #include "power/bluetooth_accessory.h"
 
 namespace tindra {
@@ -31,6 +33,14 @@ struct AccessoryNotice {
   double duration() const;
 
   friend bool operator==(const AccessoryNotice&, const AccessoryNotice&) = default;
+};
+
+template <>
+struct EnumTable<AccessoryNotice::Kind> {
+  using E = AccessoryNotice::Kind;
+  static constexpr std::array cases{EnumCase{E::connected, "connected"},
+                                    EnumCase{E::disconnected, "disconnected"},
+                                    EnumCase{E::low, "low"}};
 };
 
 class AccessoryNoticeTracker {

@@ -5,11 +5,13 @@
 
 #include "platform/adapter_now_playing_source.h"
 #include "platform/backend_selection.h"
+#include "platform/fake/fake_accessory_backend.h"
 #include "platform/fake/fake_backlight_backend.h"
 #include "platform/fake/fake_battery_backend.h"
 #include "platform/fake/fake_now_playing_source.h"
 #include "platform/fake/fake_volume_backend.h"
 #include "platform/fake/offline_artwork_fetcher.h"
+#include "platform/linux/bluez_accessory_backend.h"
 #include "platform/linux/pulse_process_tap_session.h"
 #include "platform/linux/pulse_sound_player.h"
 #include "platform/linux/pulse_volume_backend.h"
@@ -59,8 +61,16 @@ std::unique_ptr<MediaKeySource> makeMediaKeySource() {
 
 }  // namespace
 
-std::unique_ptr<SoundPlayer> makeSoundPlayer() {
-  return std::make_unique<PulseSoundPlayer>(soundServer(),
+std::unique_ptr<AccessoryBackend> makeAccessoryBackend() {
+  if (fakeBackendRequested(QStringLiteral("accessories"))) {
+    return std::make_unique<FakeAccessoryBackend>();
+  }
+  // Without a system bus it says so in its check and shows nothing.
+  return std::make_unique<BlueZAccessoryBackend>(QDBusConnection::systemBus());
+}
+
+std::shared_ptr<SoundPlayer> makeSoundPlayer() {
+  return std::make_shared<PulseSoundPlayer>(soundServer(),
                                             QStringList{"tindra-charging", "tindra-low-battery"});
 }
 

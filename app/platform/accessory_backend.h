@@ -1,0 +1,28 @@
+// AccessoryBackend: the connected Bluetooth accessories, each with its kind and its batteries
+// merged from every source the platform has, reported as they change (never polled).
+#pragma once
+
+#include <QObject>
+#include <vector>
+
+#include "platform/service_check.h"
+#include "power/bluetooth_accessory.h"
+
+namespace tindra {
+
+class AccessoryBackend : public QObject {
+  Q_OBJECT
+
+ public:
+  using QObject::QObject;
+
+  virtual void start() = 0;
+  virtual std::vector<BluetoothAccessory> connected() const = 0;
+  virtual ServiceCheck check() const = 0;
+
+ signals:
+  void changed();
+  void checkChanged();
+};
+
+}  // namespace tindra

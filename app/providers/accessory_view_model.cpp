@@ -1,0 +1,47 @@
+#include "providers/accessory_view_model.h"
+
+namespace tindra {
+
+namespace {
+
+QString text(std::string_view value) {
+  return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+}
+
+}  // namespace
+
+QVariantMap AccessoryViewModel::describe(const BluetoothAccessory& accessory) {
+  QVariantMap map{{"name", QString::fromStdString(accessory.name)},
+                  {"kind", text(rawValue(accessory.kind))}};
+  for (const AccessoryBatteryPart part : allCases<AccessoryBatteryPart>()) {
+    map.insert(text(rawValue(part)), accessory.battery.level(part).value_or(-1));
+  }
+  return map;
+}
+
+QString AccessoryViewModel::notice() const {
+  return notice_ ? text(rawValue(notice_->kind)) : QString();
+}
+
+QVariantMap AccessoryViewModel::noticeAccessory() const {
+  return notice_ ? describe(notice_->accessory) : QVariantMap();
+}
+
+QString AccessoryViewModel::noticePart() const {
+  return notice_ && notice_->part ? text(rawValue(*notice_->part)) : QString();
+}
+
+void AccessoryViewModel::setAccessories(const std::vector<BluetoothAccessory>& accessories) {
+  QVariantList list;
+  for (const BluetoothAccessory& accessory : accessories) list << describe(accessory);
+  if (list == accessories_) return;
+  accessories_ = list;
+  emit accessoriesChanged();
+}
+
+void AccessoryViewModel::setNotice(const AccessoryNotice& notice) {
+  notice_ = notice;
+  emit noticeChanged();
+}
+
+}  // namespace tindra

@@ -1,0 +1,49 @@
+// AccessoryViewModel: the connected Bluetooth accessories for the "batteries" section, and the
+// latest accessory notice for the compact view. Kinds are BluetoothAccessoryKind's raw values
+// ("airPodsPro", "headphones", "speaker", ...), levels are percentages, -1 where unknown.
+#pragma once
+
+#include <QObject>
+#include <QVariantList>
+#include <optional>
+#include <vector>
+
+#include "power/accessory_notice_tracker.h"
+
+namespace tindra {
+
+class AccessoryViewModel : public QObject {
+  Q_OBJECT
+  // One map per connected accessory: name, kind, left, right, caseLevel, main.
+  Q_PROPERTY(QVariantList accessories READ accessories NOTIFY accessoriesChanged)
+  Q_PROPERTY(bool hasContent READ hasContent NOTIFY accessoriesChanged)
+  // The latest notice: "connected", "disconnected" or "low"; its accessory as one map as above;
+  // for "low", the part that is low ("left", "right", "caseLevel", "main").
+  Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+  Q_PROPERTY(QVariantMap noticeAccessory READ noticeAccessory NOTIFY noticeChanged)
+  Q_PROPERTY(QString noticePart READ noticePart NOTIFY noticeChanged)
+
+ public:
+  using QObject::QObject;
+
+  QVariantList accessories() const { return accessories_; }
+  bool hasContent() const { return !accessories_.isEmpty(); }
+  QString notice() const;
+  QVariantMap noticeAccessory() const;
+  QString noticePart() const;
+
+  void setAccessories(const std::vector<BluetoothAccessory>& accessories);
+  void setNotice(const AccessoryNotice& notice);
+
+  static QVariantMap describe(const BluetoothAccessory& accessory);
+
+ signals:
+  void accessoriesChanged();
+  void noticeChanged();
+
+ private:
+  QVariantList accessories_;
+  std::optional<AccessoryNotice> notice_;
+};
+
+}  // namespace tindra
