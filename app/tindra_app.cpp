@@ -71,6 +71,11 @@ void TindraApp::startProviders() {
     views_.setModel(provider->name(), provider->viewModel());
     provider->start();
   }
+  // A machine without a battery (a desktop) has no battery settings.
+  auto* battery = static_cast<BatteryViewModel*>(provider(QStringLiteral("battery"))->viewModel());
+  shell_->setHiddenSettings([battery](std::string_view name) {
+    return !battery->available() && name.starts_with("battery");
+  });
 }
 
 Provider* TindraApp::provider(const QString& name) const {

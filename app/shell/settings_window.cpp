@@ -211,10 +211,16 @@ void SettingsWindow::refresh(std::string_view name) {
   row->second.show(stored != nullptr ? *stored : key->defaultValue);
 }
 
+void SettingsWindow::setHidden(std::function<bool(std::string_view name)> hidden) {
+  hidden_ = std::move(hidden);
+  filter(search_.text());
+}
+
 void SettingsWindow::filter(const QString& text) {
   for (const auto& [name, row] : rows_) {
-    const bool match = text.isEmpty() || qstr(name).contains(text, Qt::CaseInsensitive) ||
-                       row.label->toolTip().contains(text, Qt::CaseInsensitive);
+    const bool match = (!hidden_ || !hidden_(name)) &&
+                       (text.isEmpty() || qstr(name).contains(text, Qt::CaseInsensitive) ||
+                        row.label->toolTip().contains(text, Qt::CaseInsensitive));
     row.label->setVisible(match);
     row.editor->setVisible(match);
     row.reset->setVisible(match);

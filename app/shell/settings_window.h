@@ -28,6 +28,8 @@ class SettingsWindow : public QWidget {
   QWidget* editorFor(std::string_view name) const;
   // The line that reports a failed write; empty while all is well.
   QString problem() const { return problem_.text(); }
+  // Keys that do not apply here (the battery's on a desktop) are not listed.
+  void setHidden(std::function<bool(std::string_view name)> hidden);
 
  private:
   struct Row {
@@ -50,6 +52,7 @@ class SettingsWindow : public QWidget {
   QLineEdit search_;
   QLabel problem_;
   std::map<std::string, Row, std::less<>> rows_;
+  std::function<bool(std::string_view)> hidden_;
 };
 
 }  // namespace tindra

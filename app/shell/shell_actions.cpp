@@ -37,6 +37,7 @@ void ShellActions::openDiagnostics() {
 
 void ShellActions::openSettings() {
   if (settingsWindow_ == nullptr) settingsWindow_ = new SettingsWindow(settings_);
+  settingsWindow_->setHidden(hiddenSettings_);
   settingsWindow_->show();
   settingsWindow_->raise();
   settingsWindow_->activateWindow();

@@ -30,6 +30,10 @@ class ShellActions : public QObject {
 
   // Shows the Settings window, making it on first use.
   void openSettings();
+  // Asked each time the Settings window opens: keys that do not apply on this machine.
+  void setHiddenSettings(std::function<bool(std::string_view name)> hidden) {
+    hiddenSettings_ = std::move(hidden);
+  }
   SettingsWindow* settingsWindow() const { return settingsWindow_; }
   // A check the Diagnostics window offers as a button; add before it is first opened.
   void addCheck(DiagnosticsWindow::Check check) { checks_.push_back(std::move(check)); }
@@ -46,6 +50,7 @@ class ShellActions : public QObject {
   QPointer<SettingsWindow> settingsWindow_;
   QPointer<DiagnosticsWindow> diagnosticsWindow_;
   std::vector<DiagnosticsWindow::Check> checks_;
+  std::function<bool(std::string_view)> hiddenSettings_;
 };
 
 }  // namespace tindra

@@ -94,6 +94,15 @@ class SettingsWindowTest : public ::testing::Test {
   SettingsStore store_{file_, [] { return 0.0; }};
 };
 
+TEST_F(SettingsWindowTest, KeysThatDoNotApplyHereAreNotListed) {
+  SettingsWindow window(store_);
+  window.setHidden([](std::string_view name) { return name.starts_with("battery"); });
+  EXPECT_TRUE(window.editorFor(settings::batteryLowThreshold.name)->isHidden());
+  EXPECT_FALSE(window.editorFor(settings::playSounds.name)->isHidden());
+  window.setHidden({});
+  EXPECT_FALSE(window.editorFor(settings::batteryLowThreshold.name)->isHidden());
+}
+
 TEST_F(SettingsWindowTest, EditsGoThroughTheStoreAndOutsideChangesShow) {
   SettingsWindow window(store_);
   // Opening the window writes nothing: defaults stay unstored.
