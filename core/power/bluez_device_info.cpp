@@ -1,6 +1,8 @@
 #include "power/bluez_device_info.h"
 
+#include <algorithm>
 #include <array>
+#include <cctype>
 #include <charconv>
 
 namespace tindra {
@@ -10,6 +12,12 @@ namespace {
 // Four hexadecimal digits after `tag` at the front of `text`, which then moves past them.
 std::optional<int> field(std::string_view& text, char tag) {
   if (text.size() < 5 || text.front() != tag) return std::nullopt;
+  // Digits only: from_chars would take a minus sign too.
+  if (!std::ranges::all_of(text.substr(1, 4), [](char c) {
+        return std::isxdigit(static_cast<unsigned char>(c)) != 0;
+      })) {
+    return std::nullopt;
+  }
   int value = 0;
   const char* begin = text.data() + 1;
   const auto [end, error] = std::from_chars(begin, begin + 4, value, 16);

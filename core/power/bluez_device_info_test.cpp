@@ -9,9 +9,10 @@ TEST(BlueZModaliasTest, VendorAndProductFromBothSourcesAndNothingFromNonsense) {
   EXPECT_EQ(BlueZModalias::parse("bluetooth:v004Cp200Ed0100"), (BlueZModalias{76, 0x200E, 0x100}));
   EXPECT_EQ(BlueZModalias::parse("usb:v05ACp0265d0100"), (BlueZModalias{0x05AC, 0x0265, 0x100}));
   EXPECT_EQ(BlueZModalias::parse("bluetooth:v004Cp2027"), (BlueZModalias{76, 0x2027, 0}));
-  for (const char* bad : {"", "bluetooth:", "bluetooth:v004C", "bluetooth:v04Cp200E",
-                          "bluetooth:v004Cp200Ed01", "pci:v004Cp200Ed0100",
-                          "bluetooth:v004Cp200Ed0100x", "bluetooth:vZZZZp200E", "v004Cp200E"}) {
+  for (const char* bad :
+       {"", "bluetooth:", "bluetooth:v004C", "bluetooth:v04Cp200E", "bluetooth:v004Cp200Ed01",
+        "pci:v004Cp200Ed0100", "bluetooth:v004Cp200Ed0100x", "bluetooth:vZZZZp200E", "v004Cp200E",
+        "bluetooth:v-04Cp200Ed-100"}) {
     EXPECT_FALSE(BlueZModalias::parse(bad)) << bad;
   }
 }
