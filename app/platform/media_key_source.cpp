@@ -1,5 +1,7 @@
 #include "platform/media_key_source.h"
 
+#include "qt_text.h"
+
 namespace tindra {
 
 QString keyName(SystemDefinedKeyEvent::Key key) {
@@ -20,7 +22,7 @@ QString keyName(SystemDefinedKeyEvent::Key key) {
     case Key::illuminationDown:
       return QStringLiteral("XF86KbdBrightnessDown");
     default:
-      return QString::fromUtf8(name(key).data(), static_cast<qsizetype>(name(key).size()));
+      return toQString(name(key));
   }
 }
 

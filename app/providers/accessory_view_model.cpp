@@ -1,26 +1,20 @@
 #include "providers/accessory_view_model.h"
 
+#include "qt_text.h"
+
 namespace tindra {
-
-namespace {
-
-QString text(std::string_view value) {
-  return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
-}
-
-}  // namespace
 
 QVariantMap AccessoryViewModel::describe(const BluetoothAccessory& accessory) {
   QVariantMap map{{"name", QString::fromStdString(accessory.name)},
-                  {"kind", text(rawValue(accessory.kind))}};
+                  {"kind", toQString(rawValue(accessory.kind))}};
   for (const AccessoryBatteryPart part : allCases<AccessoryBatteryPart>()) {
-    map.insert(text(rawValue(part)), accessory.battery.level(part).value_or(-1));
+    map.insert(toQString(rawValue(part)), accessory.battery.level(part).value_or(-1));
   }
   return map;
 }
 
 QString AccessoryViewModel::notice() const {
-  return notice_ ? text(rawValue(notice_->kind)) : QString();
+  return notice_ ? toQString(rawValue(notice_->kind)) : QString();
 }
 
 QVariantMap AccessoryViewModel::noticeAccessory() const {
@@ -28,7 +22,7 @@ QVariantMap AccessoryViewModel::noticeAccessory() const {
 }
 
 QString AccessoryViewModel::noticePart() const {
-  return notice_ && notice_->part ? text(rawValue(*notice_->part)) : QString();
+  return notice_ && notice_->part ? toQString(rawValue(*notice_->part)) : QString();
 }
 
 void AccessoryViewModel::setAccessories(const std::vector<BluetoothAccessory>& accessories) {

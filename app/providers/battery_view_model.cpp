@@ -1,5 +1,7 @@
 #include "providers/battery_view_model.h"
 
+#include "qt_text.h"
+
 namespace tindra {
 
 int BatteryViewModel::minutesLeft() const {
@@ -15,9 +17,7 @@ void BatteryViewModel::setReading(std::optional<BatteryStatus> reading) {
 }
 
 QString BatteryViewModel::notice() const {
-  if (!notice_) return {};
-  const std::string_view kind = rawValue(notice_->kind);
-  return QString::fromUtf8(kind.data(), static_cast<qsizetype>(kind.size()));
+  return notice_ ? toQString(rawValue(notice_->kind)) : QString();
 }
 
 void BatteryViewModel::setNotice(const BatteryNotice& notice) {

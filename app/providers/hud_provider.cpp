@@ -12,6 +12,7 @@
 #include "hud/volume_feedback_policy.h"
 #include "hud/volume_yield_policy.h"
 #include "logging_categories.h"
+#include "qt_text.h"
 #include "settings/settings_keys.h"
 
 namespace tindra {
@@ -32,10 +33,6 @@ constexpr std::array routedKeys{Key::soundUp,         Key::soundDown,      Key::
 // combination keeps its meaning on the desktop.
 constexpr std::array heldModifiers{KeyModifiers(), KeyModifiers::shift(),
                                    KeyModifiers::option() | KeyModifiers::shift()};
-
-QString text(std::string_view value) {
-  return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
-}
 
 bool contains(const std::vector<KeyGrab>& grabs, Key key) {
   return std::ranges::any_of(grabs, [key](const KeyGrab& grab) { return grab.key == key; });
@@ -277,8 +274,8 @@ void HudProvider::updateRouting() {
   qCInfo(lcMediaKeys).noquote()
       << QStringLiteral("Key routing: volume %1, brightness %2, keyboard %3")
              .arg(context.volumeControllable && context.volumeHUDEnabled ? "true" : "false",
-                  text(tindra::name(context.brightness)),
-                  text(tindra::name(context.keyboardBacklight)));
+                  toQString(tindra::name(context.brightness)),
+                  toQString(tindra::name(context.keyboardBacklight)));
   wanted_ = grabsFor(context);
   backends_.keys->setWanted(wanted_);
   recordKeys();

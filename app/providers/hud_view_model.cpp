@@ -3,26 +3,20 @@
 #include <QGuiApplication>
 #include <QPalette>
 
+#include "qt_text.h"
+
 namespace tindra {
 
-namespace {
-
-QString text(std::string_view value) {
-  return QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
-}
-
-}  // namespace
-
 QString HudViewModel::kind() const {
-  return state_ ? text(rawValue(state_->kind())) : QString();
+  return state_ ? toQString(rawValue(state_->kind())) : QString();
 }
 
 QString HudViewModel::symbol() const {
-  return state_ ? text(state_->symbolName()) : QString();
+  return state_ ? toQString(state_->symbolName()) : QString();
 }
 
 QString HudViewModel::barStyle() const {
-  return text(rawValue(style_));
+  return toQString(rawValue(style_));
 }
 
 int HudViewModel::litSegments() const {

@@ -14,16 +14,13 @@
 
 #include "base/json_reader.h"
 #include "base/json_writer.h"
+#include "qt_text.h"
 
 namespace tindra {
 
 namespace {
 
 using Type = settings::SettingsKeyDescription::Type;
-
-QString qstr(std::string_view text) {
-  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
 
 // Whole numbers a double carries exactly, as the store keeps integers.
 constexpr double maxExactInteger = 9007199254740992.0;
@@ -73,11 +70,11 @@ void SettingsWindow::addRow(QGridLayout& grid, int line,
                             const settings::SettingsKeyDescription& key) {
   Row row = makeEditor(key);
   // The key's name, and below it in grey what it is for.
-  auto* label =
-      new QLabel(QStringLiteral("%1<br><small style=\"color: gray\">%2</small>")
-                     .arg(qstr(key.name).toHtmlEscaped(), qstr(key.description).toHtmlEscaped()));
+  auto* label = new QLabel(
+      QStringLiteral("%1<br><small style=\"color: gray\">%2</small>")
+          .arg(toQString(key.name).toHtmlEscaped(), toQString(key.description).toHtmlEscaped()));
   label->setWordWrap(true);
-  label->setToolTip(qstr(key.description));
+  label->setToolTip(toQString(key.description));
   row.label = label;
   auto* reset = new QToolButton;
   reset->setText(tr("Reset"));
@@ -131,7 +128,7 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
     }
     case Type::enumeration: {
       auto* box = new QComboBox;
-      for (std::string_view c : key.cases) box->addItem(qstr(c));
+      for (std::string_view c : key.cases) box->addItem(toQString(c));
       connect(box, &QComboBox::textActivated, this,
               [this, name](const QString& text) { write(name, text.toStdString()); });
       row.editor = box;
@@ -219,7 +216,7 @@ void SettingsWindow::setHidden(std::function<bool(std::string_view name)> hidden
 void SettingsWindow::filter(const QString& text) {
   for (const auto& [name, row] : rows_) {
     const bool match = (!hidden_ || !hidden_(name)) &&
-                       (text.isEmpty() || qstr(name).contains(text, Qt::CaseInsensitive) ||
+                       (text.isEmpty() || toQString(name).contains(text, Qt::CaseInsensitive) ||
                         row.label->toolTip().contains(text, Qt::CaseInsensitive));
     row.label->setVisible(match);
     row.editor->setVisible(match);
