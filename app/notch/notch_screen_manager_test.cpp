@@ -129,6 +129,16 @@ TEST_F(NotchScreenManagerTest, FollowsDisplaysAddedRemovedAndResized) {
   EXPECT_EQ(notches(), (std::vector<QRectF>{{2465, 200, 190, 24}}));
 }
 
+TEST(NotchWindowLayoutTest, TheLevelShowsOnlyOnThePointersDisplay) {
+  const QRect left(0, 0, 1920, 1080), right(1920, 0, 1280, 800);
+  const QPoint pointer(2500, 300);
+  EXPECT_TRUE(NotchWindow::showsCompact(ActivityKind::hud, right, pointer));
+  EXPECT_FALSE(NotchWindow::showsCompact(ActivityKind::hud, left, pointer));
+  EXPECT_TRUE(NotchWindow::showsCompact(ActivityKind::nowPlaying, left, pointer));
+  EXPECT_FALSE(NotchWindow::showsCompact(ActivityKind::idle, right, pointer));
+  EXPECT_TRUE(NotchWindow::showsCompact(ActivityKind::hud, QRect(), pointer));  // no display yet
+}
+
 TEST(NotchWindowLayoutTest, StaysOnItsDisplayAndCentresOnTheNotch) {
   const ScreenCoordinates flip{900};
   // A hardware notch off the centre of a 1512-wide display.

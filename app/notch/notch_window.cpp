@@ -1,10 +1,12 @@
 #include "notch/notch_window.h"
 
+#include <QCursor>
 #include <QDragEnterEvent>
 #include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QQmlEngine>
+#include <QScreen>
 #include <QSurfaceFormat>
 #include <algorithm>
 
@@ -67,11 +69,16 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, No
   deadlineTimer_.setInterval(deadlinePollInterval);
   connect(&deadlineTimer_, &QTimer::timeout, this, &NotchWindow::sample);
 
-  connect(&activities_, &ActivityCenter::currentChanged, this, [this](ActivityKind kind) {
-    const double target = kind == ActivityKind::idle ? 0.0 : 1.0;
-    animate(compactAnimation_, compactProgress_, target, 260, QEasingCurve(QEasingCurve::OutCubic));
-  });
-  compactProgress_ = activities_.current() == ActivityKind::idle ? 0.0 : 1.0;
+  const auto compactTarget = [this](ActivityKind kind) {
+    const QRect display = screen() ? screen()->geometry() : QRect();
+    return showsCompact(kind, display, QCursor::pos(screen())) ? 1.0 : 0.0;
+  };
+  connect(&activities_, &ActivityCenter::currentChanged, this,
+          [this, compactTarget](ActivityKind kind) {
+            animate(compactAnimation_, compactProgress_, compactTarget(kind), 260,
+                    QEasingCurve(QEasingCurve::OutCubic));
+          });
+  compactProgress_ = compactTarget(activities_.current());
 
   static const bool typesKnown = (qml_register_types_Tindra(), true);
   Q_UNUSED(typesKnown);
@@ -221,6 +228,11 @@ void NotchWindow::showPresentation() {
     animate(openAnimation_, openProgress_, 0.0, 240, QEasingCurve(QEasingCurve::InOutCubic));
   }
   emit expandedChanged(expanded);
+}
+
+bool NotchWindow::showsCompact(ActivityKind kind, const QRect& screen, const QPoint& pointer) {
+  if (kind == ActivityKind::idle) return false;
+  return kind != ActivityKind::hud || screen.isEmpty() || screen.contains(pointer);
 }
 
 void NotchWindow::animate(QVariantAnimation& animation, double from, double to, int ms,

@@ -66,6 +66,11 @@ class NotchWindow : public QQuickView {
   double compactProgress() const { return compactProgress_; }
   QRectF notchRect() const { return layout_.notchRect; }
 
+  // Whether the notch on the display `screen` shows `kind` on its ears, with the pointer at
+  // `pointer` (global): the level indicator belongs to the display the pointer is on, as the
+  // desktop's own does; every other activity shows everywhere.
+  static bool showsCompact(ActivityKind kind, const QRect& screen, const QPoint& pointer);
+
  signals:
   void shapeChanged();
   void placementChanged();
