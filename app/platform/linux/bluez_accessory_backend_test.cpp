@@ -48,12 +48,13 @@ class BlueZAccessoryBackendTest : public ::testing::Test {
   static void blueZ(const char* method, const QVariantList& arguments) {
     ASSERT_EQ(bluez_->call("/", method, arguments, "org.bluez.Mock"), QString()) << method;
   }
-  static const BluetoothAccessory* find(const std::vector<BluetoothAccessory>& list,
-                                        const char* address) {
+  // A copy: the list is a temporary.
+  static std::optional<BluetoothAccessory> find(const std::vector<BluetoothAccessory>& list,
+                                                const char* address) {
     for (const auto& accessory : list) {
-      if (accessory.address == address) return &accessory;
+      if (accessory.address == address) return accessory;
     }
-    return nullptr;
+    return std::nullopt;
   }
   static bool waitFor(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition, 5000);
@@ -92,10 +93,11 @@ TEST_F(BlueZAccessoryBackendTest, ConnectionsKindsAndBatteriesFromBothServices) 
             QString());
   blueZ("ConnectDevice", {"hci0", speaker});
   ASSERT_TRUE(waitFor([&] {
-    const auto* found = find(backend.connected(), "aa:bb:cc:dd:ee:02");
+    const auto found = find(backend.connected(), "aa:bb:cc:dd:ee:02");
     return found && found->battery.main == 41;
   }));
-  const BluetoothAccessory* kitchen = find(backend.connected(), "aa:bb:cc:dd:ee:02");
+  const std::optional<BluetoothAccessory> kitchen = find(backend.connected(), "aa:bb:cc:dd:ee:02");
+  ASSERT_TRUE(kitchen);
   EXPECT_EQ(kitchen->kind, BluetoothAccessoryKind::speaker);
   EXPECT_FALSE(kitchen->vendorID);
 
