@@ -147,7 +147,7 @@ void PulseProcessTapSession::refresh() {
             stream.binary = pulseProperty(info->proplist, PA_PROP_APPLICATION_PROCESS_BINARY);
             stream.applicationId = pulseProperty(info->proplist, PA_PROP_APPLICATION_ID);
             stream.corked = info->corked != 0;
-            stream.spec = info->sample_spec;
+            stream.format = info->sample_spec;
             listing->streams.push_back(std::move(stream));
             return;
           }
@@ -170,7 +170,7 @@ void PulseProcessTapSession::onStreams(const std::vector<PlaybackStream>& stream
   lookingUp_ = true;
   lookingFor_ = wanted;
   if (mine) {
-    readSink(QByteArray::number(mine->sink), mine->index, mine->spec,
+    readSink(QByteArray::number(mine->sink), mine->index, mine->format,
              QStringLiteral("the player's own stream (%1)").arg(mine->binary));
   } else {
     readSink("@DEFAULT_SINK@", PA_INVALID_INDEX, std::nullopt,
@@ -179,17 +179,17 @@ void PulseProcessTapSession::onStreams(const std::vector<PlaybackStream>& stream
 }
 
 void PulseProcessTapSession::readSink(const QByteArray& sink, std::uint32_t streamIndex,
-                                      std::optional<pa_sample_spec> spec, const QString& what) {
-  connection_->run([this, sink, streamIndex, spec, what](pa_context* context) {
+                                      std::optional<pa_sample_spec> format, const QString& what) {
+  connection_->run([this, sink, streamIndex, format, what](pa_context* context) {
     struct Lookup : PulseRequest<PulseProcessTapSession> {
       std::uint32_t streamIndex;
-      std::optional<pa_sample_spec> spec;
+      std::optional<pa_sample_spec> format;
       QString what;
     };
     const auto onSink = [](pa_context*, const pa_sink_info* info, int last, void* data) {
       auto* lookup = static_cast<Lookup*>(data);
       if (last == 0 && info != nullptr) {
-        const Source source{info->monitor_source, lookup->spec.value_or(info->sample_spec),
+        const Source source{info->monitor_source, lookup->format.value_or(info->sample_spec),
                             QString::fromUtf8(info->name)};
         lookup->answer([source, index = lookup->streamIndex, what = lookup->what](auto& session) {
           session.capture(source, index, what);
@@ -204,7 +204,7 @@ void PulseProcessTapSession::readSink(const QByteArray& sink, std::uint32_t stre
       }
       delete lookup;
     };
-    auto* lookup = new Lookup{{connection_.get(), this}, streamIndex, spec, what};
+    auto* lookup = new Lookup{{connection_.get(), this}, streamIndex, format, what};
     bool isIndex = false;
     const std::uint32_t index = sink.toUInt(&isIndex);
     pa_operation* operation =
@@ -220,12 +220,12 @@ void PulseProcessTapSession::capture(const Source& source, std::uint32_t streamI
   if (!active_) return;
   dropCapture();
   // Floats at the output's own rate and channel count; the spectrum mixes them to mono.
-  const pa_sample_spec spec{PA_SAMPLE_FLOAT32NE, source.spec.rate,
-                            std::clamp<std::uint8_t>(source.spec.channels, 1, PA_CHANNELS_MAX)};
+  const pa_sample_spec format{PA_SAMPLE_FLOAT32NE, source.format.rate,
+                              std::clamp<std::uint8_t>(source.format.channels, 1, PA_CHANNELS_MAX)};
   auto* capture = new Capture{nullptr,
                               samples_,
-                              spec.channels,
-                              double(spec.rate),
+                              format.channels,
+                              double(format.rate),
                               what + QStringLiteral(" on ") + source.sinkName,
                               {connection_.get(), this}};
   connection_->run([&](pa_context* context) {
@@ -236,7 +236,7 @@ void PulseProcessTapSession::capture(const Source& source, std::uint32_t streamI
     pa_proplist_sets(properties, "stream.monitor", "true");
     pa_proplist_sets(properties, PA_PROP_APPLICATION_ID, "com.brenvik.tindra");
     capture->stream =
-        pa_stream_new_with_proplist(context, "Live spectrum", &spec, nullptr, properties);
+        pa_stream_new_with_proplist(context, "Live spectrum", &format, nullptr, properties);
     pa_proplist_free(properties);
     if (capture->stream == nullptr) return;
     if (streamIndex != PA_INVALID_INDEX) pa_stream_set_monitor_stream(capture->stream, streamIndex);
@@ -245,7 +245,7 @@ void PulseProcessTapSession::capture(const Source& source, std::uint32_t streamI
     // 50 ms per delivery: fresh samples for every bar update (20 a second), few wake-ups.
     pa_buffer_attr buffer{};
     buffer.maxlength = static_cast<std::uint32_t>(-1);
-    buffer.fragsize = static_cast<std::uint32_t>(pa_usec_to_bytes(50'000, &spec));
+    buffer.fragsize = static_cast<std::uint32_t>(pa_usec_to_bytes(50'000, &format));
     const QByteArray device = QByteArray::number(source.monitor);
     pa_stream_connect_record(
         capture->stream, device.constData(), &buffer,

@@ -28,7 +28,7 @@ class PulseProcessTapSession final : public ProcessTapSession {
     QString binary;                      // "mpv", "firefox-esr"
     QString applicationId;               // "org.mozilla.firefox", often empty
     bool corked = false;                 // paused by its application
-    pa_sample_spec spec{};               // the stream's own format
+    pa_sample_spec format{};             // the stream's own format
   };
 
   explicit PulseProcessTapSession(std::shared_ptr<PulseConnection> connection,
@@ -47,16 +47,16 @@ class PulseProcessTapSession final : public ProcessTapSession {
   struct Capture;
   struct Source {
     std::uint32_t monitor = PA_INVALID_INDEX;  // the sink's monitor source
-    pa_sample_spec spec{};
+    pa_sample_spec format{};
     QString sinkName;
   };
 
   void refresh();
   void onStreams(const std::vector<PlaybackStream>& streams);
   // Captures the monitor of `sink` (an index, or "@DEFAULT_SINK@"): of the stream `streamIndex`
-  // alone where it is valid, in `spec` where it is given, else in the sink's format.
+  // alone where it is valid, in `format` where it is given, else in the sink's format.
   void readSink(const QByteArray& sink, std::uint32_t streamIndex,
-                std::optional<pa_sample_spec> spec, const QString& what);
+                std::optional<pa_sample_spec> format, const QString& what);
   void capture(const Source& source, std::uint32_t streamIndex, const QString& what);
   void dropCapture();
   static void endWhenConnected(pa_stream* stream, void*);

@@ -39,7 +39,7 @@ void onUploadState(pa_stream* stream, void* data) {
 
 std::optional<PulseSample::Sound> PulseSample::fromWav(const QByteArray& wav) {
   if (wav.size() < 12 || !wav.startsWith("RIFF") || wav.mid(8, 4) != "WAVE") return std::nullopt;
-  std::optional<pa_sample_spec> spec;
+  std::optional<pa_sample_spec> format;
   qsizetype at = 12;
   while (at + 8 <= wav.size()) {
     const QByteArray id = wav.mid(at, 4);
@@ -47,15 +47,15 @@ std::optional<PulseSample::Sound> PulseSample::fromWav(const QByteArray& wav) {
     const qsizetype body = at + 8;
     if (size > static_cast<quint32>(wav.size() - body)) return std::nullopt;
     if (id == "fmt " && size >= 16) {
-      const auto format = qFromLittleEndian<quint16>(wav.constData() + body);
+      const auto encoding = qFromLittleEndian<quint16>(wav.constData() + body);  // 1: PCM
       const auto channels = qFromLittleEndian<quint16>(wav.constData() + body + 2);
       const auto rate = qFromLittleEndian<quint32>(wav.constData() + body + 4);
       const auto bits = qFromLittleEndian<quint16>(wav.constData() + body + 14);
-      if (format != 1 || bits != 16) return std::nullopt;
-      spec = pa_sample_spec{PA_SAMPLE_S16LE, rate, static_cast<uint8_t>(channels)};
-      if (pa_sample_spec_valid(&*spec) == 0) return std::nullopt;
-    } else if (id == "data" && spec) {
-      return Sound{*spec, wav.mid(body, static_cast<qsizetype>(size))};
+      if (encoding != 1 || bits != 16) return std::nullopt;
+      format = pa_sample_spec{PA_SAMPLE_S16LE, rate, static_cast<uint8_t>(channels)};
+      if (pa_sample_spec_valid(&*format) == 0) return std::nullopt;
+    } else if (id == "data" && format) {
+      return Sound{*format, wav.mid(body, static_cast<qsizetype>(size))};
     }
     at = body + static_cast<qsizetype>(size) + (size % 2);
   }
@@ -75,7 +75,7 @@ PulseSample::PulseSample(PulseConnection& connection, QByteArray name, std::opti
 void PulseSample::upload() {
   if (!sound_ || sound_->frames.isEmpty()) return;
   connection_.run([this](pa_context* context) {
-    pa_stream* stream = pa_stream_new(context, name_.constData(), &sound_->spec, nullptr);
+    pa_stream* stream = pa_stream_new(context, name_.constData(), &sound_->format, nullptr);
     if (stream == nullptr) return;
     pa_stream_set_state_callback(stream, &onUploadState, new Upload{sound_->frames, name_});
     pa_stream_connect_upload(stream, static_cast<size_t>(sound_->frames.size()));

@@ -19,7 +19,7 @@ class PulseSample : public QObject {
  public:
   // 16-bit PCM from a WAV file's bytes; none for anything else.
   struct Sound {
-    pa_sample_spec spec;
+    pa_sample_spec format;
     QByteArray frames;
   };
   static std::optional<Sound> fromWav(const QByteArray& wav);

@@ -76,8 +76,8 @@ TEST(PulseSampleTest, TakesSixteenBitPcmWavAndNothingElse) {
   const QByteArray wav = file.readAll();
   const auto sound = PulseSample::fromWav(wav);
   ASSERT_TRUE(sound);
-  EXPECT_EQ(sound->spec.rate, 48000u);
-  EXPECT_EQ(sound->spec.channels, 1);
+  EXPECT_EQ(sound->format.rate, 48000u);
+  EXPECT_EQ(sound->format.channels, 1);
   EXPECT_EQ(sound->frames.size(), 2160 * 2);  // 45 ms
 
   EXPECT_FALSE(PulseSample::fromWav(wav.left(40)));  // the data chunk runs past the end
