@@ -42,10 +42,11 @@ bool contains(const std::vector<KeyGrab>& grabs, Key key) {
 
 HudProvider::HudProvider(ProviderContext context, HudBackends backends, QObject* parent)
     : Provider(context, parent),
-      backends_(std::move(backends)),
-      display_{HUDKind::brightness, std::move(backends_.display), {}, {}},
-      keyboard_{HUDKind::keyboardBacklight, std::move(backends_.keyboard), {}, {}} {
-  VolumeBackend* volume = backends_.volume.get();
+      volumeBackend_(std::move(backends.volume)),
+      keys_(std::move(backends.keys)),
+      display_{HUDKind::brightness, std::move(backends.display), {}, {}},
+      keyboard_{HUDKind::keyboardBacklight, std::move(backends.keyboard), {}, {}} {
+  VolumeBackend* volume = volumeBackend_.get();
   connect(volume, &VolumeBackend::readingChanged, this, &HudProvider::onVolume);
   connect(volume, &VolumeBackend::checkChanged, this,
           [this, volume] { record(QStringLiteral("volume"), volume->check()); });
@@ -59,27 +60,26 @@ HudProvider::HudProvider(ProviderContext context, HudBackends backends, QObject*
   }
   connect(keyboard_.backend.get(), &BacklightBackend::writeFinished, this,
           &HudProvider::onKeyboardWrite);
-  connect(backends_.keys.get(), &MediaKeySource::pressed, this, &HudProvider::handleKey);
-  connect(backends_.keys.get(), &MediaKeySource::checkChanged, this, &HudProvider::recordKeys);
-  observations_.push_back(
-      settings().observe({std::string(settings::volumeHUDEnabled.name),
-                          std::string(settings::brightnessHUDEnabled.name),
-                          std::string(settings::experimentalKeyboardBacklight.name)},
-                         [this](std::string_view) {
-                           startKeyboardIfWanted();
-                           updateRouting();
-                         }));
+  connect(keys_.get(), &MediaKeySource::pressed, this, &HudProvider::handleKey);
+  connect(keys_.get(), &MediaKeySource::checkChanged, this, &HudProvider::recordKeys);
+  observation_ = settings().observe({std::string(settings::volumeHUDEnabled.name),
+                                     std::string(settings::brightnessHUDEnabled.name),
+                                     std::string(settings::experimentalKeyboardBacklight.name)},
+                                    [this](std::string_view) {
+                                      startKeyboardIfWanted();
+                                      updateRouting();
+                                    });
   connect(&activities(), &ActivityCenter::currentChanged, this,
           [this](ActivityKind kind) { viewModel_.setShowing(kind == ActivityKind::hud); });
 }
 
 void HudProvider::start() {
-  record(QStringLiteral("volume"), backends_.volume->check());
-  backends_.volume->start();
+  record(QStringLiteral("volume"), volumeBackend_->check());
+  volumeBackend_->start();
   display_.backend->start();
   record(sourceName(display_), display_.backend->check());
   startKeyboardIfWanted();
-  backends_.keys->start();
+  keys_->start();
   started_ = true;
   updateRouting();
 }
@@ -143,24 +143,25 @@ void HudProvider::stepVolume(VolumeAction action, KeyModifiers modifiers) {
   if (!volume_) return;
   const double now = activities().now();
   // The server reports a write a moment later; quick presses build on what was written.
-  const bool recentlyWritten = volumeWritten_ && now - volumeWritten_->second >= 0 &&
-                               now - volumeWritten_->second < PendingLevelStepper::trustInterval;
+  const double sinceWrite = now - volumePending_.pendingAt();
+  const bool recentlyWritten = volumePending_.pendingLevel() && sinceWrite >= 0 &&
+                               sinceWrite < PendingLevelStepper::trustInterval;
   const VolumeState base{volumePending_.base(volume_->level, now),
-                         recentlyWritten ? volumeWritten_->first.isMuted : volume_->muted};
+                         recentlyWritten ? mutedWritten_ : volume_->muted};
   const VolumeState next = base.applying(action);
   volumePending_.record(next.level, now);
-  volumeWritten_ = {next, now};
+  mutedWritten_ = next.isMuted;
   const HUDState state(HUDKind::volume, next.level, next.isMuted);
   ownWrites_.remember(state, now);  // before writing: a backend may answer at once
   const VolumeReading read = *volume_;
-  if (next.level != read.level) backends_.volume->setLevel(next.level);
-  if (next.isMuted != read.muted) backends_.volume->setMuted(next.isMuted);
+  if (next.level != read.level) volumeBackend_->setLevel(next.level);
+  if (next.isMuted != read.muted) volumeBackend_->setMuted(next.isMuted);
   show(state);
   if (settings().read(settings::playSounds) &&
       VolumeFeedbackPolicy::shouldPlay(action, next, std::nullopt,
                                        settings().read(settings::volumeFeedbackFallback), modifiers,
                                        false)) {
-    backends_.volume->playFeedback();
+    volumeBackend_->playFeedback();
   }
 }
 
@@ -179,14 +180,11 @@ void HudProvider::stepLight(Light& light, bool up, bool fine) {
 // Changes reported by the services ----------------------------------------------------------------
 
 void HudProvider::onVolume() {
-  const std::optional<VolumeReading> reading = backends_.volume->reading();
+  const std::optional<VolumeReading> reading = volumeBackend_->reading();
   const bool sameOutput = volume_ && reading && volume_->output == reading->output;
   const bool moved =
       sameOutput && (volume_->level != reading->level || volume_->muted != reading->muted);
-  if (!sameOutput) {
-    volumePending_ = {};
-    volumeWritten_.reset();
-  }
+  if (!sameOutput) volumePending_ = {};
   volume_ = reading;
   updateRouting();
   if (!moved || !settings().read(settings::volumeHUDEnabled)) return;
@@ -277,12 +275,12 @@ void HudProvider::updateRouting() {
                   toQString(tindra::name(context.brightness)),
                   toQString(tindra::name(context.keyboardBacklight)));
   wanted_ = grabsFor(context);
-  backends_.keys->setWanted(wanted_);
+  keys_->setWanted(wanted_);
   recordKeys();
 }
 
 void HudProvider::recordKeys() {
-  const std::vector<KeyGrab> refused = backends_.keys->refused();
+  const std::vector<KeyGrab> refused = keys_->refused();
   QStringList held, watched, left;
   for (const Key key : routedKeys) {
     if (contains(refused, key)) {
@@ -294,7 +292,7 @@ void HudProvider::recordKeys() {
     }
   }
   QStringList parts;
-  const ServiceCheck check = backends_.keys->check();
+  const ServiceCheck check = keys_->check();
   if (check.outcome != DiagnosticsLog::Outcome::ok) parts << check.text;
   if (check.outcome == DiagnosticsLog::Outcome::ok && !held.isEmpty()) {
     parts << QStringLiteral("holds %1").arg(held.join(QStringLiteral(", ")));

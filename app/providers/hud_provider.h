@@ -70,7 +70,8 @@ class HudProvider final : public Provider {
   void startKeyboardIfWanted();
   void updateRouting();
 
-  HudBackends backends_;
+  std::unique_ptr<VolumeBackend> volumeBackend_;
+  std::unique_ptr<MediaKeySource> keys_;
   Light display_;
   Light keyboard_;
   bool keyboardStarted_ = false;
@@ -78,7 +79,7 @@ class HudProvider final : public Provider {
   double keyboardBefore_ = 0;
   KeyboardBacklightWriteMonitor keyboardMonitor_;
   PendingLevelStepper volumePending_;
-  std::optional<std::pair<VolumeState, double>> volumeWritten_;  // and when
+  bool mutedWritten_ = false;  // the mute state written with volumePending_'s level
   std::optional<VolumeReading> volume_;
   OwnWrites ownWrites_;
   MediaKeyContext keyContext_;
@@ -87,7 +88,7 @@ class HudProvider final : public Provider {
   std::vector<KeyGrab> wanted_;
   std::optional<std::chrono::steady_clock::time_point> keyAt_;  // of the press being shown
   std::optional<double> lastShownAt_;
-  std::vector<SettingsObservation> observations_;
+  SettingsObservation observation_;
   HudViewModel viewModel_;
 };
 
