@@ -5,6 +5,7 @@
 
 #include "logging_categories.h"
 #include "nowplaying/pseudo_waveform.h"
+#include "qt_text.h"
 
 namespace tindra {
 
@@ -44,17 +45,7 @@ ProcessTapSpectrum::~ProcessTapSpectrum() {
 }
 
 QString ProcessTapSpectrum::stateName() const {
-  switch (state_) {
-    case State::off:
-      return QStringLiteral("off");
-    case State::running:
-      return QStringLiteral("running");
-    case State::silent:
-      return QStringLiteral("silent");
-    case State::unavailable:
-      return QStringLiteral("unavailable");
-  }
-  return {};
+  return toQString(rawValue(state_));
 }
 
 void ProcessTapSpectrum::setTarget(const std::optional<SpectrumTarget>& target, bool playing) {

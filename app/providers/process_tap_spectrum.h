@@ -7,11 +7,13 @@
 
 #include <QObject>
 #include <QTimer>
+#include <array>
 #include <memory>
 #include <optional>
 #include <span>
 #include <vector>
 
+#include "base/enum_table.h"
 #include "platform/process_tap_session.h"
 #include "providers/spectrum_feed.h"
 
@@ -68,6 +70,14 @@ class ProcessTapSpectrum : public QObject {
   bool capturing_ = false;
   State state_ = State::off;
   std::vector<float> levels_;
+};
+
+template <>
+struct EnumTable<ProcessTapSpectrum::State> {
+  using E = ProcessTapSpectrum::State;
+  static constexpr std::array cases{EnumCase{E::off, "off"}, EnumCase{E::running, "running"},
+                                    EnumCase{E::silent, "silent"},
+                                    EnumCase{E::unavailable, "unavailable"}};
 };
 
 }  // namespace tindra
