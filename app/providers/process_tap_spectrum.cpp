@@ -50,7 +50,7 @@ QString ProcessTapSpectrum::stateName() const {
 
 void ProcessTapSpectrum::setTarget(const std::optional<SpectrumTarget>& target, bool playing) {
   if (target == target_ && playing == playing_) return;
-  const bool retarget = !(target == target_);
+  const bool retarget = target != target_;
   target_ = target;
   playing_ = playing;
   if (retarget) capturing_ = false;  // capture again, for the new player

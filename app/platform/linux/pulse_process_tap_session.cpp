@@ -109,7 +109,7 @@ std::optional<PulseProcessTapSession::PlaybackStream> PulseProcessTapSession::ch
 }
 
 void PulseProcessTapSession::start(const SpectrumTarget& target, Samples samples) {
-  const bool retarget = !active_ || !(target == target_);
+  const bool retarget = !active_ || target != target_;
   active_ = true;
   target_ = target;
   samples_ = std::move(samples);

@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "assign_if_changed.h"
+#include "platform/linux/dbus_reply.h"
 
 namespace tindra {
 
@@ -87,15 +88,12 @@ void UPowerBatteryBackend::readProfile() {
   QDBusMessage call = QDBusMessage::createMethodCall(profilesService, profilesPath,
                                                      propertiesInterface, QStringLiteral("Get"));
   call << profilesService << QStringLiteral("ActiveProfile");
-  auto* pending = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
-  connect(pending, &QDBusPendingCallWatcher::finished, this, [this](QDBusPendingCallWatcher* done) {
-    done->deleteLater();
-    const QDBusPendingReply<QDBusVariant> reply = *done;
+  whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
     // No power-profiles-daemon: no low power mode to show.
-    onProfilesChanged(
-        profilesService,
-        {{QStringLiteral("ActiveProfile"), reply.isError() ? QVariant() : reply.value().variant()}},
-        {});
+    const QVariant profile = answer.type() == QDBusMessage::ReplyMessage
+                                 ? answer.arguments().value(0).value<QDBusVariant>().variant()
+                                 : QVariant();
+    onProfilesChanged(profilesService, {{QStringLiteral("ActiveProfile"), profile}}, {});
   });
 }
 

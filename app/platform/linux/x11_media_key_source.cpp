@@ -144,11 +144,11 @@ void X11MediaKeySource::ungrab(const KeyGrab& combination) {
 void X11MediaKeySource::setWanted(const std::vector<KeyGrab>& wanted) {
   if (connection_ == nullptr || xcb_connection_has_error(connection_) != 0) return;
   wanted_ = wanted;
-  for (const KeyGrab& combination : held_) {
-    if (std::ranges::find(wanted, combination) == wanted.end()) ungrab(combination);
-  }
-  std::erase_if(held_,
-                [&](const KeyGrab& c) { return std::ranges::find(wanted, c) == wanted.end(); });
+  std::erase_if(held_, [&](const KeyGrab& combination) {
+    const bool unwanted = std::ranges::find(wanted, combination) == wanted.end();
+    if (unwanted) ungrab(combination);
+    return unwanted;
+  });
   refused_.clear();
   for (const KeyGrab& combination : wanted) {
     if (std::ranges::find(held_, combination) != held_.end()) continue;
