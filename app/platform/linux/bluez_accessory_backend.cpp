@@ -6,6 +6,7 @@
 #include <QDBusObjectPath>
 
 #include "assign_if_changed.h"
+#include "platform/linux/dbus_names.h"
 #include "platform/linux/dbus_reply.h"
 #include "power/bluetooth_accessory_kind.h"
 #include "power/bluetooth_address.h"
@@ -24,10 +25,6 @@ const QString bluezService = QStringLiteral("org.bluez");
 const QString deviceInterface = QStringLiteral("org.bluez.Device1");
 const QString batteryInterface = QStringLiteral("org.bluez.Battery1");
 const QString objectManager = QStringLiteral("org.freedesktop.DBus.ObjectManager");
-const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
-const QString upowerService = QStringLiteral("org.freedesktop.UPower");
-const QString upowerPath = QStringLiteral("/org/freedesktop/UPower");
-const QString upowerDevice = QStringLiteral("org.freedesktop.UPower.Device");
 
 // A value of the expected type, else none: everything here comes from another process.
 template <class T>
@@ -69,7 +66,7 @@ BlueZAccessoryBackend::BlueZAccessoryBackend(QDBusConnection bus, QObject* paren
           bluezService, bus_,
           QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
       upower_(
-          upowerService, bus_,
+          dbus::upowerService, bus_,
           QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
       check_{DiagnosticsLog::Outcome::ok, QStringLiteral("asking BlueZ for the accessories")} {
   qDBusRegisterMetaType<InterfaceMap>();
@@ -82,14 +79,14 @@ void BlueZAccessoryBackend::start() {
   bus_.connect(bluezService, QStringLiteral("/"), objectManager,
                QStringLiteral("InterfacesRemoved"), this, SLOT(onInterfacesRemoved(QDBusMessage)));
   // Every device's changes, whatever its path.
-  bus_.connect(bluezService, QString(), propertiesInterface, QStringLiteral("PropertiesChanged"),
-               this, SLOT(onBlueZProperties(QDBusMessage)));
-  bus_.connect(upowerService, upowerPath, upowerService, QStringLiteral("DeviceAdded"), this,
-               SLOT(onUPowerDeviceAdded(QDBusMessage)));
-  bus_.connect(upowerService, upowerPath, upowerService, QStringLiteral("DeviceRemoved"), this,
-               SLOT(onUPowerDeviceRemoved(QDBusMessage)));
-  bus_.connect(upowerService, QString(), propertiesInterface, QStringLiteral("PropertiesChanged"),
-               this, SLOT(onUPowerProperties(QDBusMessage)));
+  bus_.connect(bluezService, QString(), dbus::properties, QStringLiteral("PropertiesChanged"), this,
+               SLOT(onBlueZProperties(QDBusMessage)));
+  bus_.connect(dbus::upowerService, dbus::upowerPath, dbus::upowerService,
+               QStringLiteral("DeviceAdded"), this, SLOT(onUPowerDeviceAdded(QDBusMessage)));
+  bus_.connect(dbus::upowerService, dbus::upowerPath, dbus::upowerService,
+               QStringLiteral("DeviceRemoved"), this, SLOT(onUPowerDeviceRemoved(QDBusMessage)));
+  bus_.connect(dbus::upowerService, QString(), dbus::properties,
+               QStringLiteral("PropertiesChanged"), this, SLOT(onUPowerProperties(QDBusMessage)));
   connect(&bluez_, &QDBusServiceWatcher::serviceRegistered, this,
           &BlueZAccessoryBackend::readBlueZ);
   connect(&bluez_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
@@ -178,8 +175,9 @@ void BlueZAccessoryBackend::onBlueZProperties(const QDBusMessage& message) {
 }
 
 void BlueZAccessoryBackend::readUPower() {
-  const QDBusMessage call = QDBusMessage::createMethodCall(upowerService, upowerPath, upowerService,
-                                                           QStringLiteral("EnumerateDevices"));
+  const QDBusMessage call =
+      QDBusMessage::createMethodCall(dbus::upowerService, dbus::upowerPath, dbus::upowerService,
+                                     QStringLiteral("EnumerateDevices"));
   whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
     if (answer.type() != QDBusMessage::ReplyMessage) return;  // UPower is optional here
     for (const QDBusObjectPath& path : argument<QList<QDBusObjectPath>>(answer, 0)) {
@@ -190,9 +188,9 @@ void BlueZAccessoryBackend::readUPower() {
 
 // A UPower device that carries a Bluetooth address: a peripheral's battery.
 void BlueZAccessoryBackend::readPeripheral(const QString& path) {
-  QDBusMessage call = QDBusMessage::createMethodCall(upowerService, path, propertiesInterface,
+  QDBusMessage call = QDBusMessage::createMethodCall(dbus::upowerService, path, dbus::properties,
                                                      QStringLiteral("GetAll"));
-  call << upowerDevice;
+  call << dbus::upowerDevice;
   whenAnswered(bus_.asyncCall(call), this, [this, path](const QDBusMessage& answer) {
     if (answer.type() != QDBusMessage::ReplyMessage) return;
     const QVariantMap properties = argument<QVariantMap>(answer, 0);
@@ -220,7 +218,8 @@ void BlueZAccessoryBackend::onUPowerDeviceRemoved(const QDBusMessage& message) {
 
 void BlueZAccessoryBackend::onUPowerProperties(const QDBusMessage& message) {
   const auto peripheral = peripherals_.find(message.path());
-  if (peripheral == peripherals_.end() || argument<QString>(message, 0) != upowerDevice) return;
+  if (peripheral == peripherals_.end() || argument<QString>(message, 0) != dbus::upowerDevice)
+    return;
   const QVariantMap changes = argument<QVariantMap>(message, 1);
   if (!changes.contains(QStringLiteral("Percentage"))) return;
   peripheral->second.battery = percentage(changes.value(QStringLiteral("Percentage")));
@@ -256,7 +255,8 @@ std::vector<BluetoothAccessory> BlueZAccessoryBackend::connected() const {
     if (!typed<bool>(device.properties, QStringLiteral("Connected")).value_or(false)) continue;
     BluetoothAccessory accessory = accessoryOf(device.properties, device.battery);
     if (!accessory.battery.main && accessory.address) {
-      for (const auto& [upowerPath, peripheral] : peripherals_) {
+      for (const auto& entry : peripherals_) {
+        const Peripheral& peripheral = entry.second;
         if (peripheral.address == *accessory.address) accessory.battery.main = peripheral.battery;
       }
     }

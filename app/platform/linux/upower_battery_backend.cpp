@@ -7,16 +7,14 @@
 #include <utility>
 
 #include "assign_if_changed.h"
+#include "platform/linux/dbus_names.h"
 #include "platform/linux/dbus_reply.h"
 
 namespace tindra {
 
 namespace {
 
-const QString service = QStringLiteral("org.freedesktop.UPower");
 const QString displayDevice = QStringLiteral("/org/freedesktop/UPower/devices/DisplayDevice");
-const QString deviceInterface = QStringLiteral("org.freedesktop.UPower.Device");
-const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 const QString profilesService = QStringLiteral("net.hadess.PowerProfiles");
 const QString profilesPath = QStringLiteral("/net/hadess/PowerProfiles");
 
@@ -58,7 +56,7 @@ UPowerBatteryBackend::UPowerBatteryBackend(QDBusConnection bus, QObject* parent)
     : BatteryBackend(parent),
       bus_(std::move(bus)),
       watcher_(
-          service, bus_,
+          dbus::upowerService, bus_,
           QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
       profilesWatcher_(
           profilesService, bus_,
@@ -66,14 +64,14 @@ UPowerBatteryBackend::UPowerBatteryBackend(QDBusConnection bus, QObject* parent)
       check_{DiagnosticsLog::Outcome::ok, QStringLiteral("asking UPower for the battery")} {}
 
 void UPowerBatteryBackend::start() {
-  bus_.connect(service, displayDevice, propertiesInterface, QStringLiteral("PropertiesChanged"),
-               this, SLOT(onPropertiesChanged(QString, QVariantMap, QStringList)));
+  bus_.connect(dbus::upowerService, displayDevice, dbus::properties,
+               QStringLiteral("PropertiesChanged"), this,
+               SLOT(onPropertiesChanged(QString, QVariantMap, QStringList)));
   connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this, &UPowerBatteryBackend::readAll);
   connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this,
           &UPowerBatteryBackend::onServiceGone);
-  bus_.connect(profilesService, profilesPath, propertiesInterface,
-               QStringLiteral("PropertiesChanged"), this,
-               SLOT(onProfilesChanged(QString, QVariantMap, QStringList)));
+  bus_.connect(profilesService, profilesPath, dbus::properties, QStringLiteral("PropertiesChanged"),
+               this, SLOT(onProfilesChanged(QString, QVariantMap, QStringList)));
   connect(&profilesWatcher_, &QDBusServiceWatcher::serviceRegistered, this,
           &UPowerBatteryBackend::readProfile);
   connect(&profilesWatcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
@@ -86,7 +84,7 @@ void UPowerBatteryBackend::start() {
 
 void UPowerBatteryBackend::readProfile() {
   QDBusMessage call = QDBusMessage::createMethodCall(profilesService, profilesPath,
-                                                     propertiesInterface, QStringLiteral("Get"));
+                                                     dbus::properties, QStringLiteral("Get"));
   call << profilesService << QStringLiteral("ActiveProfile");
   whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
     // No power-profiles-daemon: no low power mode to show.
@@ -106,9 +104,9 @@ void UPowerBatteryBackend::onProfilesChanged(const QString& interface, const QVa
 }
 
 void UPowerBatteryBackend::readAll() {
-  QDBusMessage call = QDBusMessage::createMethodCall(service, displayDevice, propertiesInterface,
-                                                     QStringLiteral("GetAll"));
-  call << deviceInterface;
+  QDBusMessage call = QDBusMessage::createMethodCall(dbus::upowerService, displayDevice,
+                                                     dbus::properties, QStringLiteral("GetAll"));
+  call << dbus::upowerDevice;
   auto* pending = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
   connect(pending, &QDBusPendingCallWatcher::finished, this, &UPowerBatteryBackend::onReadAll);
 }
@@ -139,7 +137,7 @@ void UPowerBatteryBackend::onServiceGone() {
 
 void UPowerBatteryBackend::onPropertiesChanged(const QString& interface, const QVariantMap& changed,
                                                const QStringList& invalidated) {
-  if (interface != deviceInterface) return;
+  if (interface != dbus::upowerDevice) return;
   if (!invalidated.isEmpty()) {
     readAll();  // UPower says a value changed without sending it
     return;

@@ -4,13 +4,13 @@
 #include <cmath>
 
 #include "hud/keyboard_backlight_policy.h"
+#include "platform/linux/dbus_names.h"
 #include "platform/linux/dbus_reply.h"
 
 namespace tindra {
 
 namespace {
 
-const QString service = QStringLiteral("org.freedesktop.UPower");
 const QString path = QStringLiteral("/org/freedesktop/UPower/KbdBacklight");
 const QString interface = QStringLiteral("org.freedesktop.UPower.KbdBacklight");
 const QString device = QStringLiteral("kbd_backlight");
@@ -28,12 +28,12 @@ std::optional<int> intAnswer(const QDBusMessage& answer) {
 UPowerKeyboardBacklightBackend::UPowerKeyboardBacklightBackend(QDBusConnection bus, QObject* parent)
     : BacklightBackend(parent),
       bus_(std::move(bus)),
-      watcher_(service, bus_,
+      watcher_(dbus::upowerService, bus_,
                QDBusServiceWatcher::WatchForRegistration |
                    QDBusServiceWatcher::WatchForUnregistration) {}
 
 void UPowerKeyboardBacklightBackend::start() {
-  bus_.connect(service, path, interface, QStringLiteral("BrightnessChanged"), this,
+  bus_.connect(dbus::upowerService, path, interface, QStringLiteral("BrightnessChanged"), this,
                SLOT(onBrightnessChanged(int)));
   connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this,
           &UPowerKeyboardBacklightBackend::readMaximum);
@@ -47,7 +47,7 @@ void UPowerKeyboardBacklightBackend::start() {
 }
 
 QDBusMessage UPowerKeyboardBacklightBackend::call(const QString& method) const {
-  return QDBusMessage::createMethodCall(service, path, interface, method);
+  return QDBusMessage::createMethodCall(dbus::upowerService, path, interface, method);
 }
 
 void UPowerKeyboardBacklightBackend::readMaximum() {
