@@ -46,7 +46,6 @@ class HudViewModel : public QObject {
   QColor barColor() const;
   double glideSeconds() const { return motion_.glideDuration().value_or(0); }
   bool showing() const { return showing_; }
-  const std::optional<HUDState>& state() const { return state_; }
 
   // A change to show, and the key press it answers (none for a change made elsewhere).
   void show(const HUDState& state, HUDBarMotion motion, HUDBarStyle style, HUDTint tint,

@@ -39,7 +39,6 @@ class NowPlayingProvider final : public Provider {
   NowPlayingViewModel* viewModel() override { return &viewModel_; }
 
   bool hasSource() const { return source_ != nullptr; }
-  ProcessTapSpectrum& spectrum() { return spectrum_; }
 
   // Bars on the right ear.
   static constexpr int spectrumBands = 6;

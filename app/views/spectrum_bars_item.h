@@ -27,8 +27,6 @@ class SpectrumBarsItem : public QQuickPaintedItem {
   void setSpectrum(QObject* spectrum);
   QColor color() const { return color_; }
   void setColor(const QColor& color);
-  // Whether the spectrum has been told that these bars are on screen.
-  bool isCounted() const { return counted_; }
 
   void paint(QPainter* painter) override;
 

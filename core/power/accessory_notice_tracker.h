@@ -57,10 +57,10 @@ class AccessoryNoticeTracker {
   std::vector<AccessoryNotice> observe(const std::vector<BluetoothAccessory>& connected,
                                        const Settings& settings);
 
+ private:
   // The key one device is known by: its address, else its name.
   static std::string keyOf(const BluetoothAccessory& accessory);
 
- private:
   struct Known {
     BluetoothAccessory accessory;
     std::map<AccessoryBatteryPart, int> warnedStep;  // the lowest step warned, per part
