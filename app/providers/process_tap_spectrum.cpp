@@ -1,21 +1,13 @@
 #include "providers/process_tap_spectrum.h"
 
 #include <algorithm>
-#include <chrono>
 
+#include "activity_center.h"
 #include "logging_categories.h"
 #include "nowplaying/pseudo_waveform.h"
 #include "qt_text.h"
 
 namespace tindra {
-
-namespace {
-
-double monotonicSeconds() {
-  return std::chrono::duration<double>(std::chrono::steady_clock::now().time_since_epoch()).count();
-}
-
-}  // namespace
 
 ProcessTapSpectrum::ProcessTapSpectrum(std::unique_ptr<ProcessTapSession> session, int bandCount,
                                        QObject* parent)
@@ -84,7 +76,7 @@ void ProcessTapSpectrum::update() {
     return;
   }
   session_->start(*target_, [this](std::span<const float> samples, int channels) {
-    feed_.feed(samples, channels, monotonicSeconds());
+    feed_.feed(samples, channels, ActivityCenter::monotonicNow());
   });
 }
 
@@ -120,7 +112,7 @@ void ProcessTapSpectrum::setState(State state) {
 
 void ProcessTapSpectrum::frame() {
   if (state_ == State::unavailable) {
-    PseudoWaveform::levels(monotonicSeconds(), true, levels_);
+    PseudoWaveform::levels(ActivityCenter::monotonicNow(), true, levels_);
     emit levelsChanged();
   } else if (feed_.analyze(levels_)) {
     emit levelsChanged();
