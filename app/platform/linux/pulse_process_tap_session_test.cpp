@@ -2,18 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QProcess>
-#include <QQmlEngine>
-#include <QQuickItem>
-#include <QQuickView>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "providers/process_tap_spectrum.h"
-
-void qml_register_types_Tindra();
+#include "testing/view_shot.h"
 
 namespace tindra {
 namespace {
@@ -109,19 +104,11 @@ TEST_F(PulseProcessTapSessionTest, HearsOnlyThePlayerAndStopsWithIt) {
   EXPECT_FALSE(captureStreams().isEmpty());
 
   // Drawn: the bar of the player's tone stands tallest. TINDRA_SCREENSHOTS keeps the picture.
-  qml_register_types_Tindra();
-  QQuickView view;
-  view.engine()->addImportPath("qrc:/");
-  view.setColor(Qt::black);
-  view.setResizeMode(QQuickView::SizeRootObjectToView);
-  view.resize(150, 60);
-  view.setSource(QUrl("data:text/plain,import Tindra%0ASpectrumBars { color: \"%23ff375f\" }"));
-  ASSERT_TRUE(view.rootObject()) << view.errors().value(0).toString().toStdString();
-  view.rootObject()->setProperty("spectrum", QVariant::fromValue<QObject*>(&spectrum));
-  view.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&view));
-  QTest::qWait(100);
-  const QImage picture = view.grabWindow();
+  const QImage picture =
+      viewShot(QUrl("data:text/plain,import Tindra%0A"
+                    "SpectrumBars { property var model; spectrum: model; color: \"%23ff375f\" }"),
+               &spectrum, {150, 60}, "live-spectrum-1khz");
+  ASSERT_FALSE(picture.isNull());
   const auto barHeight = [&](int bar) {
     const int x = static_cast<int>((bar + 0.5) * (picture.width() + 2) / 6.0);
     int lit = 0;
@@ -129,10 +116,6 @@ TEST_F(PulseProcessTapSessionTest, HearsOnlyThePlayerAndStopsWithIt) {
     return lit;
   };
   EXPECT_GT(barHeight(barOf(1000, rate)), 2 * barHeight(barOf(150, rate)));
-  if (const QString folder = qEnvironmentVariable("TINDRA_SCREENSHOTS"); !folder.isEmpty()) {
-    QDir().mkpath(folder);
-    picture.save(folder + "/live-spectrum-1khz.png");
-  }
 
   spectrum.setTarget(SpectrumTarget{player.processId(), "mpv", ""}, false);  // paused
   EXPECT_EQ(spectrum.state(), ProcessTapSpectrum::State::off);
