@@ -1,6 +1,7 @@
 #include "tindra_app.h"
 
 #include <QDateTime>
+#include <QDesktopServices>
 
 #include "activity_center.h"
 #include "diagnostics/diagnostics_log.h"
@@ -11,6 +12,7 @@
 #include "platform/screen_source_factory.h"
 #include "providers/accessory_provider.h"
 #include "providers/battery_provider.h"
+#include "providers/calendar_provider.h"
 #include "providers/hud_provider.h"
 #include "providers/now_playing_provider.h"
 #include "settings/settings_store.h"
@@ -67,6 +69,13 @@ void TindraApp::startProviders() {
   providers_.push_back(std::make_unique<HudProvider>(context, makeHudBackends()));
   providers_.push_back(
       std::make_unique<AccessoryProvider>(context, makeAccessoryBackend(), sounds));
+  auto calendar = std::make_unique<CalendarProvider>(
+      context, makeCalendarBackend(secondsSince1970), makeTravelTimeEstimator(), sounds,
+      secondsSince1970, [](const QUrl& link) { return QDesktopServices::openUrl(link); });
+  shell_->setCalendars(&calendar->backend(), calendar->travel().available()
+                                                 ? QString()
+                                                 : calendar->travel().unavailableReason());
+  providers_.push_back(std::move(calendar));
   for (const auto& provider : providers_) {
     views_.setModel(provider->name(), provider->viewModel());
     provider->start();

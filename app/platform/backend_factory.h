@@ -7,8 +7,10 @@
 #include "platform/accessory_backend.h"
 #include "platform/adapter_probe.h"
 #include "platform/battery_backend.h"
+#include "platform/calendar_backend.h"
 #include "platform/process_tap_session.h"
 #include "platform/sound_player.h"
+#include "platform/travel_time_estimator.h"
 #include "providers/hud_provider.h"
 #include "providers/now_playing_provider.h"
 
@@ -16,6 +18,11 @@ namespace tindra {
 
 std::unique_ptr<BatteryBackend> makeBatteryBackend();
 std::unique_ptr<AccessoryBackend> makeAccessoryBackend();
+// The invented calendars, else iCalendar files, folders and addresses. `now` gives seconds since
+// 1970.
+std::unique_ptr<CalendarBackend> makeCalendarBackend(const std::function<double()>& now);
+// Travel times for the departure advice; this platform has no routing service yet.
+std::unique_ptr<TravelTimeEstimator> makeTravelTimeEstimator();
 // The notice sounds, one player for every provider; none where nothing can play them.
 std::shared_ptr<SoundPlayer> makeSoundPlayer();
 // The indicator's output volume, display and keyboard lights, and keys. The keys are never

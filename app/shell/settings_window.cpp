@@ -39,9 +39,12 @@ SettingsWindow::SettingsWindow(SettingsStore& settings, QWidget* parent)
   auto* grid = new QGridLayout(content);
   grid->setColumnStretch(1, 1);
   std::vector<std::string> names;
+  grid_ = grid;
   int line = 0;
+  // Two lines a key: its row, and below it a place for what belongs with it (setExtra).
   for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
-    addRow(*grid, line++, key);
+    addRow(*grid, line, key);
+    line += 2;
     names.emplace_back(key.name);
   }
   grid->setRowStretch(line, 1);
@@ -85,6 +88,7 @@ void SettingsWindow::addRow(QGridLayout& grid, int line,
   grid.addWidget(row.label, line, 0);
   grid.addWidget(row.editor, line, 1);
   grid.addWidget(row.reset, line, 2);
+  row.line = line;
   rows_.emplace(name, std::move(row));
   refresh(name);
 }
@@ -208,6 +212,18 @@ void SettingsWindow::refresh(std::string_view name) {
   row->second.show(stored != nullptr ? *stored : key->defaultValue);
 }
 
+void SettingsWindow::setExtra(std::string_view name, QWidget* extra) {
+  auto row = rows_.find(name);
+  if (row == rows_.end()) {
+    delete extra;
+    return;
+  }
+  delete row->second.extra;
+  row->second.extra = extra;
+  grid_->addWidget(extra, row->second.line + 1, 0, 1, 3);
+  filter(search_.text());
+}
+
 void SettingsWindow::setHidden(std::function<bool(std::string_view name)> hidden) {
   hidden_ = std::move(hidden);
   filter(search_.text());
@@ -221,6 +237,7 @@ void SettingsWindow::filter(const QString& text) {
     row.label->setVisible(match);
     row.editor->setVisible(match);
     row.reset->setVisible(match);
+    if (row.extra != nullptr) row.extra->setVisible(match);
   }
 }
 

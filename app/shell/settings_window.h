@@ -28,6 +28,9 @@ class SettingsWindow : public QWidget {
   QWidget* editorFor(std::string_view name) const;
   // The line that reports a failed write; empty while all is well.
   QString problem() const { return problem_.text(); }
+  // Puts `extra` (owned from now on) under the key's row, shown and hidden with it: a note, or a
+  // richer editor than the key's own (the list of calendars).
+  void setExtra(std::string_view name, QWidget* extra);
   // Keys that do not apply here (the battery's on a desktop) are not listed.
   void setHidden(std::function<bool(std::string_view name)> hidden);
 
@@ -36,6 +39,8 @@ class SettingsWindow : public QWidget {
     QWidget* label = nullptr;
     QWidget* editor = nullptr;
     QWidget* reset = nullptr;
+    QWidget* extra = nullptr;
+    int line = 0;
     std::function<void(const JSONValue&)> show;  // puts a value in the editor
   };
 
@@ -49,6 +54,7 @@ class SettingsWindow : public QWidget {
 
   SettingsStore& settings_;
   SettingsObservation observation_;
+  QGridLayout* grid_ = nullptr;
   QLineEdit search_;
   QLabel problem_;
   std::map<std::string, Row, std::less<>> rows_;

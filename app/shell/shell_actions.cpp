@@ -1,7 +1,10 @@
 #include "shell/shell_actions.h"
 
 #include <QCoreApplication>
+#include <QLabel>
 
+#include "settings/settings_keys.h"
+#include "shell/calendar_list_editor.h"
 #include "shell/settings_window.h"
 
 namespace tindra {
@@ -36,7 +39,19 @@ void ShellActions::openDiagnostics() {
 }
 
 void ShellActions::openSettings() {
-  if (settingsWindow_ == nullptr) settingsWindow_ = new SettingsWindow(settings_);
+  if (settingsWindow_ == nullptr) {
+    settingsWindow_ = new SettingsWindow(settings_);
+    if (calendars_ != nullptr) {
+      settingsWindow_->setExtra(settings::calendarExcludedIdentifiers.name,
+                                new CalendarListEditor(*calendars_, settings_));
+    }
+    if (!travelUnavailable_.isEmpty()) {
+      auto* note = new QLabel(travelUnavailable_);
+      note->setWordWrap(true);
+      note->setStyleSheet(QStringLiteral("color: #b25000"));
+      settingsWindow_->setExtra(settings::travelTimeEnabled.name, note);
+    }
+  }
   settingsWindow_->setHidden(hiddenSettings_);
   settingsWindow_->show();
   settingsWindow_->raise();

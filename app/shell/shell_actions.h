@@ -7,6 +7,7 @@
 #include <QObject>
 #include <QPointer>
 
+#include "platform/calendar_backend.h"
 #include "shell/diagnostics_window.h"
 #include "shell/settings_window.h"
 
@@ -34,6 +35,12 @@ class ShellActions : public QObject {
   void setHiddenSettings(std::function<bool(std::string_view name)> hidden) {
     hiddenSettings_ = std::move(hidden);
   }
+  // The calendars listed under the calendar settings, and why travel times are unavailable
+  // (empty when they are available).
+  void setCalendars(CalendarBackend* calendars, QString travelUnavailable) {
+    calendars_ = calendars;
+    travelUnavailable_ = std::move(travelUnavailable);
+  }
   SettingsWindow* settingsWindow() const { return settingsWindow_; }
   // A check the Diagnostics window offers as a button; add before it is first opened.
   void addCheck(DiagnosticsWindow::Check check) { checks_.push_back(std::move(check)); }
@@ -51,6 +58,8 @@ class ShellActions : public QObject {
   QPointer<DiagnosticsWindow> diagnosticsWindow_;
   std::vector<DiagnosticsWindow::Check> checks_;
   std::function<bool(std::string_view)> hiddenSettings_;
+  CalendarBackend* calendars_ = nullptr;
+  QString travelUnavailable_;
 };
 
 }  // namespace tindra

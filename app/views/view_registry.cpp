@@ -11,10 +11,11 @@ QUrl view(const char* file) {
 }  // namespace
 
 const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
-  // The calendar, weather and file tray sections join here as their providers arrive.
+  // The weather and file tray sections join here as their providers arrive.
   static const std::vector<Section> all{
       {QStringLiteral("hud"), {{QStringLiteral("hud"), view("HudPanel.qml")}}, true},
       {QStringLiteral("media"), {{QStringLiteral("media"), view("MediaPanel.qml")}}},
+      {QStringLiteral("calendar"), {{QStringLiteral("calendar"), view("CalendarPanel.qml")}}},
       {QStringLiteral("batteries"),
        {{QStringLiteral("battery"), view("BatteriesPanel.qml")},
         {QStringLiteral("accessories"), view("AccessoriesPanel.qml")}}},
@@ -33,6 +34,8 @@ std::optional<ViewRegistry::View> ViewRegistry::compact(ActivityKind kind) {
       return View{QStringLiteral("media"), view("MediaCompact.qml")};
     case ActivityKind::hud:
       return View{QStringLiteral("hud"), view("HudCompact.qml")};
+    case ActivityKind::upcomingEvent:
+      return View{QStringLiteral("calendar"), view("CalendarCompact.qml")};
     case ActivityKind::batteryAlert:
       return View{QStringLiteral("battery"), view("BatteryCompact.qml")};
     case ActivityKind::accessory:

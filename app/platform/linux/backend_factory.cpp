@@ -8,10 +8,12 @@
 #include "platform/fake/fake_accessory_backend.h"
 #include "platform/fake/fake_backlight_backend.h"
 #include "platform/fake/fake_battery_backend.h"
+#include "platform/fake/fake_calendar_backend.h"
 #include "platform/fake/fake_now_playing_source.h"
 #include "platform/fake/fake_volume_backend.h"
 #include "platform/fake/offline_artwork_fetcher.h"
 #include "platform/linux/bluez_accessory_backend.h"
+#include "platform/linux/icalendar_backend.h"
 #include "platform/linux/pulse_process_tap_session.h"
 #include "platform/linux/pulse_sound_player.h"
 #include "platform/linux/pulse_volume_backend.h"
@@ -69,9 +71,20 @@ std::unique_ptr<AccessoryBackend> makeAccessoryBackend() {
   return std::make_unique<BlueZAccessoryBackend>(QDBusConnection::systemBus());
 }
 
+std::unique_ptr<CalendarBackend> makeCalendarBackend(const std::function<double()>& now) {
+  if (fakeBackendRequested(QStringLiteral("calendar"))) {
+    return std::make_unique<FakeCalendarBackend>(now());
+  }
+  return std::make_unique<ICalendarBackend>(ICalendarBackend::defaultPlaces(), now);
+}
+
+std::unique_ptr<TravelTimeEstimator> makeTravelTimeEstimator() {
+  return std::make_unique<NullTravelTimeEstimator>();
+}
+
 std::shared_ptr<SoundPlayer> makeSoundPlayer() {
   return std::make_shared<PulseSoundPlayer>(soundServer(),
-                                            QStringList{"tindra-charging", "tindra-low-battery"});
+                                            QStringList{"tindra-charging", "tindra-low-battery", "tindra-event"});
 }
 
 HudBackends makeHudBackends() {
