@@ -1,6 +1,7 @@
 // Feeds arbitrary bytes to the iCalendar reader over a window of a week. It must refuse or read
 // without crashing, keep every occurrence it returns inside the window with its end not before
-// its start, and never return more occurrences of one event than the cap.
+// its start, and never return more occurrences of one event than the cap, however many rules it
+// has.
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -29,6 +30,8 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     if (!std::isfinite(event.start) || !std::isfinite(event.end)) std::abort();
     if (event.start >= options.windowEnd) std::abort();
     const std::string series = event.id.substr(0, event.id.rfind('@'));
+    // The rules' occurrences are capped; edited occurrences are components of their own, and a
+    // 64 KB input holds fewer than the cap of them.
     if (++perEvent[series] > 2 * tindra::ICalendarReader::maxOccurrencesPerEvent) std::abort();
   }
   return 0;

@@ -100,6 +100,7 @@ class CalendarReader {
 
   void read(icalcomponent* calendar) {
     calendar_ = calendar;
+    zones_.clear();
     readCalendarProperties();
     readEvents();
     readToDos();
@@ -147,8 +148,17 @@ class CalendarReader {
   }
 
   // The zone a TZID names: the document's own VTIMEZONE, else the system's database, else a
-  // Windows zone name as Outlook writes it. Null leaves the time floating.
-  icaltimezone* zoneForTZID(const char* tzid) const {
+  // Windows zone name as Outlook writes it. Null leaves the time floating. Remembered, as the
+  // database lookup compares the name with every zone it knows.
+  icaltimezone* zoneForTZID(const char* tzid) {
+    const auto known = zones_.find(std::string_view(tzid));
+    if (known != zones_.end()) return known->second;
+    icaltimezone* zone = lookUpZone(tzid);
+    zones_.emplace(tzid, zone);
+    return zone;
+  }
+
+  icaltimezone* lookUpZone(const char* tzid) const {
     if (icaltimezone* own = icalcomponent_get_timezone(calendar_, tzid)) return own;
     if (icaltimezone* known = icaltimezone_get_builtin_timezone(tzid)) return known;
     UErrorCode status = U_ZERO_ERROR;
@@ -161,7 +171,7 @@ class CalendarReader {
   }
 
   // `time` as read from `property`, with the zone its TZID names attached.
-  icaltimetype zoned(icaltimetype time, icalproperty* property) const {
+  icaltimetype zoned(icaltimetype time, icalproperty* property) {
     if (time.zone != nullptr || time.is_date || icaltime_is_utc(time)) return time;
     icalparameter* tzid = icalproperty_get_first_parameter(property, ICAL_TZID_PARAMETER);
     if (tzid == nullptr) return time;
@@ -170,7 +180,7 @@ class CalendarReader {
     return time;
   }
 
-  icaltimetype startOf(icalcomponent* event) const {
+  icaltimetype startOf(icalcomponent* event) {
     icalproperty* property = icalcomponent_get_first_property(event, ICAL_DTSTART_PROPERTY);
     return property ? zoned(icalproperty_get_dtstart(property), property) : icaltime_null_time();
   }
@@ -201,7 +211,7 @@ class CalendarReader {
     double seconds = 0;
   };
 
-  Length lengthOf(icalcomponent* event, icaltimetype start) const {
+  Length lengthOf(icalcomponent* event, icaltimetype start) {
     icaltimetype end = icaltime_null_time();
     if (icalproperty* p = icalcomponent_get_first_property(event, ICAL_DTEND_PROPERTY)) {
       end = zoned(icalproperty_get_dtend(p), p);
@@ -357,6 +367,10 @@ class CalendarReader {
       if (icaltime_is_null_time(time)) continue;
       time = zoned(time, p);
       const double key = seconds(time);
+      if (found.size() >= ICalendarReader::maxOccurrencesPerEvent) {
+        document_.expansionCapped = true;
+        break;
+      }
       if (overlapsWindow(key, endOf(time, length))) found.emplace(key, time);
     }
     for (icalproperty* p = icalcomponent_get_first_property(event, ICAL_EXDATE_PROPERTY); p;
@@ -380,11 +394,10 @@ class CalendarReader {
           const_cast<icaltimezone*>(start.zone ? start.zone : local_));
       icalrecur_iterator_set_start(iterator.get(), from);
     }
-    std::size_t inWindow = 0;
     for (std::size_t steps = 0;; ++steps) {
       if (steps == ICalendarReader::maxStepsPerRule ||
           stepsUsed_ == ICalendarReader::maxStepsPerDocument ||
-          inWindow == ICalendarReader::maxOccurrencesPerEvent) {
+          found.size() >= ICalendarReader::maxOccurrencesPerEvent) {
         document_.expansionCapped = true;
         return;
       }
@@ -395,7 +408,7 @@ class CalendarReader {
       const double key = seconds(next);
       if (key >= options_.windowEnd) return;
       if (!overlapsWindow(key, endOf(next, length))) continue;
-      if (found.emplace(key, next).second) ++inWindow;
+      found.emplace(key, next);
     }
   }
 
@@ -433,6 +446,7 @@ class CalendarReader {
   icaltimezone* local_;
   std::set<std::string> owners_;
   icalcomponent* calendar_ = nullptr;
+  std::map<std::string, icaltimezone*, std::less<>> zones_;  // of this calendar's TZIDs
   std::size_t stepsUsed_ = 0;
 };
 
@@ -465,9 +479,7 @@ std::expected<ICalendarDocument, ICalendarError> ICalendarReader::read(
   if (!endsWithLine(body, "END:VCALENDAR")) return std::unexpected(ICalendarError::truncated);
 
   keepLibicalFromAborting();
-  const std::string terminated(body);  // libical wants a C string
-  const std::unique_ptr<icalcomponent, ComponentFree> root(
-      icalparser_parse_string(terminated.c_str()));
+  const std::unique_ptr<icalcomponent, ComponentFree> root(icalparser_parse_string(utf8.c_str()));
   if (!root) return std::unexpected(ICalendarError::malformed);
 
   ICalendarDocument document;

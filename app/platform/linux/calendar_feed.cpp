@@ -1,5 +1,7 @@
 #include "platform/linux/calendar_feed.h"
 
+#include <malloc.h>
+
 #include "qt_text.h"
 
 namespace tindra {
@@ -29,6 +31,9 @@ CalendarFeed::Reading CalendarFeed::read(std::vector<std::string> documents) con
     reading.documents.push_back(std::move(*document));
     reading.texts.push_back(std::move(text));
   }
+  // libical builds a tree many times the document's size and frees it in small pieces, which
+  // the allocator would otherwise keep for good.
+  malloc_trim(0);
   return reading;
 }
 
