@@ -53,9 +53,13 @@ CalendarListEditor::CalendarListEditor(CalendarBackend& backend, SettingsStore& 
   });
   layout->addWidget(&owners_);
 
-  connect(&backend_, &CalendarBackend::changed, this, &CalendarListEditor::rebuild);
-  observation_ = settings_.observe(settings::calendarExcludedIdentifiers,
-                                   [this](const std::vector<std::string>&) { rebuild(); });
+  // Later, not at once: the change may come from one of the rows' own buttons, which the
+  // rebuild deletes.
+  connect(&backend_, &CalendarBackend::changed, this, &CalendarListEditor::rebuild,
+          Qt::QueuedConnection);
+  observation_ = settings_.observe(settings::calendarExcludedIdentifiers, [this](const auto&) {
+    QMetaObject::invokeMethod(this, &CalendarListEditor::rebuild, Qt::QueuedConnection);
+  });
   rebuild();
 }
 

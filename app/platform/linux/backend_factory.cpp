@@ -83,8 +83,8 @@ std::unique_ptr<TravelTimeEstimator> makeTravelTimeEstimator() {
 }
 
 std::shared_ptr<SoundPlayer> makeSoundPlayer() {
-  return std::make_shared<PulseSoundPlayer>(soundServer(),
-                                            QStringList{"tindra-charging", "tindra-low-battery", "tindra-event"});
+  return std::make_shared<PulseSoundPlayer>(
+      soundServer(), QStringList{"tindra-charging", "tindra-low-battery", "tindra-event"});
 }
 
 HudBackends makeHudBackends() {

@@ -79,9 +79,9 @@ void CalendarFeed::setProblem(DiagnosticsLog::Outcome outcome, const QString& te
 // The state says the worst of: getting the documents, reading them, what they hold.
 void CalendarFeed::publish() {
   ServiceCheck state{DiagnosticsLog::Outcome::ok,
-                     tr("%n event(s) in view", nullptr, static_cast<int>(contents_.events.size()))};
+                     tr("%1 events in view").arg(contents_.events.size())};
   if (!contents_.reminders.empty()) {
-    state.text += tr(", %n to-do(s)", nullptr, static_cast<int>(contents_.reminders.size()));
+    state.text += tr(", %1 to-dos").arg(contents_.reminders.size());
   }
   if (!readProblem_.isEmpty()) {
     state = {DiagnosticsLog::Outcome::degraded, readProblem_ + QStringLiteral("; ") + state.text};

@@ -71,6 +71,7 @@ ICalendarBackend::ICalendarBackend(Places places, RemoteCalendarFeed::Clock now,
       now_(std::move(now)),
       list_(places_.list) {
   options_.timeZone = QTimeZone::systemTimeZoneId().toStdString();
+  loadList();
 }
 
 ICalendarBackend::~ICalendarBackend() = default;
@@ -81,8 +82,8 @@ QString ICalendarBackend::idFor(const QString& location) {
 }
 
 void ICalendarBackend::start() {
+  if (started_) return;
   started_ = true;
-  loadList();
   makeFeeds();
 }
 
@@ -183,9 +184,31 @@ void ICalendarBackend::readOptionsChanged() {
 }
 
 std::vector<CalendarContents> ICalendarBackend::calendars() const {
+  if (!started_) return listedOnly();
   std::vector<CalendarContents> all;
   all.reserve(feeds_.size());
   for (const auto& feed : feeds_) all.push_back(feed->contents());
+  return all;
+}
+
+// Before the start nothing is read: the calendars as listed, without their events.
+std::vector<CalendarContents> ICalendarBackend::listedOnly() const {
+  std::vector<CalendarContents> all;
+  const auto list = [&](const QString& location, bool removable) {
+    CalendarContents contents;
+    contents.source = {
+        idFor(location),
+        isAddress(location) ? QUrl(location).host() : QFileInfo(location).completeBaseName(),
+        location,
+        std::nullopt,
+        {DiagnosticsLog::Outcome::degraded, tr("not read while the calendar is off")},
+        removable};
+    all.push_back(std::move(contents));
+  };
+  for (const QString& found : places_.found) {
+    if (QFileInfo::exists(found)) list(found, false);
+  }
+  for (const QString& location : added_) list(location, true);
   return all;
 }
 
@@ -209,7 +232,11 @@ std::optional<QString> ICalendarBackend::add(const QString& given) {
     added_.removeLast();
     return *problem;
   }
-  if (started_) makeFeeds();
+  if (started_) {
+    makeFeeds();
+  } else {
+    emit changed();
+  }
   return std::nullopt;
 }
 
@@ -218,7 +245,11 @@ void ICalendarBackend::remove(const QString& id) {
       added_.removeIf([&](const QString& location) { return idFor(location) == id; });
   if (removed == 0) return;
   if (const auto problem = saveList()) listProblem_ = *problem;
-  if (started_) makeFeeds();
+  if (started_) {
+    makeFeeds();
+  } else {
+    emit changed();
+  }
 }
 
 void ICalendarBackend::updateCheck() {

@@ -46,6 +46,7 @@ class ICalendarBackend final : public CalendarBackend {
 
  private:
   void loadList();
+  std::vector<CalendarContents> listedOnly() const;
   std::optional<QString> saveList();
   void makeFeeds();
   std::unique_ptr<CalendarFeed> makeFeed(const QString& location, bool removable, int index);

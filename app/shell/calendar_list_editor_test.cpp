@@ -1,0 +1,57 @@
+#include "shell/calendar_list_editor.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "platform/linux/icalendar_backend.h"
+#include "settings/settings_keys.h"
+
+namespace tindra {
+namespace {
+
+TEST(CalendarListEditorTest, ListsTheCalendarsWithASwitchEachAndAddsFilesAndAddresses) {
+  QTemporaryDir dir;
+  QFile file(dir.filePath("team.ics"));
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(
+      "BEGIN:VCALENDAR\r\nX-WR-CALNAME:Team\r\nBEGIN:VEVENT\r\nUID:a\r\n"
+      "DTSTART:20261026T090000Z\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n");
+  file.close();
+  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
+  ICalendarBackend backend({dir.filePath("calendars.json").toStdString(), dir.filePath("kept"), {}},
+                           [] { return 1792972800.0; });
+  backend.start();
+  CalendarListEditor editor(backend, settings);
+
+  editor.field().setText("http://calendar.example.org/team.ics");
+  EXPECT_FALSE(editor.addFromField());
+  EXPECT_TRUE(editor.problem().contains("https://"));
+  editor.field().setText(file.fileName());
+  EXPECT_TRUE(editor.addFromField());
+  EXPECT_TRUE(editor.problem().isEmpty());
+  QCoreApplication::processEvents();
+
+  const QList<QCheckBox*> switches = editor.findChildren<QCheckBox*>();
+  ASSERT_EQ(switches.size(), 1);
+  EXPECT_EQ(switches[0]->text(), "Team");
+  EXPECT_TRUE(switches[0]->isChecked());
+  switches[0]->setChecked(false);
+  QCoreApplication::processEvents();
+  EXPECT_EQ(settings.read(settings::calendarExcludedIdentifiers),
+            std::vector<std::string>{ICalendarBackend::idFor(file.fileName()).toStdString()});
+
+  ASSERT_EQ(editor.findChildren<QCheckBox*>().size(), 1);
+  EXPECT_FALSE(editor.findChildren<QCheckBox*>()[0]->isChecked());
+  editor.resize(560, 120);
+  if (const QString folder = qEnvironmentVariable("TINDRA_SCREENSHOTS"); !folder.isEmpty()) {
+    editor.grab().save(QDir(folder).filePath("settings-calendars.png"));
+  }
+}
+
+}  // namespace
+}  // namespace tindra
