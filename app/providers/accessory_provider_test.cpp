@@ -8,15 +8,11 @@
 #include "platform/fake/fake_accessory_backend.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
+#include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
 namespace {
-
-struct Played final : SoundPlayer {
-  void play(const QString& name) override { names << name; }
-  QStringList names;
-};
 
 BluetoothAccessory headphones(std::optional<int> level) {
   BluetoothAccessory accessory;
@@ -40,7 +36,7 @@ class AccessoryProviderTest : public ::testing::Test {
   SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
   ActivityCenter activities_{settings_};
   DiagnosticsLog diagnostics_;
-  std::shared_ptr<Played> sounds_ = std::make_shared<Played>();
+  std::shared_ptr<RecordedSounds> sounds_ = std::make_shared<RecordedSounds>();
   FakeAccessoryBackend* backend_ = nullptr;
   std::unique_ptr<AccessoryProvider> provider_;
 };
@@ -56,13 +52,13 @@ TEST_F(AccessoryProviderTest, ConnectionsAndFallingBatteriesBecomeNotices) {
   EXPECT_EQ(activities_.current(), ActivityKind::accessory);
   EXPECT_EQ(view.notice(), "connected");
   EXPECT_EQ(view.noticeAccessory()["main"], 64);
-  EXPECT_EQ(sounds_->names, QStringList{"tindra-charging"});
+  EXPECT_EQ(sounds_->played, QStringList{"tindra-charging"});
   activities_.reset();
 
   backend_->setConnected({buds, headphones(19)});
   EXPECT_EQ(view.notice(), "low");
   EXPECT_EQ(view.noticePart(), "main");
-  EXPECT_EQ(sounds_->names.size(), 2);
+  EXPECT_EQ(sounds_->played.size(), 2);
 
   ASSERT_TRUE(settings_.write(settings::accessoryDisconnectNotice, false));
   activities_.reset();

@@ -9,17 +9,11 @@
 #include "platform/fake/fake_battery_backend.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
+#include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
 namespace {
-
-// The sounds a provider asked for.
-struct RecordedSounds final : SoundPlayer {
-  explicit RecordedSounds(QStringList& played) : played(played) {}
-  void play(const QString& name) override { played << name; }
-  QStringList& played;
-};
 
 class BatteryProviderTest : public ::testing::Test {
  protected:
@@ -27,8 +21,7 @@ class BatteryProviderTest : public ::testing::Test {
     auto backend = std::make_unique<FakeBatteryBackend>();
     backend_ = backend.get();
     provider_ = std::make_unique<BatteryProvider>(
-        ProviderContext{activities_, settings_, diagnostics_}, std::move(backend),
-        std::make_shared<RecordedSounds>(played_));
+        ProviderContext{activities_, settings_, diagnostics_}, std::move(backend), sounds_);
   }
 
   static BatteryStatus onBattery(int percent) {
@@ -41,7 +34,7 @@ class BatteryProviderTest : public ::testing::Test {
   ActivityCenter activities_{settings_};
   DiagnosticsLog diagnostics_;
   FakeBatteryBackend* backend_ = nullptr;
-  QStringList played_;
+  std::shared_ptr<RecordedSounds> sounds_ = std::make_shared<RecordedSounds>();
   std::unique_ptr<BatteryProvider> provider_;
 };
 
@@ -83,7 +76,7 @@ TEST_F(BatteryProviderTest, PowerChangesAndTheLowWarningBecomeNoticesWithTheirSo
   backend_->setReading(charging(76));
   EXPECT_EQ(activities_.current(), ActivityKind::batteryAlert);
   EXPECT_EQ(view.notice(), "pluggedIn");
-  EXPECT_EQ(played_, QStringList{"tindra-charging"});
+  EXPECT_EQ(sounds_->played, QStringList{"tindra-charging"});
   activities_.reset();
 
   backend_->setReading(onBattery(76));
@@ -92,7 +85,7 @@ TEST_F(BatteryProviderTest, PowerChangesAndTheLowWarningBecomeNoticesWithTheirSo
   backend_->setReading(onBattery(20));
   EXPECT_EQ(view.notice(), "low");
   EXPECT_EQ(view.noticePercent(), 20);
-  EXPECT_EQ(played_, (QStringList{"tindra-charging", "tindra-low-battery"}));
+  EXPECT_EQ(sounds_->played, (QStringList{"tindra-charging", "tindra-low-battery"}));
   QSignalSpy notices(&view, &BatteryViewModel::noticeChanged);
   backend_->setReading(onBattery(19));  // warned once until charged
   EXPECT_EQ(notices.count(), 0);
@@ -103,7 +96,7 @@ TEST_F(BatteryProviderTest, PowerChangesAndTheLowWarningBecomeNoticesWithTheirSo
   EXPECT_EQ(notices.count(), 0);
   backend_->setReading(onBattery(19));
   EXPECT_EQ(view.notice(), "low");
-  EXPECT_EQ(played_.size(), 2);  // sounds are off
+  EXPECT_EQ(sounds_->played.size(), 2);  // sounds are off
 }
 
 // Each notice drawn on the ears, and the panel section with low power mode; the low warning in

@@ -9,17 +9,12 @@
 #include "calendar/upcoming_event_sound_log.h"
 #include "platform/fake/fake_calendar_backend.h"
 #include "settings/settings_keys.h"
+#include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
 #include "views/view_registry.h"
 
 namespace tindra {
 namespace {
-
-struct RecordedSounds final : SoundPlayer {
-  explicit RecordedSounds(QStringList& played) : played(played) {}
-  void play(const QString& name) override { played << name; }
-  QStringList& played;
-};
 
 // Answers every question with the same trip, at once.
 struct FixedTravelTime final : TravelTimeEstimator {
@@ -48,7 +43,7 @@ class CalendarProviderTest : public ::testing::Test {
     backend_ = backend.get();
     provider_ = std::make_unique<CalendarProvider>(
         ProviderContext{activities_, settings_, diagnostics_}, std::move(backend),
-        std::move(travel), std::make_shared<RecordedSounds>(played_), [this] { return now_; },
+        std::move(travel), sounds_, [this] { return now_; },
         [this](const QUrl& url) {
           opened_ << url;
           return true;
@@ -69,7 +64,7 @@ class CalendarProviderTest : public ::testing::Test {
   ActivityCenter activities_{settings_};
   DiagnosticsLog diagnostics_;
   FakeCalendarBackend* backend_ = nullptr;
-  QStringList played_;
+  std::shared_ptr<RecordedSounds> sounds_ = std::make_shared<RecordedSounds>();
   QList<QUrl> opened_;
   double now_ = tenOClock();
   std::unique_ptr<CalendarProvider> provider_;
@@ -133,7 +128,7 @@ TEST_F(CalendarProviderTest, TheStartSoundPlaysOncePerMeetingAcrossRestarts) {
   provider_->start();
   enable();
   advanceTo(now_ + 60);
-  EXPECT_EQ(played_, QStringList{"tindra-event"});
+  EXPECT_EQ(sounds_->played, QStringList{"tindra-event"});
   const auto log =
       UpcomingEventSoundLog::fromJSON(JSONValue(settings_.read(settings::calendarEventSoundLog)));
   EXPECT_EQ(log.played.size(), 1U);
@@ -142,10 +137,10 @@ TEST_F(CalendarProviderTest, TheStartSoundPlaysOncePerMeetingAcrossRestarts) {
   auto restarted = std::make_unique<CalendarProvider>(
       ProviderContext{activities_, settings_, diagnostics_},
       std::make_unique<FakeCalendarBackend>(tenOClock()),
-      std::make_unique<NullTravelTimeEstimator>(), std::make_shared<RecordedSounds>(played_),
-      [this] { return now_; }, [](const QUrl&) { return true; });
+      std::make_unique<NullTravelTimeEstimator>(), sounds_, [this] { return now_; },
+      [](const QUrl&) { return true; });
   restarted->start();
-  EXPECT_EQ(played_.size(), 1);
+  EXPECT_EQ(sounds_->played.size(), 1);
 }
 
 TEST_F(CalendarProviderTest, JoinOpensTheMeetingLinkWithTheDesktop) {
