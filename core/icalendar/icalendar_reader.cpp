@@ -57,14 +57,15 @@ std::optional<std::string> text(const char* value) {
 
 std::optional<std::string> propertyText(icalcomponent* component, icalproperty_kind kind) {
   icalproperty* property = icalcomponent_get_first_property(component, kind);
-  return property ? text(icalproperty_get_value_as_string(property)) : std::nullopt;
+  return (property != nullptr) ? text(icalproperty_get_value_as_string(property)) : std::nullopt;
 }
 
 std::optional<std::string> xPropertyText(icalcomponent* component, std::string_view name) {
-  for (icalproperty* p = icalcomponent_get_first_property(component, ICAL_X_PROPERTY); p;
+  for (icalproperty* p = icalcomponent_get_first_property(component, ICAL_X_PROPERTY); p != nullptr;
        p = icalcomponent_get_next_property(component, ICAL_X_PROPERTY)) {
     const char* xName = icalproperty_get_x_name(p);
-    if (xName && asciiEqualsIgnoringCase(xName, name)) return text(icalproperty_get_x(p));
+    if ((xName != nullptr) && asciiEqualsIgnoringCase(xName, name))
+      return text(icalproperty_get_x(p));
   }
   return std::nullopt;
 }
@@ -74,8 +75,8 @@ std::optional<CalendarEventInfo::Color> hexColor(std::string_view value) {
   if (!value.starts_with('#') || (value.size() != 7 && value.size() != 9)) return std::nullopt;
   double channels[3];
   for (int i = 0; i < 3; ++i) {
-    const int high = hexDigitValue(value[1 + 2 * i]);
-    const int low = hexDigitValue(value[2 + 2 * i]);
+    const int high = hexDigitValue(value[1 + (2 * i)]);
+    const int low = hexDigitValue(value[2 + (2 * i)]);
     if (high < 0 || low < 0) return std::nullopt;
     channels[i] = (high * 16 + low) / 255.0;
   }
@@ -116,7 +117,7 @@ class CalendarReader {
   static icaltimezone* zoneNamed(const std::string& name) {
     if (name.empty()) return icaltimezone_get_utc_timezone();
     icaltimezone* zone = icaltimezone_get_builtin_timezone(name.c_str());
-    return zone ? zone : icaltimezone_get_utc_timezone();
+    return (zone != nullptr) ? zone : icaltimezone_get_utc_timezone();
   }
 
   void readCalendarProperties() {
@@ -140,7 +141,7 @@ class CalendarReader {
       if (interval) {
         const icaldurationtype duration = icaldurationtype_from_string(interval->c_str());
         const int seconds = icaldurationtype_as_int(duration);
-        if (!icaldurationtype_is_bad_duration(duration) && seconds > 0) {
+        if ((icaldurationtype_is_bad_duration(duration) == 0) && seconds > 0) {
           document_.refreshInterval = seconds;
         }
       }
@@ -164,7 +165,8 @@ class CalendarReader {
     UErrorCode status = U_ZERO_ERROR;
     icu::UnicodeString iana;
     icu::TimeZone::getIDForWindowsID(icu::UnicodeString::fromUTF8(tzid), nullptr, iana, status);
-    if (U_FAILURE(status) || iana.isEmpty()) return nullptr;
+    if (U_FAILURE(status) || iana.isEmpty())
+      return nullptr;  // NOLINT(readability-implicit-bool-conversion)
     std::string name;
     iana.toUTF8String(name);
     return icaltimezone_get_builtin_timezone(name.c_str());
@@ -172,7 +174,7 @@ class CalendarReader {
 
   // `time` as read from `property`, with the zone its TZID names attached.
   icaltimetype zoned(icaltimetype time, icalproperty* property) {
-    if (time.zone != nullptr || time.is_date || icaltime_is_utc(time)) return time;
+    if (time.zone != nullptr || (time.is_date != 0) || (icaltime_is_utc(time) != 0)) return time;
     icalparameter* tzid = icalproperty_get_first_parameter(property, ICAL_TZID_PARAMETER);
     if (tzid == nullptr) return time;
     const char* name = icalparameter_get_tzid(tzid);
@@ -182,14 +184,15 @@ class CalendarReader {
 
   icaltimetype startOf(icalcomponent* event) {
     icalproperty* property = icalcomponent_get_first_property(event, ICAL_DTSTART_PROPERTY);
-    return property ? zoned(icalproperty_get_dtstart(property), property) : icaltime_null_time();
+    return (property != nullptr) ? zoned(icalproperty_get_dtstart(property), property)
+                                 : icaltime_null_time();
   }
 
   // Seconds since 1970. Floating times are the user's wall clock; a date is its first moment in
   // the user's zone, so an all-day event covers the user's day wherever it was written.
   double seconds(icaltimetype time) const {
     const icaltimezone* zone = time.zone;
-    if (time.is_date) {
+    if (time.is_date != 0) {
       time.is_date = 0;
       time.hour = time.minute = time.second = 0;
       zone = local_;
@@ -217,39 +220,40 @@ class CalendarReader {
       end = zoned(icalproperty_get_dtend(p), p);
     } else if (icalproperty* d = icalcomponent_get_first_property(event, ICAL_DURATION_PROPERTY)) {
       const icaldurationtype duration = icalproperty_get_duration(d);
-      if (start.is_date) {
+      if (start.is_date != 0) {
         // Ten years at most: a longer "all-day" span is a mistake, not a holiday.
-        const unsigned days = std::min(duration.days + 7 * duration.weeks, 3660U);
-        return {duration.is_neg ? 0 : static_cast<int>(days), 0};
+        const unsigned days = std::min(duration.days + (7 * duration.weeks), 3660U);
+        return {(duration.is_neg != 0) ? 0 : static_cast<int>(days), 0};
       }
       return {0, std::max(0.0, static_cast<double>(icaldurationtype_as_int(duration)))};
     }
-    if (start.is_date) {
-      if (icaltime_is_null_time(end)) return {1, 0};
+    if (start.is_date != 0) {
+      if (icaltime_is_null_time(end) != 0) return {1, 0};
       end.is_date = 1;
       const double days = (static_cast<double>(icaltime_as_timet(end)) -
                            static_cast<double>(icaltime_as_timet(start))) /
                           86400.0;
       return {std::max(0, static_cast<int>(std::lround(days))), 0};
     }
-    if (icaltime_is_null_time(end)) return {};
+    if (icaltime_is_null_time(end) != 0) return {};
     return {0, std::max(0.0, seconds(end) - seconds(start))};
   }
 
   double endOf(icaltimetype start, const Length& length) const {
-    if (!start.is_date) return seconds(start) + length.seconds;
+    if (start.is_date == 0) return seconds(start) + length.seconds;
     icaltime_adjust(&start, length.days, 0, 0, 0);
     return seconds(start);
   }
 
   bool isDeclined(icalcomponent* event) const {
     if (owners_.empty()) return false;
-    for (icalproperty* p = icalcomponent_get_first_property(event, ICAL_ATTENDEE_PROPERTY); p;
-         p = icalcomponent_get_next_property(event, ICAL_ATTENDEE_PROPERTY)) {
+    for (icalproperty* p = icalcomponent_get_first_property(event, ICAL_ATTENDEE_PROPERTY);
+         p != nullptr; p = icalcomponent_get_next_property(event, ICAL_ATTENDEE_PROPERTY)) {
       const char* address = icalproperty_get_attendee(p);
       if (address == nullptr || !owners_.contains(mailAddress(address))) continue;
       icalparameter* partstat = icalproperty_get_first_parameter(p, ICAL_PARTSTAT_PARAMETER);
-      if (partstat && icalparameter_get_partstat(partstat) == ICAL_PARTSTAT_DECLINED) return true;
+      if ((partstat != nullptr) && icalparameter_get_partstat(partstat) == ICAL_PARTSTAT_DECLINED)
+        return true;
     }
     return false;
   }
@@ -296,13 +300,14 @@ class CalendarReader {
     std::map<std::string, Series> series;
     std::size_t index = 0;
     for (icalcomponent* event = icalcomponent_get_first_component(calendar_, ICAL_VEVENT_COMPONENT);
-         event; event = icalcomponent_get_next_component(calendar_, ICAL_VEVENT_COMPONENT)) {
+         event != nullptr;
+         event = icalcomponent_get_next_component(calendar_, ICAL_VEVENT_COMPONENT)) {
       // Events without a UID are their own series.
       const std::string uid =
           propertyText(event, ICAL_UID_PROPERTY).value_or("#" + std::to_string(index));
       ++index;
       Series& entry = series[uid];
-      if (icalcomponent_get_first_property(event, ICAL_RECURRENCEID_PROPERTY)) {
+      if (icalcomponent_get_first_property(event, ICAL_RECURRENCEID_PROPERTY) != nullptr) {
         entry.overrides.push_back(event);
       } else if (entry.master == nullptr) {
         entry.master = event;
@@ -321,7 +326,7 @@ class CalendarReader {
       const icaltimetype original =
           zoned(icalproperty_get_recurrenceid(recurrenceID), recurrenceID);
       const icaltimetype start = startOf(edit);
-      if (icaltime_is_null_time(original) || icaltime_is_null_time(start)) {
+      if ((icaltime_is_null_time(original) != 0) || (icaltime_is_null_time(start) != 0)) {
         ++document_.skippedComponents;
         continue;
       }
@@ -331,13 +336,14 @@ class CalendarReader {
     }
     if (series.master == nullptr) return;
     const icaltimetype start = startOf(series.master);
-    if (icaltime_is_null_time(start)) {
+    if (icaltime_is_null_time(start) != 0) {
       ++document_.skippedComponents;
       return;
     }
     const Length length = lengthOf(series.master, start);
-    const bool recurs = icalcomponent_get_first_property(series.master, ICAL_RRULE_PROPERTY) ||
-                        icalcomponent_get_first_property(series.master, ICAL_RDATE_PROPERTY);
+    const bool recurs =
+        (icalcomponent_get_first_property(series.master, ICAL_RRULE_PROPERTY) != nullptr) ||
+        (icalcomponent_get_first_property(series.master, ICAL_RDATE_PROPERTY) != nullptr);
     if (!recurs) {
       add(series.master, idFor(uid), start, length);
       return;
@@ -354,17 +360,17 @@ class CalendarReader {
     std::map<double, icaltimetype> found;
     // Anything starting before this cannot reach into the window; a day's slack for dates,
     // whose length in seconds depends on the clocks.
-    const double earliest =
-        options_.windowStart - length.seconds - 86400.0 * (length.days + (start.is_date ? 1 : 0));
-    for (icalproperty* p = icalcomponent_get_first_property(event, ICAL_RRULE_PROPERTY); p;
-         p = icalcomponent_get_next_property(event, ICAL_RRULE_PROPERTY)) {
+    const double earliest = options_.windowStart - length.seconds -
+                            (86400.0 * (length.days + ((start.is_date != 0) ? 1 : 0)));
+    for (icalproperty* p = icalcomponent_get_first_property(event, ICAL_RRULE_PROPERTY);
+         p != nullptr; p = icalcomponent_get_next_property(event, ICAL_RRULE_PROPERTY)) {
       expandRule(icalproperty_get_rrule(p), start, length, earliest, found);
     }
-    for (icalproperty* p = icalcomponent_get_first_property(event, ICAL_RDATE_PROPERTY); p;
-         p = icalcomponent_get_next_property(event, ICAL_RDATE_PROPERTY)) {
+    for (icalproperty* p = icalcomponent_get_first_property(event, ICAL_RDATE_PROPERTY);
+         p != nullptr; p = icalcomponent_get_next_property(event, ICAL_RDATE_PROPERTY)) {
       const icaldatetimeperiodtype date = icalproperty_get_rdate(p);
-      icaltimetype time = icaltime_is_null_time(date.time) ? date.period.start : date.time;
-      if (icaltime_is_null_time(time)) continue;
+      icaltimetype time = (icaltime_is_null_time(date.time) != 0) ? date.period.start : date.time;
+      if (icaltime_is_null_time(time) != 0) continue;
       time = zoned(time, p);
       const double key = seconds(time);
       if (found.size() >= ICalendarReader::maxOccurrencesPerEvent) {
@@ -373,10 +379,10 @@ class CalendarReader {
       }
       if (overlapsWindow(key, endOf(time, length))) found.emplace(key, time);
     }
-    for (icalproperty* p = icalcomponent_get_first_property(event, ICAL_EXDATE_PROPERTY); p;
-         p = icalcomponent_get_next_property(event, ICAL_EXDATE_PROPERTY)) {
+    for (icalproperty* p = icalcomponent_get_first_property(event, ICAL_EXDATE_PROPERTY);
+         p != nullptr; p = icalcomponent_get_next_property(event, ICAL_EXDATE_PROPERTY)) {
       const icaltimetype excluded = zoned(icalproperty_get_exdate(p), p);
-      if (!icaltime_is_null_time(excluded)) found.erase(seconds(excluded));
+      if (icaltime_is_null_time(excluded) == 0) found.erase(seconds(excluded));
     }
     return found;
   }
@@ -391,7 +397,7 @@ class CalendarReader {
     if (rule.count == 0 && earliest > seconds(start)) {
       const icaltimetype from = icaltime_from_timet_with_zone(
           static_cast<time_t>(earliest), start.is_date,
-          const_cast<icaltimezone*>(start.zone ? start.zone : local_));
+          const_cast<icaltimezone*>((start.zone != nullptr) ? start.zone : local_));
       icalrecur_iterator_set_start(iterator.get(), from);
     }
     for (std::size_t steps = 0;; ++steps) {
@@ -403,7 +409,7 @@ class CalendarReader {
       }
       icaltimetype next = icalrecur_iterator_next(iterator.get());
       ++stepsUsed_;
-      if (icaltime_is_null_time(next)) return;
+      if (icaltime_is_null_time(next) != 0) return;
       if (next.zone == nullptr) next.zone = start.zone;
       const double key = seconds(next);
       if (key >= options_.windowEnd) return;
@@ -415,27 +421,28 @@ class CalendarReader {
   void readToDos() {
     std::size_t index = 0;
     for (icalcomponent* todo = icalcomponent_get_first_component(calendar_, ICAL_VTODO_COMPONENT);
-         todo; todo = icalcomponent_get_next_component(calendar_, ICAL_VTODO_COMPONENT)) {
+         todo != nullptr;
+         todo = icalcomponent_get_next_component(calendar_, ICAL_VTODO_COMPONENT)) {
       const std::string uid =
           propertyText(todo, ICAL_UID_PROPERTY).value_or("#todo" + std::to_string(index));
       ++index;
       const icalproperty_status status = icalcomponent_get_status(todo);
       if (status == ICAL_STATUS_CANCELLED) continue;
-      if (icalcomponent_get_first_property(todo, ICAL_RECURRENCEID_PROPERTY)) continue;
+      if (icalcomponent_get_first_property(todo, ICAL_RECURRENCEID_PROPERTY) != nullptr) continue;
       ReminderItem item;
       item.id = idFor(uid);
       item.title = propertyText(todo, ICAL_SUMMARY_PROPERTY).value_or("");
       if (icalproperty* due = icalcomponent_get_first_property(todo, ICAL_DUE_PROPERTY)) {
         const icaltimetype time = zoned(icalproperty_get_due(due), due);
-        if (!icaltime_is_null_time(time)) {
+        if (icaltime_is_null_time(time) == 0) {
           item.due = seconds(time);
           item.dueIsDate = time.is_date != 0;
         }
       }
       icalproperty* percent = icalcomponent_get_first_property(todo, ICAL_PERCENTCOMPLETE_PROPERTY);
       item.isDone = status == ICAL_STATUS_COMPLETED ||
-                    icalcomponent_get_first_property(todo, ICAL_COMPLETED_PROPERTY) ||
-                    (percent && icalproperty_get_percentcomplete(percent) >= 100);
+                    (icalcomponent_get_first_property(todo, ICAL_COMPLETED_PROPERTY) != nullptr) ||
+                    ((percent != nullptr) && icalproperty_get_percentcomplete(percent) >= 100);
       item.calendarColor = document_.color ? document_.color : options_.color;
       document_.reminders.push_back(std::move(item));
     }
@@ -490,7 +497,7 @@ std::expected<ICalendarDocument, ICalendarError> ICalendarReader::read(
     bool any = false;
     for (icalcomponent* calendar =
              icalcomponent_get_first_component(root.get(), ICAL_VCALENDAR_COMPONENT);
-         calendar;
+         calendar != nullptr;
          calendar = icalcomponent_get_next_component(root.get(), ICAL_VCALENDAR_COMPONENT)) {
       reader.read(calendar);
       any = true;
