@@ -9,6 +9,7 @@
 #include "activity/activity_kind.h"
 #include "providers/accessory_view_model.h"
 #include "providers/battery_view_model.h"
+#include "providers/calendar_view_model.h"
 #include "providers/hud_view_model.h"
 #include "providers/now_playing_view_model.h"
 
@@ -39,8 +40,26 @@ TEST(ViewRegistryTest, EveryViewLoadsOnItsProvidersModelWithoutWarnings) {
   HudViewModel hud;
   hud.show(HUDState(HUDKind::volume, 0.5), HUDBarMotion::settle(), HUDBarStyle::ring,
            HUDTint::level);
-  const std::map<QString, QObject*> models{
-      {"media", &media}, {"battery", &battery}, {"hud", &hud}, {"accessories", &accessories}};
+  CalendarViewModel calendar([](const QString&) { return false; });
+  CalendarViewModel::State meeting;
+  meeting.enabled = meeting.featured = true;
+  meeting.title = "Review";
+  meeting.earText = "8 min";
+  meeting.joinService = "Zoom";
+  meeting.agenda = {QVariantMap{{"id", "a"},
+                                {"title", "Review"},
+                                {"time", "10:08–10:38"},
+                                {"status", "upcoming"},
+                                {"color", QColor(Qt::blue)},
+                                {"joinService", "Zoom"}}};
+  meeting.reminders = {
+      QVariantMap{{"title", "Slides"}, {"due", ""}, {"done", false}, {"color", QColor(Qt::blue)}}};
+  calendar.setState(meeting);
+  const std::map<QString, QObject*> models{{"media", &media},
+                                           {"battery", &battery},
+                                           {"hud", &hud},
+                                           {"accessories", &accessories},
+                                           {"calendar", &calendar}};
 
   std::vector<ViewRegistry::View> views = ViewRegistry::idleItems();
   for (const auto& section : ViewRegistry::sections()) {
