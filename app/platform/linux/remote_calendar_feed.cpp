@@ -39,6 +39,13 @@ RemoteCalendarFeed::RemoteCalendarFeed(CalendarSource source, ICalendarReadOptio
   connect(&next_, &QTimer::timeout, this, &RemoteCalendarFeed::fetch);
 }
 
+RemoteCalendarFeed::~RemoteCalendarFeed() {
+  if (!reply_) return;
+  reply_->disconnect(this);
+  reply_->abort();
+  reply_->deleteLater();
+}
+
 std::optional<QUrl> RemoteCalendarFeed::fetchedURL(const QString& location) {
   QUrl url(location.trimmed());
   const QString scheme = url.scheme().toLower();

@@ -32,6 +32,8 @@ class RemoteCalendarFeed final : public CalendarFeed {
   RemoteCalendarFeed(CalendarSource source, ICalendarReadOptions options,
                      QNetworkAccessManager& network, const QString& keptFolder, Clock now,
                      QObject* parent = nullptr);
+  // A fetch under way is dropped.
+  ~RemoteCalendarFeed() override;
 
   void start() override;
   // Fetches now, whatever the schedule.
