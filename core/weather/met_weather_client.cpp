@@ -95,7 +95,10 @@ void METWeatherClient::fetch(double latitude, double longitude,
                              std::optional<WeatherSnapshot> previous,
                              std::function<void(WeatherFetchResult)> completion) const {
   const GeoCoordinate coordinate = GeoCoordinate{latitude, longitude}.roundedToHundredths();
-  transport->send(request(latitude, longitude, previous),
+  // Built before the call: the order in which a call's arguments are made is unspecified, and the
+  // completion below takes `previous` away.
+  const HTTPRequest sent = request(latitude, longitude, previous);
+  transport->send(sent,
                   [coordinate, previous = std::move(previous), completion = std::move(completion)](
                       std::expected<HTTPResponse, HTTPTransportError> answer) {
                     completion(interpret(answer, coordinate, previous));

@@ -99,6 +99,18 @@ TEST(METWeatherClient, NewDocumentBecomesTheSnapshot) {
   EXPECT_EQ(updated->snapshot.lastModified, "Tue, 14 Nov 2023 22:00:00 GMT");
 }
 
+// The kept snapshot was once moved into the completion before the request was built from it, so
+// the request went out with an empty If-Modified-Since.
+TEST(METWeatherClient, FetchSendsTheKeptDateNotAnEmptyOne) {
+  const auto transport = std::make_shared<CannedTransport>(response(304, {}));
+  METWeatherClient weather = client();
+  weather.transport = transport;
+  weather.fetch(59.9139, 10.7522, keptSnapshot(), [](WeatherFetchResult) {});
+  ASSERT_EQ(transport->sent.size(), 1u);
+  EXPECT_EQ(headerValue(transport->sent[0].headers, "If-Modified-Since"),
+            "Tue, 14 Nov 2023 20:00:00 GMT");
+}
+
 TEST(METWeatherClient, NotModifiedRenewsTheKeptSnapshot) {
   const GeoCoordinate here{59.91, 10.75};
   const auto renewed = METWeatherClient::interpret(
