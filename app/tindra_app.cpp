@@ -2,6 +2,7 @@
 
 #include <QDateTime>
 #include <QDesktopServices>
+#include <QNetworkInformation>
 
 #include "activity_center.h"
 #include "diagnostics/diagnostics_log.h"
@@ -15,6 +16,7 @@
 #include "providers/calendar_provider.h"
 #include "providers/hud_provider.h"
 #include "providers/now_playing_provider.h"
+#include "providers/weather_provider.h"
 #include "settings/settings_store.h"
 #include "settings_file_watcher.h"
 #include "shell/shell_actions.h"
@@ -76,6 +78,12 @@ void TindraApp::startProviders() {
                                                  ? QString()
                                                  : calendar->travel().unavailableReason());
   providers_.push_back(std::move(calendar));
+  WeatherBackend weather = makeWeatherBackend(network_, secondsSince1970);
+  auto weatherProvider = std::make_unique<WeatherProvider>(
+      context, std::move(weather.location), std::move(weather.transport),
+      WeatherProvider::defaultPlaces(), secondsSince1970);
+  followNetwork(*weatherProvider);
+  providers_.push_back(std::move(weatherProvider));
   for (const auto& provider : providers_) {
     views_.setModel(provider->name(), provider->viewModel());
     provider->start();
@@ -85,6 +93,20 @@ void TindraApp::startProviders() {
   shell_->setHiddenSettings([battery](std::string_view name) {
     return !battery->available() && name.starts_with("battery");
   });
+}
+
+// No forecast request while the network is down, and one soon after it returns. Without a way
+// to know, the network counts as up and a failed request waits its ten minutes.
+void TindraApp::followNetwork(WeatherProvider& weather) {
+  if (!QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability)) {
+    return;
+  }
+  QNetworkInformation* network = QNetworkInformation::instance();
+  const auto follow = [&weather](QNetworkInformation::Reachability reachability) {
+    weather.setOnline(reachability != QNetworkInformation::Reachability::Disconnected);
+  };
+  follow(network->reachability());
+  connect(network, &QNetworkInformation::reachabilityChanged, &weather, follow);
 }
 
 Provider* TindraApp::provider(const QString& name) const {

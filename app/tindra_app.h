@@ -5,6 +5,7 @@
 #pragma once
 
 #include <QMenu>
+#include <QNetworkAccessManager>
 #include <QObject>
 #include <memory>
 #include <vector>
@@ -24,6 +25,7 @@ class SettingsFileWatcher;
 class SettingsStore;
 class ShellActions;
 class TrayItem;
+class WeatherProvider;
 
 class TindraApp : public QObject {
   Q_OBJECT
@@ -49,8 +51,10 @@ class TindraApp : public QObject {
   QMenu* notchMenu() const;
   void offerMenuOnNotches();
   void startProviders();
+  void followNetwork(WeatherProvider& weather);
 
   Options options_;
+  QNetworkAccessManager network_;  // the forecast's; before the providers that use it
   std::unique_ptr<SettingsStore> settings_;
   std::unique_ptr<SettingsFileWatcher> watcher_;
   std::unique_ptr<ActivityCenter> activities_;

@@ -2,17 +2,20 @@
 // provider, else the platform's real one, else a do-nothing one that says why it is there.
 #pragma once
 
+#include <QNetworkAccessManager>
 #include <memory>
 
 #include "platform/accessory_backend.h"
 #include "platform/adapter_probe.h"
 #include "platform/battery_backend.h"
 #include "platform/calendar_backend.h"
+#include "platform/location_source.h"
 #include "platform/process_tap_session.h"
 #include "platform/sound_player.h"
 #include "platform/travel_time_estimator.h"
 #include "providers/hud_provider.h"
 #include "providers/now_playing_provider.h"
+#include "weather/http_transport.h"
 
 namespace tindra {
 
@@ -23,6 +26,14 @@ std::unique_ptr<AccessoryBackend> makeAccessoryBackend();
 std::unique_ptr<CalendarBackend> makeCalendarBackend(const std::function<double()>& now);
 // Travel times for the departure advice; this platform has no routing service yet.
 std::unique_ptr<TravelTimeEstimator> makeTravelTimeEstimator();
+// The weather's position (GeoClue; the invented one for the fake) and the forecast service's
+// transport over `network`.
+struct WeatherBackend {
+  std::unique_ptr<LocationSource> location;
+  std::shared_ptr<HTTPTransport> transport;
+};
+WeatherBackend makeWeatherBackend(QNetworkAccessManager& network,
+                                  const std::function<double()>& now);
 // The notice sounds, one player for every provider; none where nothing can play them.
 std::shared_ptr<SoundPlayer> makeSoundPlayer();
 // The indicator's output volume, display and keyboard lights, and keys. The keys are never

@@ -31,11 +31,11 @@ class NotchContentTest : public ::testing::Test {
 TEST_F(NotchContentTest, PinnedSectionsComeInTheirOrderAndUnknownNamesAreSkipped) {
   // The level indicator's section comes first and whatever is pinned.
   EXPECT_EQ(NotchContent::shownSections({}),
-            (QStringList{"hud", "media", "calendar", "batteries"}));
+            (QStringList{"hud", "media", "calendar", "weather", "batteries"}));
   EXPECT_EQ(NotchContent::shownSections({"batteries", "weather?", "media", "batteries", "hud"}),
             (QStringList{"hud", "batteries", "media"}));
   EXPECT_EQ(NotchContent::shownSections({"nonsense"}),
-            (QStringList{"hud", "media", "calendar", "batteries"}));
+            (QStringList{"hud", "media", "calendar", "weather", "batteries"}));
 
   // Only sections whose provider runs are drawn.
   EXPECT_TRUE(content_.sections().isEmpty());

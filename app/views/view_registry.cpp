@@ -11,11 +11,12 @@ QUrl view(const char* file) {
 }  // namespace
 
 const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
-  // The weather and file tray sections join here as their providers arrive.
+  // The file tray's section joins here when its provider arrives.
   static const std::vector<Section> all{
       {QStringLiteral("hud"), {{QStringLiteral("hud"), view("HudPanel.qml")}}, true},
       {QStringLiteral("media"), {{QStringLiteral("media"), view("MediaPanel.qml")}}},
       {QStringLiteral("calendar"), {{QStringLiteral("calendar"), view("CalendarPanel.qml")}}},
+      {QStringLiteral("weather"), {{QStringLiteral("weather"), view("WeatherPanel.qml")}}},
       {QStringLiteral("batteries"),
        {{QStringLiteral("battery"), view("BatteriesPanel.qml")},
         {QStringLiteral("accessories"), view("AccessoriesPanel.qml")}}},
@@ -24,7 +25,8 @@ const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
 }
 
 const std::vector<ViewRegistry::View>& ViewRegistry::idleItems() {
-  static const std::vector<View> all{{QStringLiteral("battery"), view("BatteryIdleItem.qml")}};
+  static const std::vector<View> all{{QStringLiteral("battery"), view("BatteryIdleItem.qml")},
+                                     {QStringLiteral("weather"), view("WeatherIdleItem.qml")}};
   return all;
 }
 

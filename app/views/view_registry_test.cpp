@@ -12,6 +12,7 @@
 #include "providers/calendar_view_model.h"
 #include "providers/hud_view_model.h"
 #include "providers/now_playing_view_model.h"
+#include "providers/weather_view_model.h"
 
 void qml_register_types_Tindra();
 
@@ -55,11 +56,12 @@ TEST(ViewRegistryTest, EveryViewLoadsOnItsProvidersModelWithoutWarnings) {
   meeting.reminders = {
       QVariantMap{{"title", "Slides"}, {"due", ""}, {"done", false}, {"color", QColor(Qt::blue)}}};
   calendar.setState(meeting);
-  const std::map<QString, QObject*> models{{"media", &media},
-                                           {"battery", &battery},
-                                           {"hud", &hud},
-                                           {"accessories", &accessories},
-                                           {"calendar", &calendar}};
+  WeatherViewModel weather;
+  weather.setState({true, true, "7 °C", "Partly cloudy", "cloud.sun.rain.fill",
+                    "10 % chance of precipitation", "Sunset 16:42", "GeoClue", ""});
+  const std::map<QString, QObject*> models{{"media", &media},       {"battery", &battery},
+                                           {"hud", &hud},           {"accessories", &accessories},
+                                           {"calendar", &calendar}, {"weather", &weather}};
 
   std::vector<ViewRegistry::View> views = ViewRegistry::idleItems();
   for (const auto& section : ViewRegistry::sections()) {

@@ -11,8 +11,10 @@
 #include "platform/fake/fake_calendar_backend.h"
 #include "platform/fake/fake_now_playing_source.h"
 #include "platform/fake/fake_volume_backend.h"
+#include "platform/fake/fake_weather.h"
 #include "platform/fake/offline_artwork_fetcher.h"
 #include "platform/linux/bluez_accessory_backend.h"
+#include "platform/linux/geoclue_location_source.h"
 #include "platform/linux/icalendar_backend.h"
 #include "platform/linux/pulse_process_tap_session.h"
 #include "platform/linux/pulse_sound_player.h"
@@ -25,6 +27,7 @@
 #include "platform/null_battery_backend.h"
 #include "platform/null_media_key_source.h"
 #include "platform/platform_adapter_launch.h"
+#include "platform/qt_http_transport.h"
 
 namespace tindra {
 
@@ -76,6 +79,15 @@ std::unique_ptr<CalendarBackend> makeCalendarBackend(const std::function<double(
     return std::make_unique<FakeCalendarBackend>(now());
   }
   return std::make_unique<ICalendarBackend>(ICalendarBackend::defaultPlaces(), now);
+}
+
+WeatherBackend makeWeatherBackend(QNetworkAccessManager& network,
+                                  const std::function<double()>& now) {
+  if (fakeBackendRequested(QStringLiteral("weather"))) {
+    return {std::make_unique<FakeLocationSource>(), std::make_shared<FakeForecastTransport>(now)};
+  }
+  return {std::make_unique<GeoClueLocationSource>(QDBusConnection::systemBus()),
+          std::make_shared<QtHTTPTransport>(network, now)};
 }
 
 std::unique_ptr<TravelTimeEstimator> makeTravelTimeEstimator() {
