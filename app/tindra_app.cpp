@@ -83,6 +83,7 @@ void TindraApp::startProviders() {
       context, std::move(weather.location), std::move(weather.transport),
       WeatherProvider::defaultPlaces(), secondsSince1970);
   followNetwork(*weatherProvider);
+  shell_->setWeather(weatherProvider.get());
   providers_.push_back(std::move(weatherProvider));
   for (const auto& provider : providers_) {
     views_.setModel(provider->name(), provider->viewModel());

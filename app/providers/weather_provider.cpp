@@ -202,6 +202,12 @@ std::optional<WeatherProvider::Position> WeatherProvider::position() const {
   return std::nullopt;
 }
 
+ZoneTable WeatherProvider::cities() const {
+  std::string all;
+  for (const std::string& table : places_.zoneTables) all += fileText(table) + "\n";
+  return ZoneTable::parse(all);
+}
+
 QString WeatherProvider::positionSource() const {
   const auto where = position();
   return where ? where->source : tr("none yet");
@@ -259,6 +265,10 @@ void WeatherProvider::update() {
       WeatherRefreshPolicy::shouldRefresh(snapshot_, lastAttempt_, now, where->coordinate.latitude,
                                           where->coordinate.longitude)) {
     fetch(where->coordinate);
+    // Answered at once (a transport that does not wait): the update that came with the answer
+    // drew it, with a clock read after it; drawing again with `now` would see a snapshot from
+    // the future, and no snapshot from the future is fresh.
+    if (!fetching_) return;
   }
   viewModel_.setState(state(now));
   aim(now);

@@ -50,6 +50,8 @@ class WeatherProvider final : public Provider {
   const WeatherPreferences& preferences() const { return preferences_; }
   // Saves and applies new preferences; the reason when they cannot be saved.
   std::optional<QString> setPreferences(WeatherPreferences preferences);
+  // Every city of the system's zone tables, to pick a place from.
+  ZoneTable cities() const;
   // Where the position comes from now, in words, for the settings.
   QString positionSource() const;
   // The network went down or came back.

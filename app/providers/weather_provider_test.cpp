@@ -27,9 +27,12 @@ std::string forecastDocument() {
 struct CannedForecast final : HTTPTransport {
   void send(const HTTPRequest& request, Completion completion) override {
     requests.push_back(request);
-    completion(answer);
+    auto stamped = answer;
+    if (stamped && stamp) stamped->receivedAt = stamp();
+    completion(stamped);
   }
   std::expected<HTTPResponse, HTTPTransportError> answer;
+  std::function<double()> stamp;  // when set, the clock read as the answer arrives
   std::vector<HTTPRequest> requests;
 };
 
@@ -174,6 +177,23 @@ TEST_F(WeatherProviderTest, ThePositionComesFromTheUserThenGeoClueThenTheTimeZon
   EXPECT_TRUE(transport_->requests[1].url.ends_with("?lat=69.65&lon=18.96"));
   EXPECT_EQ(std::string(*headerValue(transport_->requests[1].headers, "User-Agent")),
             "Tindra/" TINDRA_VERSION " (+" TINDRA_WEB_ADDRESS "; me@example.org)");
+}
+
+// The answer came back inside the request (as the invented forecast does) and the update that
+// asked drew again with the clock read before it: the snapshot was from its future, so never
+// fresh, and the weather never showed.
+TEST_F(WeatherProviderTest, AnAnswerThatComesAtOnceIsShownWhenTheClockMovesOn) {
+  (void)settings_.write(settings::weatherEnabled, true);
+  auto location = std::make_unique<SetLocation>();
+  location->position = GeoCoordinate{59.91, 10.75};
+  double ticking = lateEvening;
+  WeatherProvider weather(
+      {activities_, settings_, diagnostics_}, std::move(location), transport_,
+      {dir_.filePath("s.json").toStdString(), dir_.filePath("w.json").toStdString(), {}, ""},
+      [&ticking] { return ticking += 0.001; });
+  transport_->stamp = [&ticking] { return ticking += 0.001; };
+  weather.start();
+  EXPECT_TRUE(weather.viewModel()->available());
 }
 
 TEST_F(WeatherProviderTest, ViewsDrawTheWeatherByDayAndByNight) {

@@ -107,8 +107,13 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
       {900, [this] { shoot(QStringLiteral("6-closed-paused.png")); }},
       {0, [&activities] { activities.reset(); }},
       {600, [this] { shoot(QStringLiteral("7-closed-after-reset.png")); }},
-      // The invented calendars: a design review with a Zoom link eight minutes away.
-      {0, [this] { (void)app_.settings().write(settings::calendarEnabled, true); }},
+      // The invented calendars (a design review with a Zoom link eight minutes away) and the
+      // invented weather.
+      {0,
+       [this] {
+         (void)app_.settings().write(settings::calendarEnabled, true);
+         (void)app_.settings().write(settings::weatherEnabled, true);
+       }},
       {700, [this] { shoot(QStringLiteral("8-closed-meeting.png")); }},
       {0, [pointerTo] { pointerTo(true); }},
       {900, [this] { shoot(QStringLiteral("9-opened-meeting.png")); }},

@@ -6,6 +6,7 @@
 #include "settings/settings_keys.h"
 #include "shell/calendar_list_editor.h"
 #include "shell/settings_window.h"
+#include "shell/weather_settings_editor.h"
 
 namespace tindra {
 
@@ -44,6 +45,10 @@ void ShellActions::openSettings() {
     if (calendars_ != nullptr) {
       settingsWindow_->setExtra(settings::calendarExcludedIdentifiers.name,
                                 new CalendarListEditor(*calendars_, settings_));
+    }
+    if (weather_ != nullptr) {
+      settingsWindow_->setExtra(settings::weatherEnabled.name,
+                                new WeatherSettingsEditor(*weather_, weather_->cities()));
     }
     if (!travelUnavailable_.isEmpty()) {
       auto* note = new QLabel(travelUnavailable_);

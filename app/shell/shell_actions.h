@@ -14,6 +14,7 @@
 namespace tindra {
 
 class DiagnosticsLog;
+class WeatherProvider;
 class SettingsStore;
 
 class ShellActions : public QObject {
@@ -41,6 +42,8 @@ class ShellActions : public QObject {
     calendars_ = calendars;
     travelUnavailable_ = std::move(travelUnavailable);
   }
+  // The weather's own settings, under weatherEnabled.
+  void setWeather(WeatherProvider* weather) { weather_ = weather; }
   SettingsWindow* settingsWindow() const { return settingsWindow_; }
   // A check the Diagnostics window offers as a button; add before it is first opened.
   void addCheck(DiagnosticsWindow::Check check) { checks_.push_back(std::move(check)); }
@@ -60,6 +63,7 @@ class ShellActions : public QObject {
   std::function<bool(std::string_view)> hiddenSettings_;
   CalendarBackend* calendars_ = nullptr;
   QString travelUnavailable_;
+  WeatherProvider* weather_ = nullptr;
 };
 
 }  // namespace tindra
