@@ -2,9 +2,11 @@
 
 #include <unicode/timezone.h>
 
+#include <QDateTime>
 #include <QFile>
 #include <QLocale>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QStandardPaths>
 #include <QTimeZone>
 #include <algorithm>
@@ -111,6 +113,37 @@ QString sunText(const SunTimes::Moment& moment) {
   return QObject::tr("Polar night");
 }
 
+// Sees each new forecast on its way to the client and reads its temperatures, which the
+// snapshot does not keep.
+class CourseReader final : public HTTPTransport {
+ public:
+  using Read = std::function<void(TemperatureCourse)>;
+  CourseReader(std::shared_ptr<HTTPTransport> inner, Read read)
+      : inner_(std::move(inner)), read_(std::move(read)) {}
+  void send(const HTTPRequest& request, Completion completion) override {
+    inner_->send(request, [read = read_, completion = std::move(completion)](
+                              std::expected<HTTPResponse, HTTPTransportError> answer) {
+      if (answer && answer->status == 200) {
+        if (const auto document = METForecastParser::decode(answer->body)) {
+          read(TemperatureCourse::of(*document));
+        }
+      }
+      completion(std::move(answer));
+    });
+  }
+
+ private:
+  std::shared_ptr<HTTPTransport> inner_;
+  Read read_;
+};
+
+// Today in the local calendar, as seconds since 1970.
+std::pair<double, double> localDay(double now) {
+  const QDate date = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(now * 1000)).date();
+  return {static_cast<double>(date.startOfDay().toSecsSinceEpoch()),
+          static_cast<double>(date.addDays(1).startOfDay().toSecsSinceEpoch())};
+}
+
 std::string fileText(const std::string& path) {
   QFile file(QString::fromStdString(path));
   if (!file.open(QIODevice::ReadOnly)) return {};
@@ -137,7 +170,11 @@ WeatherProvider::WeatherProvider(ProviderContext context,
       now_(std::move(now)),
       kept_(places_.snapshot),
       preferencesFile_(places_.preferences) {
-  client_.transport = std::move(transport);
+  QPointer<WeatherProvider> self(this);
+  client_.transport =
+      std::make_shared<CourseReader>(std::move(transport), [self](TemperatureCourse course) {
+        if (self) self->arriving_ = std::move(course);
+      });
   locationService_->setParent(nullptr);  // owned here, not by the Qt tree
   timer_.setSingleShot(true);
   connect(&timer_, &QTimer::timeout, this, &WeatherProvider::update);
@@ -238,6 +275,8 @@ void WeatherProvider::loadKept() {
   if (const JSONValue* snapshot = value->find("snapshot")) {
     snapshot_ = weatherSnapshotFromJSON(*snapshot);
   }
+  if (const JSONValue* course = value->find("course"))
+    course_ = TemperatureCourse::fromJSON(*course);
   const JSONValue* attempt = value->find("lastAttempt");
   if (attempt != nullptr && attempt->asNumber() != nullptr) lastAttempt_ = *attempt->asNumber();
 }
@@ -246,6 +285,7 @@ void WeatherProvider::saveKept() const {
   JSONValue::Object kept;
   if (snapshot_) kept["snapshot"] = toJSON(*snapshot_);
   if (lastAttempt_) kept["lastAttempt"] = *lastAttempt_;
+  kept["course"] = course_.toJSON();
   if (const auto saved = kept_.write(JSONWriter::write(kept)); !saved) {
     qCWarning(lcWeather).noquote() << toQString(saved.error().message(kept_.url()));
   }
@@ -290,8 +330,10 @@ void WeatherProvider::fetch(const GeoCoordinate& coordinate) {
 
 void WeatherProvider::received(const WeatherFetchResult& result) {
   fetching_ = false;
+  const auto takeArriving = qScopeGuard([this] { arriving_.reset(); });
   if (const auto* updated = std::get_if<WeatherFetchResult::Updated>(&result.value)) {
     snapshot_ = updated->snapshot;
+    course_ = arriving_.value_or(TemperatureCourse{});
     lastFailure_.reset();
   } else if (const auto* kept = std::get_if<WeatherFetchResult::NotModified>(&result.value)) {
     snapshot_ = kept->snapshot;
@@ -321,6 +363,12 @@ WeatherViewModel::State WeatherProvider::state(double now) const {
   state.condition = conditionText(snapshot_->condition);
   state.symbol = toQString(symbolName(snapshot_->condition, snapshot_->isNight));
   state.precipitation = precipitationText(PrecipitationSummary::of(*snapshot_));
+  const auto [dayStart, dayEnd] = localDay(now);
+  if (const auto range = course_.range(dayStart, dayEnd)) {
+    state.highLow = tr("High %1 · Low %2")
+                        .arg(temperatureText(range->high, preferences_.unit),
+                             temperatureText(range->low, preferences_.unit));
+  }
   if (const auto sun = nextSun(snapshot_->coordinate, now)) state.sun = sunText(*sun);
   return state;
 }

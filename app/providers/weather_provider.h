@@ -20,6 +20,7 @@
 #include "settings/durable_file.h"
 #include "settings/settings_store.h"
 #include "weather/met_weather_client.h"
+#include "weather/temperature_course.h"
 #include "weather/weather_preferences.h"
 #include "weather/zone_table.h"
 
@@ -85,6 +86,8 @@ class WeatherProvider final : public Provider {
   WeatherPreferences preferences_;
   ZoneTable zones_;
   std::optional<WeatherSnapshot> snapshot_;
+  TemperatureCourse course_;                   // of the document the snapshot came from
+  std::optional<TemperatureCourse> arriving_;  // of the answer on its way to the client
   std::optional<double> lastAttempt_;
   std::optional<WeatherFetchFailure> lastFailure_;
   bool fetching_ = false;

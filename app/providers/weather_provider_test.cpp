@@ -111,6 +111,8 @@ TEST_F(WeatherProviderTest, ShowsTheWeatherOnFirstRunAndARestartWithinExpiresAsk
   EXPECT_FALSE(view.condition().isEmpty());
   EXPECT_TRUE(view.place().contains("Europe/Oslo"));
   EXPECT_TRUE(view.sun().startsWith("Sunrise")) << "late in the evening, the sun rises next";
+  const QString highLow = view.highLow();
+  EXPECT_TRUE(highLow.startsWith("High ")) << highLow.toStdString();
   // The next look is the snapshot's Expires, an hour on.
   EXPECT_EQ(weather->nextLook(), lateEvening + 3600);
 
@@ -118,6 +120,7 @@ TEST_F(WeatherProviderTest, ShowsTheWeatherOnFirstRunAndARestartWithinExpiresAsk
   weather = makeProvider();
   EXPECT_EQ(transport_->requests.size(), 1U) << "the kept snapshot is still good";
   EXPECT_TRUE(weather->viewModel()->available());
+  EXPECT_EQ(weather->viewModel()->highLow(), highLow) << "the course is kept too";
   advanceTo(*weather, lateEvening + 3600);
   EXPECT_EQ(transport_->requests.size(), 2U);
   EXPECT_EQ(transport_->requests[1].headers.back().second, "Thu, 19 May 2022 22:00:00 GMT")

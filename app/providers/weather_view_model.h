@@ -18,6 +18,8 @@ class WeatherViewModel : public QObject {
   // The symbol's name ("cloud.sun.fill", "moon.stars.fill", ...), drawn by WeatherSymbol.
   Q_PROPERTY(QString symbol READ symbol NOTIFY changed)
   Q_PROPERTY(QString precipitation READ precipitation NOTIFY changed)
+  // "High 19 °C · Low 9 °C" for today; empty when the forecast does not cover it.
+  Q_PROPERTY(QString highLow READ highLow NOTIFY changed)
   Q_PROPERTY(QString sun READ sun NOTIFY changed)
   Q_PROPERTY(QString place READ place NOTIFY changed)
   // Shown instead of the weather while `available` is false.
@@ -32,6 +34,7 @@ class WeatherViewModel : public QObject {
     QString condition;
     QString symbol;
     QString precipitation;
+    QString highLow;
     QString sun;
     QString place;
     QString unavailable;
@@ -46,6 +49,7 @@ class WeatherViewModel : public QObject {
   QString condition() const { return state_.condition; }
   QString symbol() const { return state_.symbol; }
   QString precipitation() const { return state_.precipitation; }
+  QString highLow() const { return state_.highLow; }
   QString sun() const { return state_.sun; }
   QString place() const { return state_.place; }
   QString unavailable() const { return state_.unavailable; }

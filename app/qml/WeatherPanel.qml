@@ -50,6 +50,12 @@ Column {
     }
     Text {
         visible: root.model !== undefined && root.model.available && text !== ""
+        text: root.model ? root.model.highLow : ""
+        color: "white"
+        font.pixelSize: 12
+    }
+    Text {
+        visible: root.model !== undefined && root.model.available && text !== ""
         text: root.model ? root.model.sun : ""
         color: "#ffd60a"
         font.pixelSize: 12

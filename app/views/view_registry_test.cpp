@@ -58,7 +58,8 @@ TEST(ViewRegistryTest, EveryViewLoadsOnItsProvidersModelWithoutWarnings) {
   calendar.setState(meeting);
   WeatherViewModel weather;
   weather.setState({true, true, "7 °C", "Partly cloudy", "cloud.sun.rain.fill",
-                    "10 % chance of precipitation", "Sunset 16:42", "GeoClue", ""});
+                    "10 % chance of precipitation", "High 9 °C · Low 2 °C", "Sunset 16:42",
+                    "GeoClue", ""});
   const std::map<QString, QObject*> models{{"media", &media},       {"battery", &battery},
                                            {"hud", &hud},           {"accessories", &accessories},
                                            {"calendar", &calendar}, {"weather", &weather}};
