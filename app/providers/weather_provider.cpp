@@ -199,9 +199,7 @@ void WeatherProvider::enabledChanged() {
   if (settings().read(settings::weatherEnabled) && !serviceStarted_) {
     serviceStarted_ = true;
     loadKept();
-    for (const std::string& table : places_.zoneTables) {
-      if (!zones_.city(places_.timeZone)) zones_ = ZoneTable::parse(fileText(table));
-    }
+    zones_ = cities();
     locationService_->start();
   }
   recordCheck();
@@ -235,6 +233,16 @@ std::optional<WeatherProvider::Position> WeatherProvider::position() const {
   }
   if (const auto city = zones_.city(places_.timeZone)) {
     return Position{*city, tr("the time zone %1").arg(toQString(places_.timeZone))};
+  }
+  // An older name of the zone ("Asia/Calcutta") is listed under its current one, one of the
+  // names ICU knows as the same zone.
+  const icu::UnicodeString zone = icu::UnicodeString::fromUTF8(places_.timeZone);
+  for (int32_t i = 0; i < icu::TimeZone::countEquivalentIDs(zone); ++i) {
+    std::string other;
+    icu::TimeZone::getEquivalentID(zone, i).toUTF8String(other);
+    if (const auto city = zones_.city(other)) {
+      return Position{*city, tr("the time zone %1").arg(toQString(places_.timeZone))};
+    }
   }
   return std::nullopt;
 }

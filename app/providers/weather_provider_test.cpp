@@ -49,7 +49,7 @@ class WeatherProviderTest : public ::testing::Test {
   WeatherProviderTest() {
     QFile zones(dir_.filePath("zone.tab"));
     EXPECT_TRUE(zones.open(QIODevice::WriteOnly));
-    zones.write("NO\t+5955+01045\tEurope/Oslo\n");
+    zones.write("NO\t+5955+01045\tEurope/Oslo\nIN\t+2232+08822\tAsia/Kolkata\n");
     zones.close();
     ok(lateEvening + 3600);
   }
@@ -155,6 +155,10 @@ TEST_F(WeatherProviderTest, FailuresKeepTheSnapshotAndNothingIsAskedWhileOffline
 
 TEST_F(WeatherProviderTest, ThePositionComesFromTheUserThenGeoClueThenTheTimeZone) {
   (void)settings_.write(settings::weatherEnabled, true);
+  EXPECT_EQ(makeProvider("Asia/Calcutta")->positionSource(), "the time zone Asia/Calcutta")
+      << "an old name of a listed zone";
+  transport_->requests.clear();
+  QFile::remove(dir_.filePath("data/weather-snapshot.json"));
   auto nowhere = makeProvider("Etc/Nowhere");
   EXPECT_TRUE(transport_->requests.empty());
   EXPECT_EQ(nowhere->viewModel()->unavailable(), "Waiting for location access");
