@@ -109,9 +109,38 @@ void ICalendarBackend::loadList() {
     return;
   }
   added_ = strings(*list, "calendars");
-  owners_ = strings(*list, "ownerAddresses");
+  takeOwners(strings(*list, "ownerAddresses"));
+}
+
+void ICalendarBackend::takeOwners(const QStringList& owners) {
+  owners_ = owners;
   options_.ownerAddresses.clear();
   for (const QString& owner : owners_) options_.ownerAddresses.push_back(owner.toStdString());
+}
+
+// Evolution's files that exist, then the user's, in the order they are listed.
+std::vector<CalendarSource> ICalendarBackend::listed() const {
+  std::vector<CalendarSource> sources;
+  const auto list = [&](const QString& location, bool removable) {
+    CalendarSource source;
+    source.id = idFor(location);
+    source.name =
+        isAddress(location) ? QUrl(location).host() : QFileInfo(location).completeBaseName();
+    source.location = location;
+    source.removable = removable;
+    sources.push_back(std::move(source));
+  };
+  for (const QString& found : places_.found) {
+    if (QFileInfo::exists(found)) list(found, false);
+  }
+  for (const QString& location : added_) list(location, true);
+  return sources;
+}
+
+ICalendarReadOptions ICalendarBackend::optionsFor(std::size_t index) const {
+  ICalendarReadOptions options = options_;
+  options.color = palette[index % palette.size()];
+  return options;
 }
 
 std::optional<QString> ICalendarBackend::saveList() {
@@ -126,11 +155,9 @@ std::optional<QString> ICalendarBackend::saveList() {
 
 void ICalendarBackend::makeFeeds() {
   feeds_.clear();
-  int index = 0;
-  for (const QString& found : places_.found) {
-    if (QFileInfo::exists(found)) feeds_.push_back(makeFeed(found, false, index++));
+  for (CalendarSource& source : listed()) {
+    feeds_.push_back(makeFeed(std::move(source), optionsFor(feeds_.size())));
   }
-  for (const QString& location : added_) feeds_.push_back(makeFeed(location, true, index++));
   for (const auto& feed : feeds_) {
     connect(feed.get(), &CalendarFeed::changed, this, [this] {
       updateCheck();
@@ -142,20 +169,12 @@ void ICalendarBackend::makeFeeds() {
   emit changed();
 }
 
-std::unique_ptr<CalendarFeed> ICalendarBackend::makeFeed(const QString& location, bool removable,
-                                                         int index) {
-  CalendarSource source;
-  source.id = idFor(location);
-  source.location = location;
-  source.removable = removable;
-  ICalendarReadOptions options = options_;
-  options.color = palette[static_cast<std::size_t>(index) % palette.size()];
-  if (isAddress(location)) {
-    source.name = QUrl(location).host();
+std::unique_ptr<CalendarFeed> ICalendarBackend::makeFeed(CalendarSource source,
+                                                         ICalendarReadOptions options) {
+  if (isAddress(source.location)) {
     return std::make_unique<RemoteCalendarFeed>(std::move(source), std::move(options), network_,
                                                 places_.kept, now_);
   }
-  source.name = QFileInfo(location).completeBaseName();
   return std::make_unique<LocalCalendarFeed>(std::move(source), std::move(options));
 }
 
@@ -168,19 +187,13 @@ void ICalendarBackend::setWindow(double start, double end) {
 
 void ICalendarBackend::setOwnerAddresses(const QStringList& addresses) {
   if (addresses == owners_) return;
-  owners_ = addresses;
-  options_.ownerAddresses.clear();
-  for (const QString& owner : owners_) options_.ownerAddresses.push_back(owner.toStdString());
+  takeOwners(addresses);
   if (const auto problem = saveList()) listProblem_ = *problem;
   readOptionsChanged();
 }
 
 void ICalendarBackend::readOptionsChanged() {
-  for (std::size_t i = 0; i < feeds_.size(); ++i) {
-    ICalendarReadOptions options = options_;
-    options.color = palette[i % palette.size()];
-    feeds_[i]->setReadOptions(std::move(options));
-  }
+  for (std::size_t i = 0; i < feeds_.size(); ++i) feeds_[i]->setReadOptions(optionsFor(i));
 }
 
 std::vector<CalendarContents> ICalendarBackend::calendars() const {
@@ -194,21 +207,10 @@ std::vector<CalendarContents> ICalendarBackend::calendars() const {
 // Before the start nothing is read: the calendars as listed, without their events.
 std::vector<CalendarContents> ICalendarBackend::listedOnly() const {
   std::vector<CalendarContents> all;
-  const auto list = [&](const QString& location, bool removable) {
-    CalendarContents contents;
-    contents.source = {
-        idFor(location),
-        isAddress(location) ? QUrl(location).host() : QFileInfo(location).completeBaseName(),
-        location,
-        std::nullopt,
-        {DiagnosticsLog::Outcome::degraded, tr("not read while the calendar is off")},
-        removable};
-    all.push_back(std::move(contents));
-  };
-  for (const QString& found : places_.found) {
-    if (QFileInfo::exists(found)) list(found, false);
+  for (CalendarSource& source : listed()) {
+    source.state = {DiagnosticsLog::Outcome::degraded, tr("not read while the calendar is off")};
+    all.push_back({std::move(source), {}, {}});
   }
-  for (const QString& location : added_) list(location, true);
   return all;
 }
 

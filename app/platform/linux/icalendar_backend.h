@@ -46,10 +46,13 @@ class ICalendarBackend final : public CalendarBackend {
 
  private:
   void loadList();
+  void takeOwners(const QStringList& owners);
+  std::vector<CalendarSource> listed() const;
   std::vector<CalendarContents> listedOnly() const;
+  ICalendarReadOptions optionsFor(std::size_t index) const;
   std::optional<QString> saveList();
   void makeFeeds();
-  std::unique_ptr<CalendarFeed> makeFeed(const QString& location, bool removable, int index);
+  std::unique_ptr<CalendarFeed> makeFeed(CalendarSource source, ICalendarReadOptions options);
   void readOptionsChanged();
   void updateCheck();
 

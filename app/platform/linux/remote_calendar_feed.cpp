@@ -129,20 +129,21 @@ void RemoteCalendarFeed::onFinished(QNetworkReply* reply) {
   }
   const QByteArray body = reply->readAll();
   clearProblem();
-  if (!accept({body.toStdString()})) {
-    ++failures_;
-    schedule(std::min(refreshEvery(), firstRetry * std::pow(2.0, failures_ - 1)));
-    return;
-  }
+  if (!accept({body.toStdString()})) return retryLater();
   keep(body, *reply);
   failures_ = 0;
   schedule(refreshEvery());
 }
 
 void RemoteCalendarFeed::failed(const QString& reason) {
-  ++failures_;
   setProblem(DiagnosticsLog::Outcome::degraded,
              tr("could not fetch %1 (%2)").arg(url_.host(), reason));
+  retryLater();
+}
+
+// After 1, 2, 4… minutes, never later than the next regular fetch.
+void RemoteCalendarFeed::retryLater() {
+  ++failures_;
   schedule(std::min(refreshEvery(), firstRetry * std::pow(2.0, std::min(failures_, 16) - 1)));
 }
 

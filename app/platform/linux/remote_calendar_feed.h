@@ -48,6 +48,7 @@ class RemoteCalendarFeed final : public CalendarFeed {
   void loadKept();
   void onFinished(QNetworkReply* reply);
   void failed(const QString& reason);
+  void retryLater();
   void keep(const QByteArray& body, const QNetworkReply& reply);
   void saveValidators() const;
   void schedule(double seconds);
