@@ -234,12 +234,16 @@ CalendarViewModel::State CalendarProvider::state(const Shown& shown, double now,
     state.started = started;
     state.joinService = serviceOf(event);
   }
+  leaveAt_.reset();
   if (const auto next = departureEvent(shown.events, now)) {
     const auto travelTime = travelTimes_.find(next->id);
     if (travelTime != travelTimes_.end()) {
       const auto plan = DepartureAdvisor::plan(next->start, travelTime->second,
                                                settings().read(settings::travelBufferMinutes));
-      if (plan) state.departure = CalendarTexts::departure(DepartureAdvisor::advice(*plan, now));
+      if (plan) {
+        leaveAt_ = plan->leaveAt;
+        state.departure = CalendarTexts::departure(DepartureAdvisor::advice(*plan, now));
+      }
     }
   }
   for (const TodayAgenda::Entry& entry : TodayAgenda::entries(shown.events, now, *calendar_)) {
@@ -297,16 +301,7 @@ void CalendarProvider::aim(const std::vector<CalendarEventInfo>& events, double 
     if (event.start < today.end) consider(event.start);
     if (event.end < today.end) consider(event.end);
   }
-  if (!viewModel_.departure().isEmpty()) {
-    if (const auto travelTime = travelTimes_.find(travelAsked_); travelTime != travelTimes_.end()) {
-      for (const CalendarEventInfo& event : events) {
-        if (event.id != travelAsked_) continue;
-        const auto plan = DepartureAdvisor::plan(event.start, travelTime->second,
-                                                 settings().read(settings::travelBufferMinutes));
-        if (plan) consider(nextMinuteFrom(plan->leaveAt, now));
-      }
-    }
-  }
+  if (leaveAt_) consider(nextMinuteFrom(*leaveAt_, now));
   nextUpdate_ = next;
   timer_.start(static_cast<int>(std::ceil((next - now) * 1000.0)) + 1);
 }

@@ -85,6 +85,7 @@ class CalendarProvider final : public Provider {
   std::optional<std::pair<std::string, double>> offered_;  // featured id and its closing date
   std::map<std::string, double> travelTimes_;  // event id to seconds of travel, as answered
   std::string travelAsked_;                    // the event last asked about
+  std::optional<double> leaveAt_;              // of the departure advice shown, if any
   bool started_ = false;
   bool backendStarted_ = false;
 };

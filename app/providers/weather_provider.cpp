@@ -318,8 +318,11 @@ void WeatherProvider::update() {
     // the future, and no snapshot from the future is fresh.
     if (!fetching_) return;
   }
-  viewModel_.setState(state(now));
-  aim(now);
+  // The sun's next rise or set: shown, and a moment to look again.
+  const std::optional<SunTimes::Moment> sun =
+      snapshot_ ? nextSun(snapshot_->coordinate, now) : std::nullopt;
+  viewModel_.setState(state(now, sun));
+  aim(now, sun);
 }
 
 void WeatherProvider::fetch(const GeoCoordinate& coordinate) {
@@ -356,7 +359,8 @@ void WeatherProvider::received(const WeatherFetchResult& result) {
   update();
 }
 
-WeatherViewModel::State WeatherProvider::state(double now) const {
+WeatherViewModel::State WeatherProvider::state(double now,
+                                               const std::optional<SunTimes::Moment>& sun) const {
   WeatherViewModel::State state;
   state.enabled = true;
   const std::optional<Position> where = position();
@@ -377,11 +381,11 @@ WeatherViewModel::State WeatherProvider::state(double now) const {
                         .arg(temperatureText(range->high, preferences_.unit),
                              temperatureText(range->low, preferences_.unit));
   }
-  if (const auto sun = nextSun(snapshot_->coordinate, now)) state.sun = sunText(*sun);
+  if (sun) state.sun = sunText(*sun);
   return state;
 }
 
-void WeatherProvider::aim(double now) {
+void WeatherProvider::aim(double now, const std::optional<SunTimes::Moment>& sun) {
   double next = now + longestWait;
   const auto consider = [&](double at) {
     if (at > now) next = std::min(next, at);
@@ -389,10 +393,10 @@ void WeatherProvider::aim(double now) {
   if (snapshot_) {
     consider(WeatherRefreshPolicy::nextRefresh(*snapshot_));
     consider(snapshot_->fetchedAt + WeatherRefreshPolicy::freshness + 1);
-    if (const auto sun = nextSun(snapshot_->coordinate, now)) {
-      if (const auto* rise = std::get_if<SunTimes::Sunrise>(&*sun)) consider(rise->date + 1);
-      if (const auto* set = std::get_if<SunTimes::Sunset>(&*sun)) consider(set->date + 1);
-    }
+  }
+  if (sun) {
+    if (const auto* rise = std::get_if<SunTimes::Sunrise>(&*sun)) consider(rise->date + 1);
+    if (const auto* set = std::get_if<SunTimes::Sunset>(&*sun)) consider(set->date + 1);
   }
   // After a failure, or before any answer, the next try is as soon as the spacing allows.
   if (lastAttempt_ && (lastFailure_ || !snapshot_)) {

@@ -20,6 +20,7 @@
 #include "settings/durable_file.h"
 #include "settings/settings_store.h"
 #include "weather/met_weather_client.h"
+#include "weather/sun_times.h"
 #include "weather/temperature_course.h"
 #include "weather/weather_preferences.h"
 #include "weather/zone_table.h"
@@ -74,8 +75,8 @@ class WeatherProvider final : public Provider {
   void saveKept() const;
   void fetch(const GeoCoordinate& coordinate);
   void received(const WeatherFetchResult& result);
-  WeatherViewModel::State state(double now) const;
-  void aim(double now);
+  WeatherViewModel::State state(double now, const std::optional<SunTimes::Moment>& sun) const;
+  void aim(double now, const std::optional<SunTimes::Moment>& sun);
 
   std::unique_ptr<LocationSource> locationService_;
   Places places_;
