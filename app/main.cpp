@@ -1,22 +1,41 @@
 // Tindra: the notch as a small live display. `tindra` runs it; `tindra --demo DIR` plays a short
-// tour and writes screenshots of the closed and opened notch to DIR.
+// tour and writes screenshots of the closed and opened notch to DIR; `tindra focus on|off` names
+// the Focus that is on, for shortcuts and scripts.
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDateTime>
 #include <QDir>
 #include <QQuickWindow>
 #include <QTextStream>
 #include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
 #include "diagnostics/first_frame_report.h"
 #include "diagnostics/key_latency_report.h"
 #include "platform/display_platform.h"
 #include "providers/hud_view_model.h"
 #include "providers/provider.h"
+#include "settings/settings_store.h"
 #include "shell/demo_tour.h"
+#include "shell/focus_command.h"
 #include "tindra_app.h"
 
+namespace {
+
+int runFocusCommand(int argc, char* argv[]) {
+  QCoreApplication app(argc, argv);
+  QTextStream out(stdout);
+  QTextStream err(stderr);
+  const auto now = [] { return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0; };
+  tindra::SettingsStore settings(tindra::SettingsStore::defaultFile(), now);
+  return tindra::FocusCommand::run(QCoreApplication::arguments().mid(2), settings, now(), out, err);
+}
+
+}  // namespace
+
 int main(int argc, char* argv[]) {
+  if (argc > 1 && std::string_view(argv[1]) == "focus") return runFocusCommand(argc, argv);
   tindra::selectDisplayPlatform();
   if (!tindra::hasGraphicalSession() && std::getenv("QT_QPA_PLATFORM") == nullptr) {
     std::fputs(

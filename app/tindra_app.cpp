@@ -3,6 +3,7 @@
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QNetworkInformation>
+#include <QSysInfo>
 
 #include "activity_center.h"
 #include "diagnostics/diagnostics_log.h"
@@ -12,9 +13,12 @@
 #include "platform/backend_factory.h"
 #include "platform/screen_source_factory.h"
 #include "providers/accessory_provider.h"
+#include "providers/banner_provider.h"
 #include "providers/battery_provider.h"
 #include "providers/calendar_provider.h"
+#include "providers/focus_provider.h"
 #include "providers/hud_provider.h"
+#include "providers/lock_screen_provider.h"
 #include "providers/now_playing_provider.h"
 #include "providers/weather_provider.h"
 #include "settings/settings_store.h"
@@ -51,6 +55,10 @@ TindraApp::TindraApp(Options options, QObject* parent)
                                                     window.setContextMenu(notchMenu());
                                                   });
   connect(tray_.get(), &TrayItem::shownChanged, this, &TindraApp::offerMenuOnNotches);
+  auto* lock = static_cast<LockScreenProvider*>(provider(QStringLiteral("lockscreen")));
+  notches_->setSteppedAside(lock->locked());
+  connect(lock, &LockScreenProvider::lockedChanged, notches_.get(),
+          &NotchScreenManager::setSteppedAside);
 }
 
 TindraApp::~TindraApp() = default;
@@ -85,6 +93,17 @@ void TindraApp::startProviders() {
   followNetwork(*weatherProvider);
   shell_->setWeather(weatherProvider.get());
   providers_.push_back(std::move(weatherProvider));
+  const std::shared_ptr<FocusStatusSource> focus = makeFocusStatusSource();
+  providers_.push_back(std::make_unique<FocusProvider>(context, focus));
+  const std::filesystem::path configFolder = settings_->file().parent_path();
+  providers_.push_back(std::make_unique<BannerProvider>(
+      context, makeNotificationSource(), focus, makeApplicationOpener(),
+      BannerProvider::userApps(configFolder / "banner-apps.json")));
+  providers_.push_back(std::make_unique<LockScreenProvider>(
+      context, makeLockStateSource(),
+      LockSessionGuard(configFolder, LockSessionGuard::readBootID(),
+                       QSysInfo::prettyProductName().toStdString()),
+      secondsSince1970));
   for (const auto& provider : providers_) {
     views_.setModel(provider->name(), provider->viewModel());
     provider->start();

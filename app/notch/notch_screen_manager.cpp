@@ -79,12 +79,18 @@ void NotchScreenManager::rebuild() {
     }
     window->place(NotchGeometry::forScreen(screen->descriptor, height, width), coordinates,
                   screen->screen);
-    window->show();
+    window->setVisible(!steppedAside_);
     kept.emplace(display.id, std::move(window));
   }
   const bool removed = !windows_.empty();
   windows_ = std::move(kept);
   if (added || removed) emit windowsChanged();
+}
+
+void NotchScreenManager::setSteppedAside(bool aside) {
+  if (steppedAside_ == aside) return;
+  steppedAside_ = aside;
+  for (const auto& [id, window] : windows_) window->setVisible(!aside);
 }
 
 }  // namespace tindra

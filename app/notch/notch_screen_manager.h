@@ -34,6 +34,8 @@ class NotchScreenManager : public QObject {
   std::vector<NotchWindow*> windows() const;
   // Applies the current displays and settings now (otherwise done on the next event-loop turn).
   void rebuild();
+  // Hides every notch while `aside` (the screen is locked) and shows them again after.
+  void setSteppedAside(bool aside);
 
  signals:
   void windowsChanged();
@@ -46,6 +48,7 @@ class NotchScreenManager : public QObject {
   ActivityCenter& activities_;
   NotchContent& content_;
   std::function<void(NotchWindow&)> prepare_;
+  bool steppedAside_ = false;
   SettingsObservation observation_;
   QTimer pending_;
   std::map<std::uint32_t, std::unique_ptr<NotchWindow>> windows_;

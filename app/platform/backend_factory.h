@@ -7,9 +7,13 @@
 
 #include "platform/accessory_backend.h"
 #include "platform/adapter_probe.h"
+#include "platform/application_opener.h"
 #include "platform/battery_backend.h"
 #include "platform/calendar_backend.h"
+#include "platform/focus_status_source.h"
 #include "platform/location_source.h"
+#include "platform/lock_state_source.h"
+#include "platform/notification_source.h"
 #include "platform/process_tap_session.h"
 #include "platform/sound_player.h"
 #include "platform/travel_time_estimator.h"
@@ -39,6 +43,15 @@ std::shared_ptr<SoundPlayer> makeSoundPlayer();
 // The indicator's output volume, display and keyboard lights, and keys. The keys are never
 // fake: with TINDRA_FAKE=hud the real keys step the invented levels.
 HudBackends makeHudBackends();
+
+// The desktop's do-not-disturb: GNOME's setting on GNOME, else the notification server's
+// Inhibited property; shared by the Focus and banner providers.
+std::shared_ptr<FocusStatusSource> makeFocusStatusSource();
+// The notifications on the session bus, and what opens their senders.
+std::unique_ptr<NotificationSource> makeNotificationSource();
+std::unique_ptr<ApplicationOpener> makeApplicationOpener();
+// The session's screen lock and screen saver.
+std::unique_ptr<LockStateSource> makeLockStateSource();
 
 // The now-playing source to make, the self-test to run first (none for the fake) and what
 // downloads covers (nothing, for the fake).

@@ -14,6 +14,7 @@ const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
   // The file tray's section joins here when its provider arrives.
   static const std::vector<Section> all{
       {QStringLiteral("hud"), {{QStringLiteral("hud"), view("HudPanel.qml")}}, true},
+      {QStringLiteral("banners"), {{QStringLiteral("banners"), view("BannerPanel.qml")}}, true},
       {QStringLiteral("media"), {{QStringLiteral("media"), view("MediaPanel.qml")}}},
       {QStringLiteral("calendar"), {{QStringLiteral("calendar"), view("CalendarPanel.qml")}}},
       {QStringLiteral("weather"), {{QStringLiteral("weather"), view("WeatherPanel.qml")}}},
@@ -26,7 +27,8 @@ const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
 
 const std::vector<ViewRegistry::View>& ViewRegistry::idleItems() {
   static const std::vector<View> all{{QStringLiteral("battery"), view("BatteryIdleItem.qml")},
-                                     {QStringLiteral("weather"), view("WeatherIdleItem.qml")}};
+                                     {QStringLiteral("weather"), view("WeatherIdleItem.qml")},
+                                     {QStringLiteral("focus"), view("FocusIdleItem.qml")}};
   return all;
 }
 
@@ -42,6 +44,12 @@ std::optional<ViewRegistry::View> ViewRegistry::compact(ActivityKind kind) {
       return View{QStringLiteral("battery"), view("BatteryCompact.qml")};
     case ActivityKind::accessory:
       return View{QStringLiteral("accessories"), view("AccessoryCompact.qml")};
+    case ActivityKind::focus:
+      return View{QStringLiteral("focus"), view("FocusCompact.qml")};
+    case ActivityKind::message:
+      return View{QStringLiteral("banners"), view("MessageCompact.qml")};
+    case ActivityKind::incomingCall:
+      return View{QStringLiteral("banners"), view("CallCompact.qml")};
     default:
       return std::nullopt;
   }

@@ -9,13 +9,21 @@
 #include "platform/fake/fake_backlight_backend.h"
 #include "platform/fake/fake_battery_backend.h"
 #include "platform/fake/fake_calendar_backend.h"
+#include "platform/fake/fake_focus_status_source.h"
+#include "platform/fake/fake_lock_state_source.h"
+#include "platform/fake/fake_notification_source.h"
 #include "platform/fake/fake_now_playing_source.h"
 #include "platform/fake/fake_volume_backend.h"
 #include "platform/fake/fake_weather.h"
 #include "platform/fake/offline_artwork_fetcher.h"
 #include "platform/linux/bluez_accessory_backend.h"
+#include "platform/linux/dbus_notification_monitor.h"
+#include "platform/linux/desktop_entry_opener.h"
 #include "platform/linux/geoclue_location_source.h"
+#include "platform/linux/gsettings_focus_source.h"
 #include "platform/linux/icalendar_backend.h"
+#include "platform/linux/logind_lock_source.h"
+#include "platform/linux/notification_server_focus_source.h"
 #include "platform/linux/pulse_process_tap_session.h"
 #include "platform/linux/pulse_sound_player.h"
 #include "platform/linux/pulse_volume_backend.h"
@@ -125,6 +133,43 @@ NowPlayingBackend makeNowPlayingBackend() {
   return {[launch] { return std::make_unique<AdapterNowPlayingSource>(launch); },
           std::make_unique<AdapterProbe>(launch), std::make_unique<NetworkArtworkFetcher>(), launch,
           std::make_unique<PulseProcessTapSession>(soundServer())};
+}
+
+std::shared_ptr<FocusStatusSource> makeFocusStatusSource() {
+  if (fakeBackendRequested(QStringLiteral("focus"))) {
+    return std::make_shared<FakeFocusStatusSource>();
+  }
+  const QStringList desktops = qEnvironmentVariable("XDG_CURRENT_DESKTOP").split(QLatin1Char(':'));
+  if (desktops.contains(QStringLiteral("GNOME"), Qt::CaseInsensitive) &&
+      GSettingsFocusSource::available()) {
+    return std::make_shared<GSettingsFocusSource>();
+  }
+  const QDBusConnection bus = QDBusConnection::sessionBus();
+  if (!bus.isConnected()) {
+    return std::make_shared<NullFocusStatusSource>(
+        QStringLiteral("no session bus: do-not-disturb is unknown, only `tindra focus` shows a "
+                       "Focus"));
+  }
+  return std::make_shared<NotificationServerFocusSource>(bus);
+}
+
+std::unique_ptr<NotificationSource> makeNotificationSource() {
+  if (fakeBackendRequested(QStringLiteral("banners"))) {
+    return std::make_unique<FakeNotificationSource>();
+  }
+  return std::make_unique<DBusNotificationMonitor>(QDBusConnection::sessionBus());
+}
+
+std::unique_ptr<ApplicationOpener> makeApplicationOpener() {
+  return std::make_unique<DesktopEntryOpener>();
+}
+
+std::unique_ptr<LockStateSource> makeLockStateSource() {
+  if (fakeBackendRequested(QStringLiteral("lockscreen"))) {
+    return std::make_unique<FakeLockStateSource>();
+  }
+  return std::make_unique<LogindLockSource>(QDBusConnection::systemBus(),
+                                            QDBusConnection::sessionBus());
 }
 
 }  // namespace tindra

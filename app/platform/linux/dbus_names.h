@@ -9,5 +9,8 @@ inline const QString properties = QStringLiteral("org.freedesktop.DBus.Propertie
 inline const QString upowerService = QStringLiteral("org.freedesktop.UPower");
 inline const QString upowerPath = QStringLiteral("/org/freedesktop/UPower");
 inline const QString upowerDevice = QStringLiteral("org.freedesktop.UPower.Device");
+inline const QString notificationsService = QStringLiteral("org.freedesktop.Notifications");
+inline const QString notificationsPath = QStringLiteral("/org/freedesktop/Notifications");
+inline const QString notificationsInterface = notificationsService;
 
 }  // namespace tindra::dbus

@@ -1,0 +1,90 @@
+#include "platform/linux/notification_server_focus_source.h"
+
+#include <QDBusMessage>
+#include <QDBusVariant>
+
+#include "assign_if_changed.h"
+#include "platform/linux/dbus_names.h"
+#include "platform/linux/dbus_reply.h"
+
+namespace tindra {
+
+namespace {
+
+const QString inhibited = QStringLiteral("Inhibited");
+
+ServiceCheck readingCheck() {
+  return {DiagnosticsLog::Outcome::ok,
+          QStringLiteral("reading do-not-disturb from the notification server (Inhibited)")};
+}
+
+}  // namespace
+
+NotificationServerFocusSource::NotificationServerFocusSource(QDBusConnection bus, QObject* parent)
+    : FocusStatusSource(parent),
+      bus_(std::move(bus)),
+      watcher_(
+          dbus::notificationsService, bus_,
+          QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
+      check_{DiagnosticsLog::Outcome::ok,
+             QStringLiteral("asking the notification server for do-not-disturb")} {}
+
+void NotificationServerFocusSource::start() {
+  bus_.connect(dbus::notificationsService, dbus::notificationsPath, dbus::properties,
+               QStringLiteral("PropertiesChanged"), this,
+               SLOT(onPropertiesChanged(QString, QVariantMap, QStringList)));
+  connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this,
+          &NotificationServerFocusSource::read);
+  connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
+    publish(std::nullopt,
+            {DiagnosticsLog::Outcome::degraded,
+             QStringLiteral("the notification server went away: do-not-disturb is unknown "
+                            "until it returns")});
+  });
+  read();
+}
+
+void NotificationServerFocusSource::read() {
+  QDBusMessage call = QDBusMessage::createMethodCall(
+      dbus::notificationsService, dbus::notificationsPath, dbus::properties, QStringLiteral("Get"));
+  call << dbus::notificationsInterface << inhibited;
+  whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
+    const QVariant value = answer.type() == QDBusMessage::ReplyMessage
+                               ? answer.arguments().value(0).value<QDBusVariant>().variant()
+                               : QVariant();
+    if (value.typeId() == QMetaType::Bool) {
+      publish(value.toBool(), readingCheck());
+    } else if (answer.type() == QDBusMessage::ErrorMessage &&
+               answer.errorName() == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown")) {
+      publish(std::nullopt, {DiagnosticsLog::Outcome::degraded,
+                             QStringLiteral("no notification server runs: do-not-disturb is "
+                                            "unknown until one starts")});
+    } else {
+      publish(std::nullopt, {DiagnosticsLog::Outcome::degraded,
+                             QStringLiteral("the notification server does not report "
+                                            "do-not-disturb (no Inhibited property): only "
+                                            "`tindra focus` shows a Focus")});
+    }
+  });
+}
+
+void NotificationServerFocusSource::onPropertiesChanged(const QString& interface,
+                                                        const QVariantMap& changed,
+                                                        const QStringList& invalidated) {
+  if (interface != dbus::notificationsInterface) return;
+  if (invalidated.contains(inhibited)) {
+    read();
+    return;
+  }
+  const auto value = changed.constFind(inhibited);
+  if (value != changed.constEnd() && value->typeId() == QMetaType::Bool) {
+    publish(value->toBool(), readingCheck());
+  }
+}
+
+void NotificationServerFocusSource::publish(std::optional<bool> focused, ServiceCheck check) {
+  if (assignIfChanged(check_, std::move(check))) emit checkChanged();
+  if (assignIfChanged(focused_, focused)) emit focusedChanged();
+}
+
+}  // namespace tindra

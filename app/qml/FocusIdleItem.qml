@@ -1,0 +1,24 @@
+import QtQuick
+
+// The Focus that lasts, in the idle layout, while the indicator is kept.
+Row {
+    id: root
+
+    property var model
+
+    visible: root.model !== undefined && root.model.indicator
+    spacing: 5
+
+    FocusGlyph {
+        anchors.verticalCenter: parent.verticalCenter
+        width: 14
+        height: 14
+        symbol: root.model ? root.model.symbol : "moon"
+    }
+    Text {
+        anchors.verticalCenter: parent.verticalCenter
+        text: root.model ? root.model.name : ""
+        color: "#7d7aff"
+        font.pixelSize: 13
+    }
+}
