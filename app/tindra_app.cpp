@@ -21,6 +21,7 @@
 #include "providers/lock_screen_provider.h"
 #include "providers/now_playing_provider.h"
 #include "providers/weather_provider.h"
+#include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "settings_file_watcher.h"
 #include "shell/shell_actions.h"
@@ -108,11 +109,18 @@ void TindraApp::startProviders() {
     views_.setModel(provider->name(), provider->viewModel());
     provider->start();
   }
-  // A machine without a battery (a desktop) has no battery settings.
+  // A machine without a battery (a desktop) has no battery settings. Nothing draws above a Linux
+  // screen locker: the lock-screen widgets are not offered, and their details not shown.
   auto* battery = static_cast<BatteryViewModel*>(provider(QStringLiteral("battery"))->viewModel());
   shell_->setHiddenSettings([battery](std::string_view name) {
-    return !battery->available() && name.starts_with("battery");
+    return (!battery->available() && name.starts_with("battery")) ||
+           name.starts_with("lockScreen") || name == settings::lockWidgetOffset.name;
   });
+  shell_->markUnavailable(
+      std::string(settings::experimentalLockScreen.name),
+      tr("No window can be drawn above the screen locker of a Linux desktop, so there are no "
+         "lock-screen widgets here; the notch hides while the screen is locked."),
+      true);
 }
 
 // No forecast request while the network is down, and one soon after it returns. Without a way

@@ -39,6 +39,8 @@ class BannerProvider final : public Provider {
   QString name() const override { return QStringLiteral("banners"); }
   void start() override;
   BannerViewModel* viewModel() override { return &viewModel_; }
+  // Where the notifications come from; the demo plays its fake one.
+  NotificationSource& source() const { return *source_; }
 
  private:
   void recordCheck();

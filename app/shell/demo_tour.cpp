@@ -9,8 +9,11 @@
 
 #include "activity/activity_event.h"
 #include "activity_center.h"
+#include "focus/focus_filter_state.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
+#include "platform/fake/fake_notification_source.h"
+#include "providers/banner_provider.h"
 #include "providers/hud_provider.h"
 #include "providers/now_playing_view_model.h"
 #include "providers/provider.h"
@@ -78,6 +81,11 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
     hud->handleKey({key, true, false, {}, std::chrono::steady_clock::now()});
     hud->handleKey({key, false, false, {}, std::chrono::steady_clock::now()});
   };
+  const auto notify = [this](const DesktopNotification& notification) {
+    auto* banners = qobject_cast<BannerProvider*>(app_.provider(QStringLiteral("banners")));
+    auto* fake = banners ? dynamic_cast<FakeNotificationSource*>(&banners->source()) : nullptr;
+    if (fake) fake->send(notification);
+  };
   steps_ = {
       {0,
        [this, pointerTo] {
@@ -117,6 +125,38 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
       {700, [this] { shoot(QStringLiteral("8-closed-meeting.png")); }},
       {0, [pointerTo] { pointerTo(true); }},
       {900, [this] { shoot(QStringLiteral("9-opened-meeting.png")); }},
+      // A Focus named by `tindra focus on --name "Deep Work" --symbol book`.
+      {0,
+       [this, pointerTo] {
+         pointerTo(false);
+         (void)app_.settings().write(
+             settings::focusFilterState,
+             FocusFilterState(true, "Deep Work", FocusSymbol::book, 0).encoded());
+       }},
+      {700, [this] { shoot(QStringLiteral("10-closed-focus.png")); }},
+      // An invented chat message, then an invented ringing call.
+      {2500,
+       [this, notify] {
+         (void)app_.settings().write(settings::experimentalMessageNotices, true);
+         (void)app_.settings().write(settings::experimentalCallNotices, true);
+         notify({.id = 1,
+                 .appName = "Chat",
+                 .summary = "Ana Lindqvist",
+                 .body = "Running five minutes late, <b>start without me</b>",
+                 .category = "im.received"});
+       }},
+      {600, [this] { shoot(QStringLiteral("11-closed-message.png")); }},
+      {0, [pointerTo] { pointerTo(true); }},
+      {900, [this] { shoot(QStringLiteral("12-opened-message.png")); }},
+      {0,
+       [pointerTo, notify] {
+         pointerTo(false);
+         notify({.id = 2,
+                 .appName = "Phone",
+                 .summary = "Ana Lindqvist",
+                 .category = "call.incoming"});
+       }},
+      {900, [this] { shoot(QStringLiteral("13-closed-call.png")); }},
   };
 }
 

@@ -50,11 +50,14 @@ void ShellActions::openSettings() {
       settingsWindow_->setExtra(settings::weatherEnabled.name,
                                 new WeatherSettingsEditor(*weather_, weather_->cities()));
     }
-    if (!travelUnavailable_.isEmpty()) {
-      auto* note = new QLabel(travelUnavailable_);
+    for (const Unavailable& setting : unavailable_) {
+      auto* note = new QLabel(setting.reason);
       note->setWordWrap(true);
       note->setStyleSheet(QStringLiteral("color: #b25000"));
-      settingsWindow_->setExtra(settings::travelTimeEnabled.name, note);
+      settingsWindow_->setExtra(setting.name, note);
+      if (QWidget* editor = settingsWindow_->editorFor(setting.name); editor && setting.locked) {
+        editor->setEnabled(false);
+      }
     }
   }
   settingsWindow_->setHidden(hiddenSettings_);

@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include "platform/calendar_backend.h"
+#include "settings/settings_keys.h"
 #include "shell/diagnostics_window.h"
 #include "shell/settings_window.h"
 
@@ -40,7 +41,15 @@ class ShellActions : public QObject {
   // (empty when they are available).
   void setCalendars(CalendarBackend* calendars, QString travelUnavailable) {
     calendars_ = calendars;
-    travelUnavailable_ = std::move(travelUnavailable);
+    if (!travelUnavailable.isEmpty()) {
+      unavailable_.push_back(
+          {std::string(settings::travelTimeEnabled.name), std::move(travelUnavailable), false});
+    }
+  }
+  // A setting that cannot work on this machine: `reason` is shown under it, and with `locked`
+  // its control is greyed out.
+  void markUnavailable(std::string name, QString reason, bool locked) {
+    unavailable_.push_back({std::move(name), std::move(reason), locked});
   }
   // The weather's own settings, under weatherEnabled.
   void setWeather(WeatherProvider* weather) { weather_ = weather; }
@@ -62,7 +71,12 @@ class ShellActions : public QObject {
   std::vector<DiagnosticsWindow::Check> checks_;
   std::function<bool(std::string_view)> hiddenSettings_;
   CalendarBackend* calendars_ = nullptr;
-  QString travelUnavailable_;
+  struct Unavailable {
+    std::string name;
+    QString reason;
+    bool locked;
+  };
+  std::vector<Unavailable> unavailable_;
   WeatherProvider* weather_ = nullptr;
 };
 

@@ -29,13 +29,13 @@ class NotchContentTest : public ::testing::Test {
 };
 
 TEST_F(NotchContentTest, PinnedSectionsComeInTheirOrderAndUnknownNamesAreSkipped) {
-  // The level indicator's section comes first and whatever is pinned.
+  // The level indicator's and the calls' sections come first and whatever is pinned.
   EXPECT_EQ(NotchContent::shownSections({}),
-            (QStringList{"hud", "media", "calendar", "weather", "batteries"}));
+            (QStringList{"hud", "banners", "media", "calendar", "weather", "batteries"}));
   EXPECT_EQ(NotchContent::shownSections({"batteries", "weather?", "media", "batteries", "hud"}),
-            (QStringList{"hud", "batteries", "media"}));
+            (QStringList{"hud", "banners", "batteries", "media"}));
   EXPECT_EQ(NotchContent::shownSections({"nonsense"}),
-            (QStringList{"hud", "media", "calendar", "weather", "batteries"}));
+            (QStringList{"hud", "banners", "media", "calendar", "weather", "batteries"}));
 
   // Only sections whose provider runs are drawn.
   EXPECT_TRUE(content_.sections().isEmpty());

@@ -8,8 +8,10 @@
 
 #include "activity/activity_kind.h"
 #include "providers/accessory_view_model.h"
+#include "providers/banner_view_model.h"
 #include "providers/battery_view_model.h"
 #include "providers/calendar_view_model.h"
+#include "providers/focus_view_model.h"
 #include "providers/hud_view_model.h"
 #include "providers/now_playing_view_model.h"
 #include "providers/weather_view_model.h"
@@ -60,9 +62,16 @@ TEST(ViewRegistryTest, EveryViewLoadsOnItsProvidersModelWithoutWarnings) {
   weather.setState({true, true, "7 °C", "Partly cloudy", "cloud.sun.rain.fill",
                     "10 % chance of precipitation", "High 9 °C · Low 2 °C", "Sunset 16:42",
                     "GeoClue", ""});
+  FocusViewModel focus;
+  focus.set(FocusPresentation::Shown{"Deep Work", FocusSymbol::book},
+            FocusPresentation::Shown{"Deep Work", FocusSymbol::book});
+  BannerViewModel banners([] {});
+  banners.setMessage(BannerViewModel::Message{"Chat", "Ana", "Hi", false, "Open Chat"});
+  banners.setRinging(true, "Phone");
   const std::map<QString, QObject*> models{{"media", &media},       {"battery", &battery},
                                            {"hud", &hud},           {"accessories", &accessories},
-                                           {"calendar", &calendar}, {"weather", &weather}};
+                                           {"calendar", &calendar}, {"weather", &weather},
+                                           {"focus", &focus},       {"banners", &banners}};
 
   std::vector<ViewRegistry::View> views = ViewRegistry::idleItems();
   for (const auto& section : ViewRegistry::sections()) {
