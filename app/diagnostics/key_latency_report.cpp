@@ -1,11 +1,10 @@
 #include "diagnostics/key_latency_report.h"
 
-#include <QGuiApplication>
-#include <QQuickWindow>
 #include <atomic>
 #include <cstdio>
 #include <memory>
 
+#include "diagnostics/frame_swaps.h"
 #include "providers/hud_view_model.h"
 
 namespace tindra {
@@ -18,21 +17,14 @@ void reportKeyLatencyIfAsked(const HudViewModel& model) {
   QObject::connect(&model, &HudViewModel::shownForKey, &model, [pending](Clock::time_point at) {
     pending->store(at.time_since_epoch().count());
   });
-  for (QWindow* window : QGuiApplication::topLevelWindows()) {
-    auto* quick = qobject_cast<QQuickWindow*>(window);
-    if (!quick) continue;
-    QObject::connect(
-        quick, &QQuickWindow::frameSwapped, quick,
-        [pending] {
-          const Clock::rep at = pending->exchange(0);
-          if (at == 0) return;
-          const auto elapsed = Clock::now() - Clock::time_point(Clock::duration(at));
-          std::printf("key to frame: %.2f ms\n",
-                      std::chrono::duration<double, std::milli>(elapsed).count());
-          std::fflush(stdout);
-        },
-        Qt::DirectConnection);
-  }
+  onEveryFrameSwap([pending] {
+    const Clock::rep at = pending->exchange(0);
+    if (at == 0) return;
+    const auto elapsed = Clock::now() - Clock::time_point(Clock::duration(at));
+    std::printf("key to frame: %.2f ms\n",
+                std::chrono::duration<double, std::milli>(elapsed).count());
+    std::fflush(stdout);
+  });
 }
 
 }  // namespace tindra

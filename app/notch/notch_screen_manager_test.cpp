@@ -129,6 +129,22 @@ TEST_F(NotchScreenManagerTest, FollowsDisplaysAddedRemovedAndResized) {
   EXPECT_EQ(notches(), (std::vector<QRectF>{{2465, 200, 190, 24}}));
 }
 
+TEST_F(NotchScreenManagerTest, StepsAsideWhileLockedEvenForDisplaysThatArrive) {
+  const auto visible = [this] {
+    std::vector<bool> shown;
+    for (NotchWindow* window : manager_.windows()) shown.push_back(window->isVisible());
+    return shown;
+  };
+  manager_.setSteppedAside(true);
+  EXPECT_EQ(visible(), (std::vector{false, false}));
+  source_.set({wide});
+  source_.set({wide, small});
+  manager_.rebuild();
+  EXPECT_EQ(visible(), (std::vector{false, false}));
+  manager_.setSteppedAside(false);
+  EXPECT_EQ(visible(), (std::vector{true, true}));
+}
+
 TEST(NotchWindowLayoutTest, TheLevelShowsOnlyOnThePointersDisplay) {
   const QRect left(0, 0, 1920, 1080), right(1920, 0, 1280, 800);
   const QPoint pointer(2500, 300);
