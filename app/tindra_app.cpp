@@ -116,11 +116,17 @@ void TindraApp::startProviders() {
     return (!battery->available() && name.starts_with("battery")) ||
            name.starts_with("lockScreen") || name == settings::lockWidgetOffset.name;
   });
-  shell_->markUnavailable(
+  shell_->addNote(
       std::string(settings::experimentalLockScreen.name),
       tr("No window can be drawn above the screen locker of a Linux desktop, so there are no "
          "lock-screen widgets here; the notch hides while the screen is locked."),
       true);
+  shell_->addNote(std::string(settings::experimentalCallNotices.name),
+                  tr("A ringing call shows only that it rings; answer it on the desktop's "
+                     "notification. Messages and missed calls show who and what, with a button "
+                     "that opens the application that sent them. Nothing is stored or sent, and "
+                     "nothing shows while do-not-disturb is on."),
+                  false);
 }
 
 // No forecast request while the network is down, and one soon after it returns. Without a way

@@ -65,8 +65,13 @@ void BannerProvider::follow() {
   }
 }
 
-void BannerProvider::onNotified(const DesktopNotification& notification) {
+void BannerProvider::onNotified(const DesktopNotification& sent) {
   if (focus_->focused().value_or(false)) return;  // the desktop shows no banners either
+  // GLib's notifications name only their application's id; its entry gives the name people know.
+  DesktopNotification notification = sent;
+  if (notification.appName.empty()) {
+    notification.appName = opener_->displayName(toQString(notification.desktopEntry)).toStdString();
+  }
   const std::optional<BannerEvent> event = classifyNotification(
       notification, apps_, settings().read(settings::experimentalMessageNotices),
       settings().read(settings::experimentalCallNotices));

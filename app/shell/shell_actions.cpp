@@ -50,14 +50,14 @@ void ShellActions::openSettings() {
       settingsWindow_->setExtra(settings::weatherEnabled.name,
                                 new WeatherSettingsEditor(*weather_, weather_->cities()));
     }
-    for (const Unavailable& setting : unavailable_) {
-      auto* note = new QLabel(setting.reason);
-      note->setWordWrap(true);
-      note->setStyleSheet(QStringLiteral("color: #b25000"));
-      settingsWindow_->setExtra(setting.name, note);
-      if (QWidget* editor = settingsWindow_->editorFor(setting.name); editor && setting.locked) {
-        editor->setEnabled(false);
-      }
+    for (const Note& note : notes_) {
+      auto* label = new QLabel(note.text);
+      label->setWordWrap(true);
+      label->setStyleSheet(note.unavailable ? QStringLiteral("color: #b25000")
+                                            : QStringLiteral("color: gray"));
+      settingsWindow_->setExtra(note.name, label);
+      QWidget* editor = settingsWindow_->editorFor(note.name);
+      if (editor && note.unavailable) editor->setEnabled(false);
     }
   }
   settingsWindow_->setHidden(hiddenSettings_);

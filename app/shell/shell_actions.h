@@ -42,14 +42,13 @@ class ShellActions : public QObject {
   void setCalendars(CalendarBackend* calendars, QString travelUnavailable) {
     calendars_ = calendars;
     if (!travelUnavailable.isEmpty()) {
-      unavailable_.push_back(
-          {std::string(settings::travelTimeEnabled.name), std::move(travelUnavailable), false});
+      addNote(std::string(settings::travelTimeEnabled.name), std::move(travelUnavailable), true);
     }
   }
-  // A setting that cannot work on this machine: `reason` is shown under it, and with `locked`
-  // its control is greyed out.
-  void markUnavailable(std::string name, QString reason, bool locked) {
-    unavailable_.push_back({std::move(name), std::move(reason), locked});
+  // A few words under a setting: what it does on this platform, or, with `unavailable`, why it
+  // cannot work here (in orange, its control greyed out).
+  void addNote(std::string name, QString text, bool unavailable) {
+    notes_.push_back({std::move(name), std::move(text), unavailable});
   }
   // The weather's own settings, under weatherEnabled.
   void setWeather(WeatherProvider* weather) { weather_ = weather; }
@@ -71,12 +70,12 @@ class ShellActions : public QObject {
   std::vector<DiagnosticsWindow::Check> checks_;
   std::function<bool(std::string_view)> hiddenSettings_;
   CalendarBackend* calendars_ = nullptr;
-  struct Unavailable {
+  struct Note {
     std::string name;
-    QString reason;
-    bool locked;
+    QString text;
+    bool unavailable;
   };
-  std::vector<Unavailable> unavailable_;
+  std::vector<Note> notes_;
   WeatherProvider* weather_ = nullptr;
 };
 

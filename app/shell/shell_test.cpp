@@ -85,6 +85,13 @@ TEST(TrayUnavailableTest, SettingsAndQuitStayReachableFromTheNotch) {
   for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
     EXPECT_NE(app.shell().settingsWindow()->editorFor(key.name), nullptr) << key.name;
   }
+  // Nothing draws above a Linux screen locker: the switch says so and cannot be turned on, and
+  // the details of what it would draw are not listed.
+  const SettingsWindow& window = *app.shell().settingsWindow();
+  EXPECT_FALSE(window.editorFor(settings::experimentalLockScreen.name)->isEnabled());
+  EXPECT_TRUE(window.editorFor(settings::lockScreenStyle.name)->isHidden());
+  EXPECT_TRUE(window.editorFor(settings::lockWidgetOffset.name)->isHidden());
+  EXPECT_TRUE(window.editorFor(settings::experimentalCallNotices.name)->isEnabled());
 }
 
 class SettingsWindowTest : public ::testing::Test {

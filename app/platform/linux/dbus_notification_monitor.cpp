@@ -18,6 +18,8 @@ namespace {
 // A few notifications in flight at once; more only when a server stopped answering.
 constexpr std::size_t maxUnanswered = 32;
 constexpr int becomeMonitorTimeoutMs = 2000;
+// GLib's notifications remembered by name, to tell their removal; old ones are forgotten.
+constexpr std::size_t maxGtkNotifications = 256;
 
 std::string stringArgument(DBusMessageIter& iter) {
   if (dbus_message_iter_get_arg_type(&iter) != DBUS_TYPE_STRING) return {};
@@ -90,6 +92,50 @@ DesktopNotification readNotify(DBusMessage* message) {
   return notification;
 }
 
+// A{sv} of GLib's notification: the string members we read.
+void readGtkFields(DBusMessageIter& iter, DesktopNotification& notification) {
+  if (dbus_message_iter_get_arg_type(&iter) != DBUS_TYPE_ARRAY) return;
+  DBusMessageIter entry;
+  dbus_message_iter_recurse(&iter, &entry);
+  for (; dbus_message_iter_get_arg_type(&entry) == DBUS_TYPE_DICT_ENTRY;
+       dbus_message_iter_next(&entry)) {
+    DBusMessageIter field;
+    dbus_message_iter_recurse(&entry, &field);
+    const std::string key = stringArgument(field);
+    if (!dbus_message_iter_next(&field) ||
+        dbus_message_iter_get_arg_type(&field) != DBUS_TYPE_VARIANT) {
+      continue;
+    }
+    DBusMessageIter value;
+    dbus_message_iter_recurse(&field, &value);
+    if (key == "title") notification.summary = stringArgument(value);
+    if (key == "body") notification.body = stringArgument(value);
+    if (key == "category") notification.category = stringArgument(value);
+  }
+}
+
+// AddNotification(app_id s, id s, notification a{sv}) of org.gtk.Notifications, which GNOME's
+// own applications and the notification portal use: the application id is its desktop entry.
+DesktopNotification readGtkNotification(DBusMessage* message) {
+  DesktopNotification notification;
+  DBusMessageIter iter;
+  if (!dbus_message_iter_init(message, &iter)) return notification;
+  notification.desktopEntry = stringArgument(iter);
+  dbus_message_iter_next(&iter);
+  dbus_message_iter_next(&iter);  // its own id
+  readGtkFields(iter, notification);
+  return notification;
+}
+
+// "app_id\nid": GLib's notifications are named by their application and a string.
+std::string gtkKey(DBusMessage* message) {
+  DBusMessageIter iter;
+  if (!dbus_message_iter_init(message, &iter)) return {};
+  std::string key = stringArgument(iter) + '\n';
+  dbus_message_iter_next(&iter);
+  return key + stringArgument(iter);
+}
+
 std::uint32_t firstUint(DBusMessage* message) {
   DBusMessageIter iter;
   return dbus_message_iter_init(message, &iter) ? uintArgument(iter) : 0;
@@ -157,34 +203,40 @@ void DBusNotificationMonitor::stop() {
            QStringLiteral("calls and messages are off: notifications are not read"));
 }
 
+// The rules: both ways programs send notifications, the server's closing signal and, when a
+// server runs, its answers to Notify (which carry the numbers it gives).
+std::vector<QByteArray> DBusNotificationMonitor::rules() const {
+  std::vector<QByteArray> rules{
+      "type='method_call',interface='org.freedesktop.Notifications',member='Notify'",
+      "type='signal',interface='org.freedesktop.Notifications',member='NotificationClosed'",
+      "type='method_call',interface='org.gtk.Notifications',member='AddNotification'",
+      "type='method_call',interface='org.gtk.Notifications',member='RemoveNotification'"};
+  if (!owner_.isEmpty()) {
+    const QByteArray answers = QStringLiteral(",sender='%1'").arg(owner_).toUtf8();
+    rules.push_back("type='method_return'" + answers);
+    rules.push_back("type='error'" + answers);
+  }
+  return rules;
+}
+
 void DBusNotificationMonitor::attach(const QString& owner) {
   detach();
   owner_ = owner;
-  if (owner.isEmpty()) {
-    setCheck(DiagnosticsLog::Outcome::degraded,
-             QStringLiteral("no notification server runs on the session bus: calls and messages "
-                            "show once one starts"));
-    return;
-  }
   DBusError error;
   dbus_error_init(&error);
   monitor_ = dbus_bus_get_private(DBUS_BUS_SESSION, &error);
   if (monitor_) {
     dbus_connection_set_exit_on_disconnect(monitor_, FALSE);
-    const QByteArray answers = QStringLiteral("sender='%1'").arg(owner).toUtf8();
-    const QByteArray methodReturns = "type='method_return'," + answers;
-    const QByteArray errors = "type='error'," + answers;
-    const char* rules[] = {
-        "type='method_call',interface='org.freedesktop.Notifications',member='Notify'",
-        "type='signal',interface='org.freedesktop.Notifications',member='NotificationClosed'",
-        methodReturns.constData(), errors.constData()};
-    const char** ruleList = rules;
+    const std::vector<QByteArray> texts = rules();
+    std::vector<const char*> list;
+    for (const QByteArray& rule : texts) list.push_back(rule.constData());
+    const char** ruleList = list.data();
     DBusMessage* call =
         dbus_message_new_method_call("org.freedesktop.DBus", "/org/freedesktop/DBus",
                                      "org.freedesktop.DBus.Monitoring", "BecomeMonitor");
     const dbus_uint32_t flags = 0;
     dbus_message_append_args(call, DBUS_TYPE_ARRAY, DBUS_TYPE_STRING, &ruleList,
-                             static_cast<int>(std::size(rules)), DBUS_TYPE_UINT32, &flags,
+                             static_cast<int>(list.size()), DBUS_TYPE_UINT32, &flags,
                              DBUS_TYPE_INVALID);
     // Answered by the bus itself, at once; everything after it arrives through the notifiers.
     DBusMessage* reply =
@@ -212,8 +264,14 @@ void DBusNotificationMonitor::attach(const QString& owner) {
       this, nullptr);
   dbus_connection_set_watch_functions(monitor_, addWatch, removeWatch, toggleWatch, this, nullptr);
   qCInfo(lcBanners) << "Reading notification banners for calls and messages";
-  setCheck(DiagnosticsLog::Outcome::ok,
-           QStringLiteral("reading notification banners for calls and messages"));
+  if (owner_.isEmpty()) {
+    setCheck(DiagnosticsLog::Outcome::degraded,
+             QStringLiteral("no notification server runs on the session bus: calls and messages "
+                            "show once one starts"));
+  } else {
+    setCheck(DiagnosticsLog::Outcome::ok,
+             QStringLiteral("reading notification banners for calls and messages"));
+  }
   // What arrived with the answer is already queued.
   QTimer::singleShot(0, this, &DBusNotificationMonitor::dispatch);
 }
@@ -247,6 +305,13 @@ void DBusNotificationMonitor::take(DBusMessage* message) {
         unanswered_.push_back({text(dbus_message_get_sender(message)),
                                dbus_message_get_serial(message), readNotify(message)});
         if (unanswered_.size() > maxUnanswered) unanswered_.pop_front();
+      } else if (dbus_message_is_method_call(message, "org.gtk.Notifications", "AddNotification")) {
+        DesktopNotification notification = readGtkNotification(message);
+        notification.id = gtkNumber(gtkKey(message), true);
+        emit notified(notification);
+      } else if (dbus_message_is_method_call(message, "org.gtk.Notifications",
+                                             "RemoveNotification")) {
+        if (const quint32 id = gtkNumber(gtkKey(message), false)) emit closed(id);
       }
       break;
     case DBUS_MESSAGE_TYPE_METHOD_RETURN:
@@ -264,6 +329,15 @@ void DBusNotificationMonitor::take(DBusMessage* message) {
     default:
       break;
   }
+}
+
+quint32 DBusNotificationMonitor::gtkNumber(const std::string& key, bool add) {
+  const auto found = gtkNumbers_.find(key);
+  if (found != gtkNumbers_.end()) return found->second;
+  if (!add) return 0;
+  // Numbers of their own, far above those a server counts up from 1.
+  if (gtkNumbers_.size() >= maxGtkNotifications) gtkNumbers_.clear();
+  return gtkNumbers_[key] = nextGtkNumber_++;
 }
 
 void DBusNotificationMonitor::answered(DBusMessage* answer, bool accepted) {

@@ -135,6 +135,45 @@ TEST_F(DesktopNotificationsTest, TheMonitorReadsWhatRealClientsSendWithTheServer
   EXPECT_EQ(notified.count(), 2);
 }
 
+// GNOME's own applications, and sandboxed ones through the portal, notify through GLib's
+// org.gtk.Notifications, which GNOME Shell serves; a mock stands in for it here.
+TEST_F(DesktopNotificationsTest, GLibsNotificationsAreReadToo) {
+  DBusMockService shell(
+      QDBusConnection::sessionBus(), QStringLiteral("org.gtk.Notifications"),
+      {"org.gtk.Notifications", "/org/gtk/Notifications", "org.gtk.Notifications"});
+  QString error;
+  ASSERT_TRUE(shell.start(&error)) << error.toStdString();
+  for (const auto& [method, signature] :
+       {std::pair{"AddNotification", "ssa{sv}"}, std::pair{"RemoveNotification", "ss"}}) {
+    ASSERT_EQ(shell.call("/org/gtk/Notifications", "AddMethod",
+                         {QString(), QString(method), QString(signature), QString(), QString()}),
+              QString());
+  }
+  DBusNotificationMonitor monitor(QDBusConnection::sessionBus());
+  QSignalSpy notified(&monitor, &NotificationSource::notified);
+  QSignalSpy closed(&monitor, &NotificationSource::closed);
+  monitor.start();
+  ASSERT_TRUE(waitFor([&] { return monitor.check().text.startsWith("reading notification"); }));
+
+  const QString gtk = QStringLiteral("org.gtk.Notifications");
+  run(QStringLiteral("gdbus"),
+      {"call", "--session", "--dest", gtk, "--object-path", "/org/gtk/Notifications", "--method",
+       gtk + ".AddNotification", "org.gnome.Fractal", "room-7",
+       "{'title': <'Ana'>, 'body': <'Hi'>, 'category': <'im.received'>, 'priority': <'high'>}"});
+  ASSERT_TRUE(waitFor([&] { return notified.count() == 1; }));
+  const auto message = notified[0][0].value<DesktopNotification>();
+  EXPECT_EQ(message.desktopEntry, "org.gnome.Fractal");
+  EXPECT_EQ(message.summary, "Ana");
+  EXPECT_EQ(message.body, "Hi");
+  EXPECT_EQ(message.category, "im.received");
+
+  run(QStringLiteral("gdbus"),
+      {"call", "--session", "--dest", gtk, "--object-path", "/org/gtk/Notifications", "--method",
+       gtk + ".RemoveNotification", "org.gnome.Fractal", "room-7"});
+  ASSERT_TRUE(waitFor([&] { return closed.count() == 1; }));
+  EXPECT_EQ(closed[0][0].toUInt(), message.id);
+}
+
 TEST_F(DesktopNotificationsTest, CallsAndMessagesReachTheNotchAndQuietWithDoNotDisturb) {
   QTemporaryDir dir;
   SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
