@@ -26,6 +26,9 @@ BannerProvider::BannerProvider(ProviderContext context, std::unique_ptr<Notifica
   connect(source_.get(), &NotificationSource::closed, this, &BannerProvider::onClosed);
   connect(source_.get(), &NotificationSource::serverGone, this, &BannerProvider::clearAll);
   connect(source_.get(), &NotificationSource::checkChanged, this, &BannerProvider::recordCheck);
+  ringLimit_.setSingleShot(true);
+  ringLimit_.setInterval(longestRing);
+  connect(&ringLimit_, &QTimer::timeout, this, [this] { setRinging(std::nullopt); });
   connect(focus_.get(), &FocusStatusSource::focusedChanged, this, [this] {
     if (focus_->focused().value_or(false)) clearAll();
   });
@@ -106,6 +109,11 @@ void BannerProvider::onClosed(quint32 id) {
 void BannerProvider::setRinging(std::optional<quint32> id, const QString& app) {
   const bool wasRinging = ringingId_.has_value();
   ringingId_ = id;
+  if (id) {
+    ringLimit_.start();
+  } else {
+    ringLimit_.stop();
+  }
   viewModel_.setRinging(id.has_value(), id ? app : viewModel_.callApp());
   if (wasRinging == id.has_value()) return;
   qCInfo(lcBanners).noquote() << "Call" << viewModel_.callApp()

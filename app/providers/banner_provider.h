@@ -6,6 +6,8 @@
 // is on, and nothing is stored or sent.
 #pragma once
 
+#include <QTimer>
+#include <chrono>
 #include <filesystem>
 #include <memory>
 
@@ -25,6 +27,8 @@ class BannerProvider final : public Provider {
  public:
   // Seconds a message or missed call stays, whatever the notice-length setting says.
   static constexpr double messageDuration = 7.0;
+  // A call whose notification is never withdrawn (its program died) stops ringing after this.
+  static constexpr std::chrono::seconds longestRing{120};
 
   // `focus` is the desktop's do-not-disturb, shared with the Focus provider. `apps` names the
   // call and message applications that send no category.
@@ -60,6 +64,7 @@ class BannerProvider final : public Provider {
   std::optional<quint32> ringingId_;
   std::optional<quint32> messageId_;
   QString messageEntry_;
+  QTimer ringLimit_{this};
   BannerViewModel viewModel_;
 };
 

@@ -3,6 +3,8 @@
 #include <gtest/gtest.h>
 
 #include <QTemporaryDir>
+#include <QTest>
+#include <QTimer>
 #include <fstream>
 
 #include "activity_center.h"
@@ -89,6 +91,17 @@ TEST_F(BannerProviderTest, ARingingCallLastsUntilItsNotificationCloses) {
   source_->close(4);
   EXPECT_EQ(activities_.current(), ActivityKind::idle);
   EXPECT_FALSE(provider_->viewModel()->showing());
+
+  // A call nobody withdraws (its program died) stops ringing on its own.
+  source_->send(call(6));
+  EXPECT_TRUE(provider_->viewModel()->ringing());
+  auto* limit = provider_->findChild<QTimer*>();
+  ASSERT_NE(limit, nullptr);
+  EXPECT_TRUE(limit->isActive());
+  EXPECT_EQ(limit->intervalAsDuration(), BannerProvider::longestRing);
+  limit->start(1);  // two minutes are long for a test
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !provider_->viewModel()->ringing(); }));
+  EXPECT_EQ(activities_.current(), ActivityKind::idle);
 
   // A ringing notification replaced by the missed call stops ringing, and the missed call shows
   // with the calls, though messages are off.
