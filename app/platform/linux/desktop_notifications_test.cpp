@@ -4,6 +4,7 @@
 // real `tindra focus` command, and a mocked logind on the private system bus.
 #include <gtest/gtest.h>
 
+#include <QDBusConnectionInterface>
 #include <QDBusVariant>
 #include <QElapsedTimer>
 #include <QProcess>
@@ -33,6 +34,12 @@ const QString notificationsPath = QStringLiteral("/org/freedesktop/Notifications
 
 bool waitFor(const std::function<bool()>& condition, int ms = 5000) {
   return QTest::qWaitFor(condition, ms);
+}
+
+// A round trip on the session bus: the signal matches asked for before it are in place, so a
+// signal another program sends after it reaches us.
+void syncSessionBus() {
+  QDBusConnection::sessionBus().interface()->isServiceRegistered(QStringLiteral("org.example"));
 }
 
 // Runs a client to the end; its standard output, or a failure.
@@ -229,12 +236,14 @@ TEST_F(DesktopNotificationsTest, AServerThatGoesAndComesBackIsFollowed) {
   monitor.start();
   focus.start();
   ASSERT_TRUE(waitFor([&] { return monitor.check().text.startsWith("reading notification"); }));
+  ASSERT_TRUE(waitFor([&] { return focus.focused().has_value(); }));
 
   ASSERT_TRUE(server_->stop());
   ASSERT_TRUE(waitFor([&] { return gone.count() == 1; }));
   ASSERT_TRUE(
       waitFor([&] { return monitor.check().outcome == DiagnosticsLog::Outcome::degraded; }));
-  EXPECT_TRUE(waitFor([&] { return focus.check().text.contains("went away"); }));
+  EXPECT_TRUE(waitFor([&] { return focus.check().text.contains("went away"); }))
+      << focus.check().text.toStdString();
 
   QString error;
   ASSERT_TRUE(server_->start(&error)) << error.toStdString();
@@ -328,6 +337,7 @@ TEST_F(DesktopLockTest, LockSignalsHintsAndTheScreenSaverReachThePresence) {
   QSignalSpy changes(&source, &LockStateSource::changed);
   source.start();
   ASSERT_TRUE(waitFor([&] { return source.check().text.contains(sessionPath); }));
+  syncSessionBus();
   using Event = LockScreenPresence::Event;
   session("Lock");
   ASSERT_TRUE(waitFor([&] { return changes.count() == 1; }));
@@ -335,6 +345,7 @@ TEST_F(DesktopLockTest, LockSignalsHintsAndTheScreenSaverReachThePresence) {
   screenSaver(true);
   ASSERT_TRUE(waitFor([&] { return changes.count() == 2; }));
   screenSaver(false);
+  ASSERT_TRUE(waitFor([&] { return changes.count() == 3; }));
   session("Unlock");
   ASSERT_TRUE(waitFor([&] { return changes.count() == 4; }));
   std::vector<Event> events;

@@ -97,12 +97,13 @@ void LogindLockSource::followSession(const QString& path) {
   QDBusMessage call =
       QDBusMessage::createMethodCall(logind, path, dbus::properties, QStringLiteral("Get"));
   call << sessionInterface << QStringLiteral("LockedHint");
-  whenAnswered(system_.asyncCall(call), this, [this](const QDBusMessage& answer) {
+  whenAnswered(system_.asyncCall(call), this, [this, path](const QDBusMessage& answer) {
+    // A Lock or Unlock that came while we asked is newer than the answer.
     const QVariant hint = answer.arguments().value(0).value<QDBusVariant>().variant();
-    if (hint.typeId() == QMetaType::Bool) setLocked(hint.toBool());
+    if (hint.typeId() == QMetaType::Bool && !locked_) setLocked(hint.toBool());
+    setCheck(DiagnosticsLog::Outcome::ok,
+             QStringLiteral("following the screen lock of logind's session %1").arg(path));
   });
-  setCheck(DiagnosticsLog::Outcome::ok,
-           QStringLiteral("following the screen lock of logind's session %1").arg(path));
 }
 
 void LogindLockSource::onLock() {

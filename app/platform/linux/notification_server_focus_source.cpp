@@ -13,6 +13,15 @@ namespace {
 
 const QString inhibited = QStringLiteral("Inhibited");
 
+// Errors that mean no server answered at all (none runs, or it went away while asked), rather
+// than a server without the property.
+bool serverAbsent(const QString& error) {
+  return error == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown") ||
+         error == QLatin1String("org.freedesktop.DBus.Error.NameHasNoOwner") ||
+         error == QLatin1String("org.freedesktop.DBus.Error.NoReply") ||
+         error == QLatin1String("org.freedesktop.DBus.Error.Disconnected");
+}
+
 ServiceCheck readingCheck() {
   return {DiagnosticsLog::Outcome::ok,
           QStringLiteral("reading do-not-disturb from the notification server (Inhibited)")};
@@ -54,8 +63,7 @@ void NotificationServerFocusSource::read() {
                                : QVariant();
     if (value.typeId() == QMetaType::Bool) {
       publish(value.toBool(), readingCheck());
-    } else if (answer.type() == QDBusMessage::ErrorMessage &&
-               answer.errorName() == QLatin1String("org.freedesktop.DBus.Error.ServiceUnknown")) {
+    } else if (answer.type() == QDBusMessage::ErrorMessage && serverAbsent(answer.errorName())) {
       publish(std::nullopt, {DiagnosticsLog::Outcome::degraded,
                              QStringLiteral("no notification server runs: do-not-disturb is "
                                             "unknown until one starts")});
