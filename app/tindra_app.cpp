@@ -9,6 +9,7 @@
 #include "diagnostics/diagnostics_log.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
+#include "notch/visibility_monitor.h"
 #include "platform/adapter_check.h"
 #include "platform/backend_factory.h"
 #include "platform/screen_source_factory.h"
@@ -56,10 +57,7 @@ TindraApp::TindraApp(Options options, QObject* parent)
                                                     window.setContextMenu(notchMenu());
                                                   });
   connect(tray_.get(), &TrayItem::shownChanged, this, &TindraApp::offerMenuOnNotches);
-  auto* lock = static_cast<LockScreenProvider*>(provider(QStringLiteral("lockscreen")));
-  notches_->setSteppedAside(lock->locked());
-  connect(lock, &LockScreenProvider::lockedChanged, notches_.get(),
-          &NotchScreenManager::setSteppedAside);
+  stepAside();
 }
 
 TindraApp::~TindraApp() = default;
@@ -114,7 +112,8 @@ void TindraApp::startProviders() {
   auto* battery = static_cast<BatteryViewModel*>(provider(QStringLiteral("battery"))->viewModel());
   shell_->setHiddenSettings([battery](std::string_view name) {
     return (!battery->available() && name.starts_with("battery")) ||
-           name.starts_with("lockScreen") || name == settings::lockWidgetOffset.name;
+           name.starts_with("lockScreen") || name == settings::lockWidgetOffset.name ||
+           name == settings::hideDuringMissionControl.name;
   });
   shell_->addNote(
       std::string(settings::experimentalLockScreen.name),
@@ -127,6 +126,21 @@ void TindraApp::startProviders() {
                      "that opens the application that sent them. Nothing is stored or sent, and "
                      "nothing shows while do-not-disturb is on."),
                   false);
+}
+
+// Every notch steps aside while the screen is locked, and each over a full-screen window or game.
+void TindraApp::stepAside() {
+  auto* lock = static_cast<LockScreenProvider*>(provider(QStringLiteral("lockscreen")));
+  notches_->setSteppedAside(lock->locked());
+  connect(lock, &LockScreenProvider::lockedChanged, notches_.get(),
+          &NotchScreenManager::setSteppedAside);
+  visibility_ =
+      std::make_unique<VisibilityMonitor>(makeVisibilitySource(), *settings_, *diagnostics_);
+  notches_->setAsideOn(
+      [this](const QRect& screen) { return visibility_->reasonFor(screen).has_value(); });
+  connect(visibility_.get(), &VisibilityMonitor::changed, notches_.get(),
+          &NotchScreenManager::applyVisibility);
+  visibility_->start();
 }
 
 // No forecast request while the network is down, and one soon after it returns. Without a way

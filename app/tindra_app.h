@@ -25,6 +25,7 @@ class SettingsFileWatcher;
 class SettingsStore;
 class ShellActions;
 class TrayItem;
+class VisibilityMonitor;
 class WeatherProvider;
 
 class TindraApp : public QObject {
@@ -46,12 +47,14 @@ class TindraApp : public QObject {
   NotchScreenManager& notches() { return *notches_; }
   ShellActions& shell() { return *shell_; }
   TrayItem& tray() { return *tray_; }
+  VisibilityMonitor& visibility() { return *visibility_; }
 
  private:
   QMenu* notchMenu() const;
   void offerMenuOnNotches();
   void startProviders();
   void followNetwork(WeatherProvider& weather);
+  void stepAside();
 
   Options options_;
   QNetworkAccessManager network_;  // the forecast's; before the providers that use it
@@ -67,6 +70,7 @@ class TindraApp : public QObject {
   std::unique_ptr<TrayItem> tray_;
   std::unique_ptr<ScreenSource> screens_;
   std::unique_ptr<NotchScreenManager> notches_;
+  std::unique_ptr<VisibilityMonitor> visibility_;
 };
 
 }  // namespace tindra

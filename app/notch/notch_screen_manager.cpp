@@ -1,5 +1,7 @@
 #include "notch/notch_screen_manager.h"
 
+#include <QScreen>
+
 #include <algorithm>
 
 #include "activity/display_picker.h"
@@ -79,7 +81,7 @@ void NotchScreenManager::rebuild() {
     }
     window->place(NotchGeometry::forScreen(screen->descriptor, height, width), coordinates,
                   screen->screen);
-    window->setVisible(!steppedAside_);
+    window->setVisible(shows(*window));
     kept.emplace(display.id, std::move(window));
   }
   const bool removed = !windows_.empty();
@@ -90,7 +92,21 @@ void NotchScreenManager::rebuild() {
 void NotchScreenManager::setSteppedAside(bool aside) {
   if (steppedAside_ == aside) return;
   steppedAside_ = aside;
-  for (const auto& [id, window] : windows_) window->setVisible(!aside);
+  applyVisibility();
+}
+
+void NotchScreenManager::setAsideOn(std::function<bool(const QRect& screen)> aside) {
+  asideOn_ = std::move(aside);
+  applyVisibility();
+}
+
+void NotchScreenManager::applyVisibility() {
+  for (const auto& [id, window] : windows_) window->setVisible(shows(*window));
+}
+
+bool NotchScreenManager::shows(const NotchWindow& window) const {
+  if (steppedAside_) return false;
+  return !asideOn_ || window.screen() == nullptr || !asideOn_(window.screen()->geometry());
 }
 
 }  // namespace tindra

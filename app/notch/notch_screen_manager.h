@@ -36,12 +36,17 @@ class NotchScreenManager : public QObject {
   void rebuild();
   // Hides every notch while `aside` (the screen is locked) and shows them again after.
   void setSteppedAside(bool aside);
+  // Asked for each display, on every applyVisibility(): whether its notch steps aside (over a
+  // full-screen window or a game).
+  void setAsideOn(std::function<bool(const QRect& screen)> aside);
+  void applyVisibility();
 
  signals:
   void windowsChanged();
 
  private:
   std::optional<double> simulatedHeight() const;
+  bool shows(const NotchWindow& window) const;
 
   ScreenSource& screens_;
   SettingsStore& settings_;
@@ -49,6 +54,7 @@ class NotchScreenManager : public QObject {
   NotchContent& content_;
   std::function<void(NotchWindow&)> prepare_;
   bool steppedAside_ = false;
+  std::function<bool(const QRect& screen)> asideOn_;
   SettingsObservation observation_;
   QTimer pending_;
   std::map<std::uint32_t, std::unique_ptr<NotchWindow>> windows_;

@@ -17,6 +17,7 @@
 #include "platform/process_tap_session.h"
 #include "platform/sound_player.h"
 #include "platform/travel_time_estimator.h"
+#include "platform/visibility_source.h"
 #include "providers/hud_provider.h"
 #include "providers/now_playing_provider.h"
 #include "weather/http_transport.h"
@@ -52,6 +53,8 @@ std::unique_ptr<NotificationSource> makeNotificationSource();
 std::unique_ptr<ApplicationOpener> makeApplicationOpener();
 // The session's screen lock and screen saver.
 std::unique_ptr<LockStateSource> makeLockStateSource();
+// The window in front and its full-screen state, where the window system tells it.
+std::unique_ptr<VisibilitySource> makeVisibilitySource();
 
 // The now-playing source to make, the self-test to run first (none for the fake) and what
 // downloads covers (nothing, for the fake).

@@ -2,6 +2,7 @@
 
 #include <QDBusConnection>
 #include <QDBusError>
+#include <QGuiApplication>
 
 #include "platform/adapter_now_playing_source.h"
 #include "platform/backend_selection.h"
@@ -18,6 +19,7 @@
 #include "platform/fake/offline_artwork_fetcher.h"
 #include "platform/linux/bluez_accessory_backend.h"
 #include "platform/linux/dbus_notification_monitor.h"
+#include "platform/linux/desktop_entry_categories.h"
 #include "platform/linux/desktop_entry_opener.h"
 #include "platform/linux/geoclue_location_source.h"
 #include "platform/linux/gsettings_focus_source.h"
@@ -31,6 +33,7 @@
 #include "platform/linux/upower_battery_backend.h"
 #include "platform/linux/upower_keyboard_backlight_backend.h"
 #include "platform/linux/x11_media_key_source.h"
+#include "platform/linux/x11_visibility_source.h"
 #include "platform/network_artwork_fetcher.h"
 #include "platform/null_battery_backend.h"
 #include "platform/null_media_key_source.h"
@@ -170,6 +173,16 @@ std::unique_ptr<LockStateSource> makeLockStateSource() {
   }
   return std::make_unique<LogindLockSource>(QDBusConnection::systemBus(),
                                             QDBusConnection::sessionBus());
+}
+
+std::unique_ptr<VisibilitySource> makeVisibilitySource() {
+  if (QGuiApplication::platformName() != QLatin1String("xcb")) {
+    return std::make_unique<NullVisibilitySource>(
+        QStringLiteral("no X11 window manager to ask (%1): the notch never steps aside for "
+                       "full-screen windows or games")
+            .arg(QGuiApplication::platformName()));
+  }
+  return std::make_unique<X11VisibilitySource>(isGameApplication);
 }
 
 }  // namespace tindra

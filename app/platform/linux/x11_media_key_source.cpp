@@ -10,6 +10,7 @@
 #include <cstdlib>
 
 #include "logging_categories.h"
+#include "platform/linux/xcb_reply.h"
 
 namespace tindra {
 
@@ -31,12 +32,6 @@ constexpr std::array<std::pair<xcb_keysym_t, Key>, 7> keysyms{{
 // Caps Lock and Num Lock (Mod2 on every common layout) must not stop a grab from matching.
 constexpr std::array<std::uint16_t, 4> lockVariants{0, XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2,
                                                     XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2};
-
-struct FreeDeleter {
-  void operator()(void* pointer) const { std::free(pointer); }
-};
-template <class T>
-using XcbReply = std::unique_ptr<T, FreeDeleter>;
 
 }  // namespace
 
