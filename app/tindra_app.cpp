@@ -17,6 +17,7 @@
 #include "providers/banner_provider.h"
 #include "providers/battery_provider.h"
 #include "providers/calendar_provider.h"
+#include "providers/file_tray_provider.h"
 #include "providers/focus_provider.h"
 #include "providers/hud_provider.h"
 #include "providers/lock_screen_provider.h"
@@ -51,11 +52,12 @@ TindraApp::TindraApp(Options options, QObject* parent)
       screens_(makePlatformScreenSource()) {
   startProviders();
   content_ = std::make_unique<NotchContent>(*activities_, *settings_, views_);
-  notches_ = std::make_unique<NotchScreenManager>(*screens_, *settings_, *activities_, *content_,
-                                                  [this](NotchWindow& window) {
-                                                    window.setAnimated(options_.animated);
-                                                    window.setContextMenu(notchMenu());
-                                                  });
+  notches_ = std::make_unique<NotchScreenManager>(
+      *screens_, *settings_, *activities_, *content_, [this](NotchWindow& window) {
+        window.setAnimated(options_.animated);
+        window.setContextMenu(notchMenu());
+        window.setFileDrop([this](const QList<QUrl>& urls) { return fileTray().drop(urls); });
+      });
   connect(tray_.get(), &TrayItem::shownChanged, this, &TindraApp::offerMenuOnNotches);
   stepAside();
 }
@@ -98,6 +100,9 @@ void TindraApp::startProviders() {
   providers_.push_back(std::make_unique<BannerProvider>(
       context, makeNotificationSource(), focus, makeApplicationOpener(),
       BannerProvider::userApps(configFolder / "banner-apps.json")));
+  providers_.push_back(std::make_unique<FileTrayProvider>(
+      context, FileTrayProvider::defaultDataFolder(), secondsSince1970,
+      [](const QUrl& file) { return QDesktopServices::openUrl(file); }));
   providers_.push_back(std::make_unique<LockScreenProvider>(
       context, makeLockStateSource(),
       LockSessionGuard(configFolder, LockSessionGuard::readBootID(),
@@ -155,6 +160,10 @@ void TindraApp::followNetwork(WeatherProvider& weather) {
   };
   follow(network->reachability());
   connect(network, &QNetworkInformation::reachabilityChanged, &weather, follow);
+}
+
+FileTrayProvider& TindraApp::fileTray() const {
+  return *static_cast<FileTrayProvider*>(provider(QStringLiteral("files")));
 }
 
 Provider* TindraApp::provider(const QString& name) const {

@@ -17,6 +17,7 @@ namespace tindra {
 class ActivityCenter;
 class AdapterCheck;
 class DiagnosticsLog;
+class FileTrayProvider;
 class NotchContent;
 class Provider;
 class NotchScreenManager;
@@ -44,6 +45,7 @@ class TindraApp : public QObject {
   DiagnosticsLog& diagnostics() { return *diagnostics_; }
   // The running provider called `name`, or null.
   Provider* provider(const QString& name) const;
+  FileTrayProvider& fileTray() const;
   NotchScreenManager& notches() { return *notches_; }
   ShellActions& shell() { return *shell_; }
   TrayItem& tray() { return *tray_; }

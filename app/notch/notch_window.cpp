@@ -190,11 +190,17 @@ bool NotchWindow::handleDrag(QEvent* event) {
       if (fileDrag_) drag->acceptProposedAction();
       break;
     }
-    case QEvent::Drop:
-      // Nothing keeps dropped files yet; refusing the drop leaves them where they were.
-      static_cast<QDropEvent*>(event)->ignore();
+    case QEvent::Drop: {
+      // Refused (the tray is off), the files stay where they were.
+      auto* drop = static_cast<QDropEvent*>(event);
+      if (fileDrop_ && drop->mimeData()->hasUrls() && fileDrop_(drop->mimeData()->urls())) {
+        drop->acceptProposedAction();
+      } else {
+        drop->ignore();
+      }
       fileDrag_ = false;
       break;
+    }
     default:
       fileDrag_ = false;
       pointerInside_ = false;

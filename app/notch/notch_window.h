@@ -5,6 +5,8 @@
 // shared NotchContent; the window keeps geometry, input and animation only.
 #pragma once
 
+#include <functional>
+
 #include <QtQml/qqmlregistration.h>
 #include <QMenu>
 #include <QPointF>
@@ -50,6 +52,10 @@ class NotchWindow : public QQuickView {
 
   // Off: every change shows at once (screenshots, tests).
   void setAnimated(bool animated) { animated_ = animated; }
+  // Takes files dropped on the notch; returns false to refuse them (they stay where they were).
+  void setFileDrop(std::function<bool(const QList<QUrl>& urls)> drop) {
+    fileDrop_ = std::move(drop);
+  }
   // The menu a right click on the notch shows; none when null.
   void setContextMenu(QMenu* menu) { contextMenu_ = menu; }
   QMenu* contextMenu() const { return contextMenu_; }
@@ -111,6 +117,7 @@ class NotchWindow : public QQuickView {
   QPointF pressPoint_;
   bool pressInside_ = false;
   bool shownExpanded_ = false;
+  std::function<bool(const QList<QUrl>& urls)> fileDrop_;
 
   double openProgress_ = 0;
   double compactProgress_ = 0;

@@ -11,13 +11,13 @@ QUrl view(const char* file) {
 }  // namespace
 
 const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
-  // The file tray's section joins here when its provider arrives.
   static const std::vector<Section> all{
       {QStringLiteral("hud"), {{QStringLiteral("hud"), view("HudPanel.qml")}}, true},
       {QStringLiteral("banners"), {{QStringLiteral("banners"), view("BannerPanel.qml")}}, true},
       {QStringLiteral("media"), {{QStringLiteral("media"), view("MediaPanel.qml")}}},
       {QStringLiteral("calendar"), {{QStringLiteral("calendar"), view("CalendarPanel.qml")}}},
       {QStringLiteral("weather"), {{QStringLiteral("weather"), view("WeatherPanel.qml")}}},
+      {QStringLiteral("files"), {{QStringLiteral("files"), view("FileTrayPanel.qml")}}},
       {QStringLiteral("batteries"),
        {{QStringLiteral("battery"), view("BatteriesPanel.qml")},
         {QStringLiteral("accessories"), view("AccessoriesPanel.qml")}}},

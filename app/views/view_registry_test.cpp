@@ -11,6 +11,7 @@
 #include "providers/banner_view_model.h"
 #include "providers/battery_view_model.h"
 #include "providers/calendar_view_model.h"
+#include "providers/file_tray_view_model.h"
 #include "providers/focus_view_model.h"
 #include "providers/hud_view_model.h"
 #include "providers/now_playing_view_model.h"
@@ -68,10 +69,25 @@ TEST(ViewRegistryTest, EveryViewLoadsOnItsProvidersModelWithoutWarnings) {
   BannerViewModel banners([] {});
   banners.setMessage(BannerViewModel::Message{"Chat", "Ana", "Hi", false, "Open Chat"});
   banners.setRinging(true, "Phone");
+  FileTrayViewModel files({[](const QString&) {}, [](const QString&) {}, [] {}, [] {}});
+  files.set(true,
+            {QVariantMap{{"id", "1"},
+                         {"name", "a.txt"},
+                         {"url", "file:///a.txt"},
+                         {"missing", false},
+                         {"copy", false}},
+             QVariantMap{{"id", "2"},
+                         {"name", "b.txt"},
+                         {"url", "file:///b.txt"},
+                         {"missing", true},
+                         {"copy", true}}},
+            "Already in the tray: a.txt.");
+  files.setProgress(true, 0.4, "Copying 1 item into the tray…");
   const std::map<QString, QObject*> models{{"media", &media},       {"battery", &battery},
                                            {"hud", &hud},           {"accessories", &accessories},
                                            {"calendar", &calendar}, {"weather", &weather},
-                                           {"focus", &focus},       {"banners", &banners}};
+                                           {"focus", &focus},       {"banners", &banners},
+                                           {"files", &files}};
 
   std::vector<ViewRegistry::View> views = ViewRegistry::idleItems();
   for (const auto& section : ViewRegistry::sections()) {

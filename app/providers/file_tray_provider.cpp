@@ -1,0 +1,326 @@
+#include "providers/file_tray_provider.h"
+
+#include <QFileInfo>
+#include <QMimeDatabase>
+#include <QStandardPaths>
+#include <QtConcurrent>
+#include <cstring>
+
+#include "diagnostics/diagnostics_log.h"
+#include "logging_categories.h"
+#include "platform/file_identity.h"
+#include "qt_text.h"
+#include "settings/settings_keys.h"
+
+namespace tindra {
+
+// One running copy: what it copies and how far it got, shared with its worker thread.
+struct FileTrayProvider::Copy {
+  std::vector<FileTrayCopyRequest> requests;
+  std::int64_t totalBytes = 0;
+  std::atomic<std::int64_t> copiedBytes = 0;
+  std::atomic<bool> cancel = false;
+  QFutureWatcher<TrayCopyResult> watcher;
+};
+
+namespace {
+
+constexpr std::chrono::milliseconds progressInterval{100};
+
+QString nameOf(const std::string& path) {
+  return QFileInfo(QString::fromStdString(path)).fileName();
+}
+
+// "Already in the tray: a.txt, b.txt." and the like; nothing for no names.
+void tell(QStringList& status, const QString& before, const QStringList& names,
+          const QString& after = QString()) {
+  if (names.isEmpty()) return;
+  const QString list = names.join(QStringLiteral(", "));
+  status << ((before.isEmpty() ? list : before + QLatin1Char(' ') + list) +
+             (after.isEmpty() ? QStringLiteral(".") : QLatin1Char(' ') + after));
+}
+
+}  // namespace
+
+FileTrayProvider::FileTrayProvider(ProviderContext context, std::filesystem::path dataFolder,
+                                   std::function<double()> now,
+                                   std::function<bool(const QUrl&)> openUrl, QObject* parent)
+    : Provider(context, parent),
+      dataFolder_(std::move(dataFolder)),
+      storage_(dataFolder_),
+      now_(std::move(now)),
+      openUrl_(std::move(openUrl)),
+      viewModel_({[this](const QString& id) { open(id); },
+                  [this](const QString& id) { remove(id); }, [this] { removeAll(); },
+                  [this] { cancelCopy(); }}) {
+  progressTimer_.setInterval(progressInterval);
+  connect(&progressTimer_, &QTimer::timeout, this, &FileTrayProvider::publishProgress);
+  connect(&folders_, &QFileSystemWatcher::directoryChanged, this, &FileTrayProvider::publish);
+}
+
+FileTrayProvider::~FileTrayProvider() {
+  if (!copy_) return;
+  copy_->cancel = true;
+  copy_->watcher.waitForFinished();
+}
+
+std::filesystem::path FileTrayProvider::defaultDataFolder() {
+  return (QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
+          QStringLiteral("/tindra"))
+      .toStdString();
+}
+
+void FileTrayProvider::start() {
+  observation_ =
+      settings().observe(settings::experimentalFileTray, [this](const bool&) { publish(); });
+  FileTrayStorage::Loaded loaded = storage_.load();
+  tray_ = std::move(loaded.tray);
+  const QString kept = loaded.keptAside ? toQString(loaded.keptAside->string()) : QString();
+  using Problem = FileTrayStorage::Loaded::Problem;
+  if (!loaded.problem) {
+    diagnostics().record(
+        lcFiles(), name(), DiagnosticsLog::Outcome::ok,
+        QStringLiteral("keeping the file tray in %1").arg(toQString(storage_.listFile().string())));
+  } else if (*loaded.problem == Problem::skippedItems) {
+    diagnostics().record(lcFiles(), name(), DiagnosticsLog::Outcome::degraded,
+                         QStringLiteral("some items of the saved file tray could not be read and "
+                                        "were left out; the list as it was is kept as %1")
+                             .arg(kept));
+  } else {
+    diagnostics().record(
+        lcFiles(), name(), DiagnosticsLog::Outcome::degraded,
+        QStringLiteral("the saved file tray %1; it is kept as %2 and the tray starts empty")
+            .arg(*loaded.problem == Problem::newerVersion
+                     ? QStringLiteral("was written by a newer Tindra")
+                     : QStringLiteral("could not be read"),
+                 kept));
+  }
+  storage_.removeStaleIncoming(now_());
+  publish();
+}
+
+bool FileTrayProvider::drop(const QList<QUrl>& urls) {
+  if (!settings().read(settings::experimentalFileTray)) return false;
+  QStringList status;
+  std::vector<std::string> paths;
+  bool other = false;
+  for (const QUrl& url : urls) {
+    const QFileInfo file(url.toLocalFile());
+    if (!url.isLocalFile() || !file.exists()) {
+      other = true;
+      continue;
+    }
+    paths.push_back(file.absoluteFilePath().toStdString());
+  }
+  if (other) status << tr("Only files and folders can go in the tray.");
+  if (settings().read(settings::fileTrayMode) == FileTrayStorageMode::link) {
+    addLinks(paths, status);
+    status_ = status.join(QLatin1Char(' '));
+    save();
+    publish();
+    return true;
+  }
+  // Folders can be large: they are measured off the main thread, then admitted.
+  auto* measuring = new QFutureWatcher<std::vector<FileTrayCopyRequest>>(this);
+  connect(measuring, &QFutureWatcherBase::finished, this, [this, measuring, status] {
+    measuring->deleteLater();
+    status_ = status.join(QLatin1Char(' '));
+    measured(measuring->result());
+  });
+  measuring->setFuture(QtConcurrent::run(measureForTray, paths));
+  return true;
+}
+
+void FileTrayProvider::addLinks(const std::vector<std::string>& paths, QStringList& status) {
+  QStringList duplicates;
+  QStringList full;
+  QStringList unreadable;
+  QMimeDatabase types;
+  for (const std::string& path : paths) {
+    const std::optional<FileIdentity> identity = FileIdentity::of(path);
+    const QString shown = nameOf(path);
+    const FileTrayCandidate candidate{
+        .bookmark = identity ? identity->bookmark() : std::vector<std::uint8_t>{},
+        .displayName = shown.toStdString(),
+        .path = path,
+        .contentType = types.mimeTypeForFile(QString::fromStdString(path)).name().toStdString(),
+        .copiedBytes = std::nullopt,
+        .sourcePath = std::nullopt};
+    const FileTray::AddResult result = tray_.add({&candidate, 1}, now_());
+    if (result.duplicates > 0) duplicates << shown;
+    if (result.refusedForCapacity > 0) full << shown;
+    if (result.invalid > 0) unreadable << shown;
+  }
+  tell(status, tr("Already in the tray:"), duplicates);
+  tell(status, tr("The tray is full:"), full, tr("not added. Remove some items first."));
+  tell(status, tr("Only files and folders can go in the tray:"), unreadable);
+}
+
+void FileTrayProvider::measured(const std::vector<FileTrayCopyRequest>& requests) {
+  QStringList status{status_};
+  QStringList duplicates;
+  QStringList full;
+  QStringList tooBig;
+  QStringList failed;
+  for (const FileTrayCopyRequest& request : requests) {
+    const FileTray::CopyAdmission admission = tray_.admitCopies({&request, 1}, pending_);
+    const QString shown = nameOf(request.sourcePath);
+    if (admission.duplicates > 0) duplicates << shown;
+    if (admission.refusedForCapacity > 0) full << shown;
+    if (admission.refusedForStoreLimit > 0) tooBig << shown;
+    if (admission.invalid > 0) failed << shown;
+    for (const FileTrayCopyRequest& accepted : admission.accepted) {
+      pending_.push_back(accepted);
+      waiting_.push_back(accepted);
+    }
+  }
+  tell(status, tr("Already in the tray:"), duplicates);
+  tell(status, tr("The tray is full:"), full, tr("not added. Remove some items first."));
+  tell(status, tr("Copies in the tray are limited to 2 GB:"), tooBig,
+       tr("not added. Remove some items first."));
+  tell(status, QString(), failed, tr("could not be copied into the tray."));
+  status.removeAll(QString());
+  status_ = status.join(QLatin1Char(' ')).trimmed();
+  startCopy();
+  publish();
+}
+
+void FileTrayProvider::startCopy() {
+  if (copy_ || waiting_.empty()) return;
+  copy_ = std::make_unique<Copy>();
+  copy_->requests = std::exchange(waiting_, {});
+  for (const FileTrayCopyRequest& request : copy_->requests) copy_->totalBytes += request.byteCount;
+  connect(&copy_->watcher, &QFutureWatcherBase::finished, this,
+          [this] { copied(copy_->watcher.result()); });
+  Copy& copy = *copy_;
+  copy_->watcher.setFuture(QtConcurrent::run([&copy, folder = storage_.copiesFolder()] {
+    return copyIntoTray(copy.requests, folder, copy.copiedBytes, copy.cancel);
+  }));
+  progressTimer_.start();
+  publishProgress();
+}
+
+void FileTrayProvider::copied(const TrayCopyResult& result) {
+  QStringList status;
+  if (!status_.isEmpty()) status << status_;
+  for (const TrayCopy& copy : result.copied) {
+    const std::optional<FileIdentity> identity = FileIdentity::of(copy.copyPath);
+    const FileTrayCandidate candidate{
+        .bookmark = identity ? identity->bookmark() : std::vector<std::uint8_t>{},
+        .displayName = nameOf(copy.copyPath).toStdString(),
+        .path = copy.copyPath,
+        .contentType = QMimeDatabase()
+                           .mimeTypeForFile(QString::fromStdString(copy.copyPath))
+                           .name()
+                           .toStdString(),
+        .copiedBytes = copy.bytes,
+        .sourcePath = copy.sourcePath};
+    tray_.add({&candidate, 1}, now_());
+  }
+  QStringList failed;
+  for (const std::string& path : result.failed) failed << nameOf(path);
+  tell(status, QString(), failed, tr("could not be copied into the tray."));
+  if (result.cancelled) status << tr("The copy into the tray was stopped.");
+  for (const FileTrayCopyRequest& request : copy_->requests) {
+    std::erase(pending_, request);
+  }
+  status.removeAll(QString());
+  status_ = status.join(QLatin1Char(' ')).trimmed();
+  // Its watcher is telling us it finished: it goes once that is over.
+  QMetaObject::invokeMethod(
+      this, [finished = std::shared_ptr<Copy>(copy_.release())] {}, Qt::QueuedConnection);
+  progressTimer_.stop();
+  save();
+  publishProgress();
+  publish();
+  startCopy();
+}
+
+void FileTrayProvider::cancelCopy() {
+  if (copy_) copy_->cancel = true;
+  for (const FileTrayCopyRequest& request : waiting_) std::erase(pending_, request);
+  waiting_.clear();
+}
+
+void FileTrayProvider::open(const QString& id) {
+  const std::optional<UUID> uuid = UUID::fromText(id.toStdString());
+  for (const FileTrayItem& item : tray_.items()) {
+    if (uuid && item.id == *uuid && !missing(item)) {
+      openUrl_(QUrl::fromLocalFile(QString::fromStdString(item.path)));
+    }
+  }
+}
+
+void FileTrayProvider::remove(const QString& id) {
+  const std::optional<UUID> uuid = UUID::fromText(id.toStdString());
+  const std::optional<FileTrayItem> removed = uuid ? tray_.remove(*uuid) : std::nullopt;
+  if (!removed) return;
+  // The tray's copy goes with its item; a link's file is never touched.
+  if (removed->isCopy()) {
+    if (const auto deleted = storage_.deleteCopy(*removed); !deleted) {
+      qCWarning(lcFiles).noquote() << "could not delete the tray's copy" << toQString(removed->path)
+                                   << std::strerror(deleted.error().error);
+    }
+  }
+  status_.clear();
+  save();
+  publish();
+}
+
+void FileTrayProvider::removeAll() {
+  std::vector<QString> ids;
+  for (const FileTrayItem& item : tray_.items()) ids.push_back(toQString(item.id.text()));
+  for (const QString& id : ids) remove(id);
+}
+
+void FileTrayProvider::save() {
+  if (const auto saved = storage_.save(tray_); !saved) {
+    diagnostics().record(lcFiles(), name(), DiagnosticsLog::Outcome::failed,
+                         saved.error().code == FileTrayStorage::SaveError::Code::fileInTheWay
+                             ? QStringLiteral("the file tray is not saved: an unreadable list "
+                                              "could not be moved aside")
+                             : toQString(saved.error().failure.message(storage_.listFile())));
+  }
+}
+
+bool FileTrayProvider::missing(const FileTrayItem& item) const {
+  const std::optional<FileIdentity> now = FileIdentity::of(item.path);
+  return !now || now != FileIdentity::fromBookmark(item.bookmark);
+}
+
+void FileTrayProvider::watchFolders() {
+  if (!folders_.directories().isEmpty()) folders_.removePaths(folders_.directories());
+  QStringList folders;
+  for (const FileTrayItem& item : tray_.items()) {
+    const QString folder = QFileInfo(QString::fromStdString(item.path)).absolutePath();
+    if (!folders.contains(folder) && QFileInfo::exists(folder)) folders << folder;
+  }
+  if (!folders.isEmpty()) folders_.addPaths(folders);
+}
+
+void FileTrayProvider::publish() {
+  QVariantList items;
+  for (const FileTrayItem& item : tray_.items()) {
+    items << QVariantMap{{"id", toQString(item.id.text())},
+                         {"name", toQString(item.displayName)},
+                         {"url", QUrl::fromLocalFile(toQString(item.path)).toString()},
+                         {"missing", missing(item)},
+                         {"copy", item.isCopy()}};
+  }
+  watchFolders();
+  viewModel_.set(settings().read(settings::experimentalFileTray), items, status_);
+}
+
+void FileTrayProvider::publishProgress() {
+  if (!copy_) {
+    viewModel_.setProgress(false, 0, QString());
+    return;
+  }
+  const double done = copy_->totalBytes > 0 ? static_cast<double>(copy_->copiedBytes.load()) /
+                                                  static_cast<double>(copy_->totalBytes)
+                                            : 0.0;
+  const int count = static_cast<int>(copy_->requests.size());
+  viewModel_.setProgress(true, done, tr("Copying %n item(s) into the tray…", nullptr, count));
+}
+
+}  // namespace tindra
