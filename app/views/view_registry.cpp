@@ -17,7 +17,7 @@ const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
       {QStringLiteral("media"), {{QStringLiteral("media"), view("MediaPanel.qml")}}},
       {QStringLiteral("calendar"), {{QStringLiteral("calendar"), view("CalendarPanel.qml")}}},
       {QStringLiteral("weather"), {{QStringLiteral("weather"), view("WeatherPanel.qml")}}},
-      {QStringLiteral("files"), {{QStringLiteral("files"), view("FileTrayPanel.qml")}}},
+      {QStringLiteral("fileTray"), {{QStringLiteral("files"), view("FileTrayPanel.qml")}}},
       {QStringLiteral("batteries"),
        {{QStringLiteral("battery"), view("BatteriesPanel.qml")},
         {QStringLiteral("accessories"), view("AccessoriesPanel.qml")}}},
