@@ -30,12 +30,13 @@ class NotchContentTest : public ::testing::Test {
 
 TEST_F(NotchContentTest, PinnedSectionsComeInTheirOrderAndUnknownNamesAreSkipped) {
   // The level indicator's and the calls' sections come first and whatever is pinned.
-  EXPECT_EQ(NotchContent::shownSections({}),
-            (QStringList{"hud", "banners", "media", "calendar", "weather", "fileTray", "batteries"}));
+  EXPECT_EQ(NotchContent::shownSections({}), (QStringList{"hud", "banners", "media", "calendar",
+                                                          "weather", "fileTray", "batteries"}));
   EXPECT_EQ(NotchContent::shownSections({"batteries", "weather?", "media", "batteries", "hud"}),
             (QStringList{"hud", "banners", "batteries", "media"}));
-  EXPECT_EQ(NotchContent::shownSections({"nonsense"}),
-            (QStringList{"hud", "banners", "media", "calendar", "weather", "fileTray", "batteries"}));
+  EXPECT_EQ(
+      NotchContent::shownSections({"nonsense"}),
+      (QStringList{"hud", "banners", "media", "calendar", "weather", "fileTray", "batteries"}));
 
   // Only sections whose provider runs are drawn.
   EXPECT_TRUE(content_.sections().isEmpty());

@@ -47,9 +47,10 @@ std::vector<std::string> stringsArgument(DBusMessageIter& iter) {
   return strings;
 }
 
-// The string hints we read ("desktop-entry", "category"); other hints are skipped.
-void readHints(DBusMessageIter& iter, DesktopNotification& notification) {
-  if (dbus_message_iter_get_arg_type(&iter) != DBUS_TYPE_ARRAY) return;
+// The string members of an a{sv}, by name; members of other types are skipped.
+std::map<std::string, std::string> stringMembers(DBusMessageIter& iter) {
+  std::map<std::string, std::string> members;
+  if (dbus_message_iter_get_arg_type(&iter) != DBUS_TYPE_ARRAY) return members;
   DBusMessageIter entry;
   dbus_message_iter_recurse(&iter, &entry);
   for (; dbus_message_iter_get_arg_type(&entry) == DBUS_TYPE_DICT_ENTRY;
@@ -63,9 +64,18 @@ void readHints(DBusMessageIter& iter, DesktopNotification& notification) {
     }
     DBusMessageIter value;
     dbus_message_iter_recurse(&field, &value);
-    if (key == "desktop-entry") notification.desktopEntry = stringArgument(value);
-    if (key == "category") notification.category = stringArgument(value);
+    if (dbus_message_iter_get_arg_type(&value) == DBUS_TYPE_STRING) {
+      members[key] = stringArgument(value);
+    }
   }
+  return members;
+}
+
+// The hints we read ("desktop-entry", "category"); other hints are skipped.
+void readHints(DBusMessageIter& iter, DesktopNotification& notification) {
+  std::map<std::string, std::string> hints = stringMembers(iter);
+  notification.desktopEntry = std::move(hints["desktop-entry"]);
+  notification.category = std::move(hints["category"]);
   if (notification.desktopEntry.ends_with(".desktop")) {
     notification.desktopEntry.resize(notification.desktopEntry.size() - 8);
   }
@@ -92,28 +102,6 @@ DesktopNotification readNotify(DBusMessage* message) {
   return notification;
 }
 
-// A{sv} of GLib's notification: the string members we read.
-void readGtkFields(DBusMessageIter& iter, DesktopNotification& notification) {
-  if (dbus_message_iter_get_arg_type(&iter) != DBUS_TYPE_ARRAY) return;
-  DBusMessageIter entry;
-  dbus_message_iter_recurse(&iter, &entry);
-  for (; dbus_message_iter_get_arg_type(&entry) == DBUS_TYPE_DICT_ENTRY;
-       dbus_message_iter_next(&entry)) {
-    DBusMessageIter field;
-    dbus_message_iter_recurse(&entry, &field);
-    const std::string key = stringArgument(field);
-    if (!dbus_message_iter_next(&field) ||
-        dbus_message_iter_get_arg_type(&field) != DBUS_TYPE_VARIANT) {
-      continue;
-    }
-    DBusMessageIter value;
-    dbus_message_iter_recurse(&field, &value);
-    if (key == "title") notification.summary = stringArgument(value);
-    if (key == "body") notification.body = stringArgument(value);
-    if (key == "category") notification.category = stringArgument(value);
-  }
-}
-
 // AddNotification(app_id s, id s, notification a{sv}) of org.gtk.Notifications, which GNOME's
 // own applications and the notification portal use: the application id is its desktop entry.
 DesktopNotification readGtkNotification(DBusMessage* message) {
@@ -123,7 +111,10 @@ DesktopNotification readGtkNotification(DBusMessage* message) {
   notification.desktopEntry = stringArgument(iter);
   dbus_message_iter_next(&iter);
   dbus_message_iter_next(&iter);  // its own id
-  readGtkFields(iter, notification);
+  std::map<std::string, std::string> fields = stringMembers(iter);
+  notification.summary = std::move(fields["title"]);
+  notification.body = std::move(fields["body"]);
+  notification.category = std::move(fields["category"]);
   return notification;
 }
 

@@ -1,28 +1,15 @@
-// GIO's headers name a struct member `signals`, which Qt defines as a keyword: they come first.
-#pragma push_macro("signals")
-#undef signals
-#include <gio/gdesktopappinfo.h>
-#pragma pop_macro("signals")
+#include "platform/linux/desktop_entry_categories.h"
 
 #include <QByteArrayList>
 #include <map>
-#include <memory>
 
-#include "platform/linux/desktop_entry_categories.h"
+#include "platform/linux/gio_desktop_entry.h"
 
 namespace tindra {
 
 namespace {
 
-struct Unref {
-  void operator()(void* object) const { g_object_unref(object); }
-};
-using Entry = std::unique_ptr<GDesktopAppInfo, Unref>;
-
-Entry named(const std::string& name) {
-  if (name.empty() || name.find('/') != std::string::npos) return nullptr;
-  return Entry(g_desktop_app_info_new((name + ".desktop").c_str()));
-}
+using Entry = gio::DesktopEntry;
 
 Entry withWindowClass(const std::string& windowClass) {
   if (windowClass.empty()) return nullptr;
@@ -50,9 +37,10 @@ bool isGameApplication(const std::string& applicationId, const std::string& wind
   static std::map<std::pair<std::string, std::string>, bool> known;
   const auto key = std::pair(applicationId, windowClass);
   if (const auto found = known.find(key); found != known.end()) return found->second;
-  Entry entry = named(applicationId);
-  if (!entry) entry = named(windowClass);
-  if (!entry) entry = named(QByteArray::fromStdString(windowClass).toLower().toStdString());
+  Entry entry = gio::desktopEntry(applicationId);
+  if (!entry) entry = gio::desktopEntry(windowClass);
+  if (!entry)
+    entry = gio::desktopEntry(QByteArray::fromStdString(windowClass).toLower().toStdString());
   if (!entry) entry = withWindowClass(windowClass);
   return known[key] = isGame(entry);
 }
