@@ -3,9 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QDrag>
+#include <QDragEnterEvent>
 #include <QFile>
 #include <QMimeData>
 #include <QProcess>
+#include <QQuickItem>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
@@ -18,6 +20,38 @@
 
 namespace tindra {
 namespace {
+
+// A window that takes dropped files, as a file manager or a mail program does.
+class DropTarget : public QWidget {
+ public:
+  DropTarget() { setAcceptDrops(true); }
+  QList<QUrl> dropped;
+
+ protected:
+  void dragEnterEvent(QDragEnterEvent* event) override { event->acceptProposedAction(); }
+  void dragMoveEvent(QDragMoveEvent* event) override { event->acceptProposedAction(); }
+  void dropEvent(QDropEvent* event) override {
+    dropped = event->mimeData()->urls();
+    event->acceptProposedAction();
+  }
+};
+
+// Drives the real pointer with xdotool: one command, waited for.
+void movePointer(const QStringList& steps) {
+  QProcess xdotool;
+  xdotool.start(QStringLiteral("xdotool"), steps);
+  xdotool.waitForStarted();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return xdotool.state() == QProcess::NotRunning; }, 10000));
+}
+
+// The item called `name` among the visual descendants of `item`.
+QQuickItem* findItem(QQuickItem* item, const QString& name) {
+  if (item->objectName() == name) return item;
+  for (QQuickItem* child : item->childItems()) {
+    if (QQuickItem* found = findItem(child, name)) return found;
+  }
+  return nullptr;
+}
 
 // A window that starts dragging a file when pressed, as a file manager does.
 class DragSource : public QWidget {
@@ -38,8 +72,8 @@ class DragSource : public QWidget {
 };
 
 // A file dragged from another window with the real pointer (XTest) and dropped on the notch goes
-// into the tray.
-TEST(FileTrayDesktopTest, AFileDraggedOntoTheNotchLandsInTheTray) {
+// into the tray, and from the opened tray into another window.
+TEST(FileTrayDesktopTest, FilesComeInByDragAndGoOutTheSameWay) {
   TindraApp app({.animated = false});
   ASSERT_TRUE(app.settings().write(settings::experimentalFileTray, true));
   QTemporaryDir folder;
@@ -53,34 +87,76 @@ TEST(FileTrayDesktopTest, AFileDraggedOntoTheNotchLandsInTheTray) {
   NotchWindow& notch = *app.notches().windows().front();
   const QPoint target = notch.geometry().topLeft() + notch.notchRect().center().toPoint();
 
-  QProcess pointer;
-  pointer.start(QStringLiteral("xdotool"), {"mousemove",
-                                            "400",
-                                            "500",
-                                            "mousedown",
-                                            "1",
-                                            "sleep",
-                                            "0.3",
-                                            "mousemove",
-                                            "700",
-                                            "300",
-                                            "sleep",
-                                            "0.3",
-                                            "mousemove",
-                                            QString::number(target.x()),
-                                            QString::number(target.y() + 2),
-                                            "sleep",
-                                            "0.5",
-                                            "mousemove",
-                                            QString::number(target.x() + 3),
-                                            QString::number(target.y() + 4),
-                                            "sleep",
-                                            "0.5",
-                                            "mouseup",
-                                            "1"});
+  movePointer({"mousemove",
+               "400",
+               "500",
+               "mousedown",
+               "1",
+               "sleep",
+               "0.3",
+               "mousemove",
+               "700",
+               "300",
+               "sleep",
+               "0.3",
+               "mousemove",
+               QString::number(target.x()),
+               QString::number(target.y() + 2),
+               "sleep",
+               "0.5",
+               "mousemove",
+               QString::number(target.x() + 3),
+               QString::number(target.y() + 4),
+               "sleep",
+               "0.5",
+               "mouseup",
+               "1"});
   ASSERT_TRUE(QTest::qWaitFor([&] { return app.fileTray().tray().items().size() == 1; }, 10000));
   EXPECT_EQ(app.fileTray().tray().items()[0].path, dropped.fileName().toStdString());
-  pointer.waitForFinished();
+
+  // And out again, from the opened notch to another application.
+  DropTarget receiver;
+  receiver.setGeometry(900, 500, 300, 200);
+  receiver.show();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(&receiver));
+  QQuickItem* row = nullptr;
+  movePointer({"mousemove", QString::number(target.x()), QString::number(target.y())});
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] {
+        row = findItem(notch.contentItem(), QStringLiteral("trayItem:dropped.txt"));
+        return notch.isExpanded() && row != nullptr && row->isVisible();
+      },
+      5000));
+  QTest::qWait(300);  // the panel settles where it opens
+  const QPoint from = row->mapToGlobal(QPointF(30, row->height() / 2)).toPoint();
+  const QPoint to = receiver.geometry().center();
+  movePointer({"mousemove",
+               QString::number(from.x()),
+               QString::number(from.y()),
+               "sleep",
+               "0.2",
+               "mousedown",
+               "1",
+               "mousemove",
+               QString::number(from.x() + 20),
+               QString::number(from.y() + 20),
+               "sleep",
+               "0.2",
+               "mousemove",
+               QString::number(to.x()),
+               QString::number(to.y()),
+               "sleep",
+               "0.3",
+               "mousemove",
+               QString::number(to.x() + 5),
+               QString::number(to.y() + 5),
+               "sleep",
+               "0.3",
+               "mouseup",
+               "1"});
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !receiver.dropped.isEmpty(); }, 5000));
+  EXPECT_EQ(receiver.dropped, QList<QUrl>{QUrl::fromLocalFile(dropped.fileName())});
+  EXPECT_TRUE(QFile::exists(dropped.fileName()));  // handed out, not moved
 }
 
 }  // namespace

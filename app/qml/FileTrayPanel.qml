@@ -79,6 +79,7 @@ Column {
 
             required property var modelData
 
+            objectName: "trayItem:" + row.modelData.name
             width: root.width
             height: row.modelData.missing ? 34 : 22
 
