@@ -1,5 +1,5 @@
 # Tindra's commands. `make test` is what CI runs on a fresh machine.
-.PHONY: deps build test test-default test-asan fuzz-smoke run bench fuzz format tidy clean
+.PHONY: deps build test test-default test-asan fuzz-smoke run bench fuzz format tidy clean install package
 
 FUZZ_SECONDS ?= 5
 
@@ -23,6 +23,13 @@ test: deps
 
 run: build
 	scripts/run
+
+# PREFIX=/usr/local by default; DESTDIR is honoured as usual.
+install: build
+	cmake --install build/default --prefix $(or $(PREFIX),/usr/local)
+
+package: build
+	cd build/default && cpack -G DEB
 
 bench: build
 	scripts/bench

@@ -1,9 +1,13 @@
 #include "shell/diagnostics_window.h"
 
+#include <QClipboard>
 #include <QFontDatabase>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPushButton>
 #include <QVBoxLayout>
+
+#include "diagnostics/diagnostics_report.h"
 
 namespace tindra {
 
@@ -29,6 +33,10 @@ DiagnosticsWindow::DiagnosticsWindow(DiagnosticsLog& log, std::vector<Check> che
     buttons->addWidget(button);
   }
   buttons->addStretch();
+  auto* copy = new QPushButton(tr("Copy report"));
+  connect(copy, &QPushButton::clicked, this,
+          [&log] { QGuiApplication::clipboard()->setText(diagnosticsReport(log)); });
+  buttons->addWidget(copy);
   layout->addLayout(buttons);
 }
 

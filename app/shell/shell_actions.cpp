@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QLabel>
 
+#include "logging_categories.h"
 #include "settings/settings_keys.h"
 #include "shell/calendar_list_editor.h"
 #include "shell/settings_window.h"
@@ -16,14 +17,33 @@ ShellActions::ShellActions(SettingsStore& settings, DiagnosticsLog& diagnostics,
       diagnostics_(diagnostics),
       settingsAction_(tr("Settings…")),
       diagnosticsAction_(tr("Diagnostics…")),
-      quitAction_(tr("Quit Tindra")) {
+      startAtLoginAction_(tr("Start at Login")),
+      quitAction_(tr("Quit Tindra")),
+      autostart_(AutostartEntry::forThisProgram()) {
   connect(&settingsAction_, &QAction::triggered, this, &ShellActions::openSettings);
   connect(&diagnosticsAction_, &QAction::triggered, this, &ShellActions::openDiagnostics);
   connect(&quitAction_, &QAction::triggered, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+  // The autostart entry itself is the setting; it is read again each time the menu opens.
+  startAtLoginAction_.setCheckable(true);
+  connect(&menu_, &QMenu::aboutToShow, this,
+          [this] { startAtLoginAction_.setChecked(autostart_.enabled()); });
+  connect(&startAtLoginAction_, &QAction::toggled, this, &ShellActions::startAtLogin);
+  startAtLoginAction_.setChecked(autostart_.enabled());
   menu_.addAction(&settingsAction_);
   menu_.addAction(&diagnosticsAction_);
   menu_.addSeparator();
+  menu_.addAction(&startAtLoginAction_);
+  menu_.addSeparator();
   menu_.addAction(&quitAction_);
+}
+
+void ShellActions::startAtLogin(bool on) {
+  if (on == autostart_.enabled()) return;
+  if (const QString problem = autostart_.setEnabled(on); !problem.isEmpty()) {
+    diagnostics_.record(lcApp(), QStringLiteral("autostart"), DiagnosticsLog::Outcome::failed,
+                        problem);
+    startAtLoginAction_.setChecked(autostart_.enabled());
+  }
 }
 
 ShellActions::~ShellActions() {

@@ -9,6 +9,7 @@
 
 #include "platform/calendar_backend.h"
 #include "settings/settings_keys.h"
+#include "shell/autostart_entry.h"
 #include "shell/diagnostics_window.h"
 #include "shell/settings_window.h"
 
@@ -25,11 +26,13 @@ class ShellActions : public QObject {
   ShellActions(SettingsStore& settings, DiagnosticsLog& diagnostics, QObject* parent = nullptr);
   ~ShellActions() override;
 
-  // A menu with Settings…, Diagnostics… and Quit; the tray and the notch share it.
+  // A menu with Settings…, Diagnostics…, Start at Login and Quit; the tray and the notch share it.
   QMenu* menu() { return &menu_; }
   QAction* settingsAction() { return &settingsAction_; }
   QAction* diagnosticsAction() { return &diagnosticsAction_; }
   QAction* quitAction() { return &quitAction_; }
+  // Checked while the desktop starts Tindra at login (its XDG autostart entry exists).
+  QAction* startAtLoginAction() { return &startAtLoginAction_; }
 
   // Shows the Settings window, making it on first use.
   void openSettings();
@@ -56,6 +59,8 @@ class ShellActions : public QObject {
   // A check the Diagnostics window offers as a button; add before it is first opened.
   void addCheck(DiagnosticsWindow::Check check) { checks_.push_back(std::move(check)); }
   void openDiagnostics();
+  // Writes or removes the autostart entry; a failure is told in the diagnostics log.
+  void startAtLogin(bool on);
   DiagnosticsWindow* diagnosticsWindow() const { return diagnosticsWindow_; }
 
  private:
@@ -63,7 +68,9 @@ class ShellActions : public QObject {
   DiagnosticsLog& diagnostics_;
   QAction settingsAction_;
   QAction diagnosticsAction_;
+  QAction startAtLoginAction_;
   QAction quitAction_;
+  AutostartEntry autostart_;
   QMenu menu_;
   QPointer<SettingsWindow> settingsWindow_;
   QPointer<DiagnosticsWindow> diagnosticsWindow_;

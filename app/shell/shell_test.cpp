@@ -3,12 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <QCheckBox>
+#include <QClipboard>
 #include <QComboBox>
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QFile>
+#include <QGuiApplication>
 #include <QLineEdit>
+#include <QPushButton>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -16,6 +19,7 @@
 #include "notch/notch_window.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
+#include "shell/autostart_entry.h"
 #include "shell/settings_window.h"
 #include "shell/shell_actions.h"
 #include "shell/tray_item.h"
@@ -71,13 +75,34 @@ TEST(TrayUnavailableTest, SettingsAndQuitStayReachableFromTheNotch) {
     if (!action->isSeparator()) labels << action->text();
   }
   EXPECT_EQ(labels, (QStringList{QStringLiteral("Settings…"), QStringLiteral("Diagnostics…"),
-                                 QStringLiteral("Quit Tindra")}));
+                                 QStringLiteral("Start at Login"), QStringLiteral("Quit Tindra")}));
 
   // Every provider's start-up check is there; this session has no system bus for UPower.
   app.shell().diagnosticsAction()->trigger();
   ASSERT_NE(app.shell().diagnosticsWindow(), nullptr);
   EXPECT_TRUE(app.shell().diagnosticsWindow()->text().contains(QStringLiteral("no system bus")));
   EXPECT_TRUE(app.shell().diagnosticsWindow()->text().contains(QStringLiteral("media")));
+  // "Copy report" puts the versions, the session and the whole log on the clipboard.
+  for (QPushButton* button : app.shell().diagnosticsWindow()->findChildren<QPushButton*>()) {
+    if (button->text() == QLatin1String("Copy report")) button->click();
+  }
+  const QString report = QGuiApplication::clipboard()->text();
+  EXPECT_TRUE(report.startsWith(QStringLiteral("Tindra " TINDRA_VERSION ", Qt ")))
+      << report.toStdString();
+  EXPECT_TRUE(report.contains(QStringLiteral("Qt platform xcb")));
+  EXPECT_TRUE(report.contains(QStringLiteral("no system bus")));
+
+  // Start at Login is the desktop's autostart entry, there while checked.
+  const std::filesystem::path autostart = AutostartEntry::forThisProgram().file();
+  EXPECT_TRUE(autostart.string().ends_with("/autostart/com.brenvik.Tindra.desktop"));
+  app.shell().startAtLoginAction()->trigger();
+  QFile entry(QString::fromStdString(autostart.string()));
+  ASSERT_TRUE(entry.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(entry.readAll().contains(
+      (QStringLiteral("\nExec=\"") + QCoreApplication::applicationFilePath() + u'"').toUtf8()));
+  app.shell().startAtLoginAction()->trigger();
+  EXPECT_FALSE(std::filesystem::exists(autostart));
+  EXPECT_FALSE(app.shell().startAtLoginAction()->isChecked());
 
   app.shell().settingsAction()->trigger();
   ASSERT_NE(app.shell().settingsWindow(), nullptr);

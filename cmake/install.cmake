@@ -1,0 +1,34 @@
+# `cmake --install` and the Debian package: the program in bin, its now-playing helper in
+# libexec/tindra (where the program looks for it), the desktop entry and the icon where
+# desktops find them. `cpack -G DEB` in a build folder makes the package, its dependencies
+# worked out from the programs' shared libraries.
+include(GNUInstallDirs)
+
+install(TARGETS tindra RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
+install(TARGETS tindra-mpris-adapter RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/tindra")
+install(FILES "${PROJECT_SOURCE_DIR}/packaging/com.brenvik.Tindra.desktop"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(FILES "${PROJECT_SOURCE_DIR}/packaging/com.brenvik.Tindra.svg"
+  DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
+
+set(CPACK_PACKAGE_NAME "tindra")
+set(CPACK_PACKAGE_VENDOR "Brenvik")
+set(CPACK_PACKAGE_CONTACT "${TINDRA_SUPPORT_EMAIL}")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "The notch as a small live display")
+set(CPACK_PACKAGE_HOMEPAGE_URL "${TINDRA_WEB_ADDRESS}")
+set(CPACK_PACKAGING_INSTALL_PREFIX "/usr")
+set(CPACK_DEBIAN_PACKAGE_SECTION "utils")
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_STRIP_FILES ON)
+# Qt's QML modules are loaded at run time, so no library dependency names them.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS
+  "qml6-module-qtqml, qml6-module-qtqml-models, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-window, qml6-module-qtquick-layouts, qml6-module-qtquick-shapes")
+set(CPACK_GENERATOR "DEB")
+include(CPack)
+
+if(TINDRA_BUILD_TESTS)
+  add_test(NAME install.Tree
+    COMMAND "${PROJECT_SOURCE_DIR}/scripts/check-install" "${PROJECT_BINARY_DIR}")
+  set_tests_properties(install.Tree PROPERTIES LABELS "install" TIMEOUT 120)
+endif()
