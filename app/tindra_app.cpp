@@ -114,12 +114,13 @@ void TindraApp::startProviders() {
   }
   // A machine without a battery (a desktop) has no battery settings. Nothing draws above a Linux
   // screen locker: the lock-screen widgets are not offered, and their details not shown. This
-  // desktop has no Mission Control and no AirDrop.
+  // desktop has no Mission Control and no AirDrop, and its package manager updates Tindra.
   auto* battery = static_cast<BatteryViewModel*>(provider(QStringLiteral("battery"))->viewModel());
   shell_->setHiddenSettings([battery](std::string_view name) {
     return (!battery->available() && name.starts_with("battery")) ||
            name.starts_with("lockScreen") || name == settings::lockWidgetOffset.name ||
-           name == settings::hideDuringMissionControl.name || name == settings::airDropNotices.name;
+           name == settings::hideDuringMissionControl.name ||
+           name == settings::airDropNotices.name || name == settings::receiveBetaUpdates.name;
   });
   shell_->addNote(
       std::string(settings::experimentalLockScreen.name),

@@ -4,7 +4,9 @@
 #include <QComboBox>
 #include <QDoubleSpinBox>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
 #include <QScrollArea>
 #include <QSignalBlocker>
 #include <QSpinBox>
@@ -15,6 +17,7 @@
 #include "base/json_reader.h"
 #include "base/json_writer.h"
 #include "qt_text.h"
+#include "shell/settings_pages.h"
 
 namespace tindra {
 
@@ -30,31 +33,34 @@ constexpr double maxExactInteger = 9007199254740992.0;
 SettingsWindow::SettingsWindow(SettingsStore& settings, QWidget* parent)
     : QWidget(parent), settings_(settings) {
   setWindowTitle(tr("Tindra Settings"));
-  resize(620, 720);
-  search_.setPlaceholderText(tr("Search"));
+  resize(820, 640);
+  search_.setPlaceholderText(tr("Search settings"));
   search_.setClearButtonEnabled(true);
   connect(&search_, &QLineEdit::textChanged, this, &SettingsWindow::filter);
+  pageList_.setFixedWidth(200);
+  connect(&pageList_, &QListWidget::currentRowChanged, &stack_, &QStackedWidget::setCurrentIndex);
 
-  auto* content = new QWidget;
-  auto* grid = new QGridLayout(content);
-  grid->setColumnStretch(1, 1);
+  for (const SettingsPage& page : settingsPages()) addPage(page.title);
   std::vector<std::string> names;
-  grid_ = grid;
-  int line = 0;
+  std::vector<int> lines(pages_.size(), 0);
   // Two lines a key: its row, and below it a place for what belongs with it (setExtra).
   for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
-    addRow(*grid, line, key);
-    line += 2;
+    const int page = std::max(0, settingsPageOf(key.name));
+    addRow(page, lines[page], key);
+    lines[page] += 2;
     names.emplace_back(key.name);
   }
-  grid->setRowStretch(line, 1);
+  for (std::size_t page = 0; page < pages_.size(); ++page) {
+    pages_[page].grid->setRowStretch(lines[page], 1);
+  }
+  pageList_.setCurrentRow(0);
 
-  auto* scroll = new QScrollArea;
-  scroll->setWidgetResizable(true);
-  scroll->setWidget(content);
   auto* layout = new QVBoxLayout(this);
   layout->addWidget(&search_);
-  layout->addWidget(scroll);
+  auto* body = new QHBoxLayout;
+  body->addWidget(&pageList_);
+  body->addWidget(&stack_, 1);
+  layout->addLayout(body, 1);
   problem_.setStyleSheet(QStringLiteral("color: #d70015"));
   problem_.setWordWrap(true);
   problem_.hide();
@@ -64,14 +70,60 @@ SettingsWindow::SettingsWindow(SettingsStore& settings, QWidget* parent)
       settings_.observe(std::move(names), [this](std::string_view name) { refresh(name); });
 }
 
+void SettingsWindow::addPage(const QString& title) {
+  const int index = static_cast<int>(pages_.size());
+  pageList_.addItem(title);
+  auto* content = new QWidget;
+  auto* column = new QVBoxLayout(content);
+  Page page;
+  page.top = new QVBoxLayout;
+  column->addLayout(page.top);
+  page.grid = new QGridLayout;
+  page.grid->setColumnStretch(1, 1);
+  column->addLayout(page.grid, 1);
+  if (!settingsPages()[static_cast<std::size_t>(index)].keys.empty()) {
+    auto* resetAll = new QPushButton(tr("Reset Page"));
+    resetAll->setToolTip(tr("Use the default value of every setting on this page"));
+    connect(resetAll, &QPushButton::clicked, this, [this, index] { resetPage(index); });
+    column->addWidget(resetAll, 0, Qt::AlignLeft);
+  }
+  page.scroll = new QScrollArea;
+  page.scroll->setWidgetResizable(true);
+  page.scroll->setWidget(content);
+  stack_.addWidget(page.scroll);
+  pages_.push_back(page);
+}
+
+void SettingsWindow::addToPage(const QString& title, QWidget* widget) {
+  for (int page = 0; page < pageList_.count(); ++page) {
+    if (pageList_.item(page)->text() == title) {
+      pages_[static_cast<std::size_t>(page)].top->addWidget(widget);
+      return;
+    }
+  }
+  delete widget;
+}
+
+bool SettingsWindow::isListed(std::string_view name) const {
+  const auto row = rows_.find(name);
+  return row != rows_.end() && !row->second.label->isHidden();
+}
+
+void SettingsWindow::resetPage(int page) {
+  for (const auto& [name, row] : rows_) {
+    if (row.page == page && (!hidden_ || !hidden_(name))) reset(name);
+  }
+}
+
 QWidget* SettingsWindow::editorFor(std::string_view name) const {
   auto row = rows_.find(name);
   return row == rows_.end() ? nullptr : row->second.editor;
 }
 
-void SettingsWindow::addRow(QGridLayout& grid, int line,
-                            const settings::SettingsKeyDescription& key) {
+void SettingsWindow::addRow(int page, int line, const settings::SettingsKeyDescription& key) {
+  QGridLayout& grid = *pages_[static_cast<std::size_t>(page)].grid;
   Row row = makeEditor(key);
+  row.page = page;
   // The key's name, and below it in grey what it is for.
   auto* label = new QLabel(
       QStringLiteral("%1<br><small style=\"color: gray\">%2</small>")
@@ -79,6 +131,7 @@ void SettingsWindow::addRow(QGridLayout& grid, int line,
   label->setWordWrap(true);
   label->setToolTip(toQString(key.description));
   row.label = label;
+  label->setProperty("line", line);
   auto* reset = new QToolButton;
   reset->setText(tr("Reset"));
   reset->setToolTip(tr("Use the default value"));
@@ -220,7 +273,8 @@ void SettingsWindow::setExtra(std::string_view name, QWidget* extra) {
   }
   delete row->second.extra;
   row->second.extra = extra;
-  grid_->addWidget(extra, row->second.line + 1, 0, 1, 3);
+  pages_[static_cast<std::size_t>(row->second.page)].grid->addWidget(extra, row->second.line + 1, 0,
+                                                                     1, 3);
   filter(search_.text());
 }
 
@@ -230,14 +284,42 @@ void SettingsWindow::setHidden(std::function<bool(std::string_view name)> hidden
 }
 
 void SettingsWindow::filter(const QString& text) {
+  const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
+  std::vector<QWidget*> firstFound(pages_.size(), nullptr);
   for (const auto& [name, row] : rows_) {
-    const bool match = (!hidden_ || !hidden_(name)) &&
-                       (text.isEmpty() || toQString(name).contains(text, Qt::CaseInsensitive) ||
-                        row.label->toolTip().contains(text, Qt::CaseInsensitive));
+    const QString about = toQString(name) + QLatin1Char(' ') + row.label->toolTip();
+    const bool match =
+        (!hidden_ || !hidden_(name)) && std::ranges::all_of(words, [&](const QString& word) {
+          return about.contains(word, Qt::CaseInsensitive);
+        });
     row.label->setVisible(match);
     row.editor->setVisible(match);
     row.reset->setVisible(match);
     if (row.extra != nullptr) row.extra->setVisible(match);
+    QWidget*& first = firstFound[static_cast<std::size_t>(row.page)];
+    if (match && (first == nullptr || row.line < first->property("line").toInt())) {
+      first = row.label;
+    }
+  }
+  if (words.isEmpty()) {
+    for (int page = 0; page < pageList_.count(); ++page)
+      pageList_.item(page)->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+    return;
+  }
+  // Pages without a match are greyed out; the first page with one is shown at its first match.
+  int jumpTo = -1;
+  for (std::size_t page = 0; page < pages_.size(); ++page) {
+    const bool found = firstFound[page] != nullptr;
+    pageList_.item(static_cast<int>(page))
+        ->setFlags(found ? Qt::ItemIsEnabled | Qt::ItemIsSelectable : Qt::NoItemFlags);
+    if (found && jumpTo < 0) jumpTo = static_cast<int>(page);
+  }
+  const int current = stack_.currentIndex();
+  if (jumpTo >= 0 && firstFound[static_cast<std::size_t>(current)] == nullptr) {
+    pageList_.setCurrentRow(jumpTo);
+  }
+  if (QWidget* first = firstFound[static_cast<std::size_t>(stack_.currentIndex())]) {
+    pages_[static_cast<std::size_t>(stack_.currentIndex())].scroll->ensureWidgetVisible(first);
   }
 }
 

@@ -1,11 +1,15 @@
-// SettingsWindow: every preference Tindra keeps, listed from the key table with its description, an
-// editor that fits its type, a search field, and a reset per key. Edits are written through the
-// store at once; changes from elsewhere (another process, the program itself) show up as they
-// happen. A write that fails is said below the list, with the reason, until a later one succeeds.
+// SettingsWindow: every preference Tindra keeps, on pages by subsystem (settings_pages.h), each
+// with its description, an editor that fits its type and a reset, and a reset for the whole page.
+// The search field keeps only the settings whose name or description has the words, greys out the
+// pages without one and jumps to the first. Edits are written through the store at once; changes
+// from elsewhere (another process, the program itself) show up as they happen. A write that fails
+// is said below the pages, with the reason, until a later one succeeds.
 #pragma once
 
 #include <QLabel>
 #include <QLineEdit>
+#include <QListWidget>
+#include <QStackedWidget>
 #include <QWidget>
 #include <functional>
 #include <map>
@@ -15,6 +19,8 @@
 #include "settings/settings_store.h"
 
 class QGridLayout;
+class QScrollArea;
+class QVBoxLayout;
 
 namespace tindra {
 
@@ -33,9 +39,27 @@ class SettingsWindow : public QWidget {
   void setExtra(std::string_view name, QWidget* extra);
   // Keys that do not apply here (the battery's on a desktop) are not listed.
   void setHidden(std::function<bool(std::string_view name)> hidden);
+  // Puts `widget` (owned from now on) at the top of the page called `title` (the checks on the
+  // Diagnostics page).
+  void addToPage(const QString& title, QWidget* widget);
+
+  // What the search field does with `text`.
+  void search(const QString& text) { search_.setText(text); }
+  int currentPage() const { return stack_.currentIndex(); }
+  void showPage(int page) { pageList_.setCurrentRow(page); }
+  // Whether the key's row is listed now (not hidden, and found by the search).
+  bool isListed(std::string_view name) const;
+  // Resets every key listed on the page.
+  void resetPage(int page);
 
  private:
+  struct Page {
+    QScrollArea* scroll = nullptr;
+    QGridLayout* grid = nullptr;
+    QVBoxLayout* top = nullptr;  // above the grid: what addToPage puts there
+  };
   struct Row {
+    int page = 0;
     QWidget* label = nullptr;
     QWidget* editor = nullptr;
     QWidget* reset = nullptr;
@@ -44,8 +68,9 @@ class SettingsWindow : public QWidget {
     std::function<void(const JSONValue&)> show;  // puts a value in the editor
   };
 
-  void addRow(QGridLayout& grid, int line, const settings::SettingsKeyDescription& key);
+  void addRow(int page, int line, const settings::SettingsKeyDescription& key);
   Row makeEditor(const settings::SettingsKeyDescription& key);
+  void addPage(const QString& title);
   void refresh(std::string_view name);
   void filter(const QString& text);
   void write(std::string_view name, JSONValue value);
@@ -54,8 +79,10 @@ class SettingsWindow : public QWidget {
 
   SettingsStore& settings_;
   SettingsObservation observation_;
-  QGridLayout* grid_ = nullptr;
   QLineEdit search_;
+  QListWidget pageList_;
+  QStackedWidget stack_;
+  std::vector<Page> pages_;
   QLabel problem_;
   std::map<std::string, Row, std::less<>> rows_;
   std::function<bool(std::string_view)> hidden_;

@@ -1,11 +1,18 @@
 #include "shell/shell_actions.h"
 
+#include <QClipboard>
 #include <QCoreApplication>
+#include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
 
+#include "diagnostics/diagnostics_report.h"
 #include "logging_categories.h"
 #include "settings/settings_keys.h"
 #include "shell/calendar_list_editor.h"
+#include "shell/settings_pages.h"
 #include "shell/settings_window.h"
 #include "shell/weather_settings_editor.h"
 
@@ -35,6 +42,30 @@ ShellActions::ShellActions(SettingsStore& settings, DiagnosticsLog& diagnostics,
   menu_.addAction(&startAtLoginAction_);
   menu_.addSeparator();
   menu_.addAction(&quitAction_);
+}
+
+// The Diagnostics page: what the checks are, and the way to them and to the report.
+QWidget* ShellActions::diagnosticsPanel() {
+  auto* panel = new QWidget;
+  auto* layout = new QVBoxLayout(panel);
+  auto* about =
+      new QLabel(tr("Each service Tindra uses says here whether it answers, and every "
+                    "change since Tindra started is in the log. The report has the "
+                    "versions, the session and the log, for a bug report; it names none "
+                    "of your files, events or messages."));
+  about->setWordWrap(true);
+  layout->addWidget(about);
+  auto* buttons = new QHBoxLayout;
+  auto* open = new QPushButton(tr("Diagnostics…"));
+  connect(open, &QPushButton::clicked, this, &ShellActions::openDiagnostics);
+  auto* copy = new QPushButton(tr("Copy report"));
+  connect(copy, &QPushButton::clicked, this,
+          [this] { QGuiApplication::clipboard()->setText(diagnosticsReport(diagnostics_)); });
+  buttons->addWidget(open);
+  buttons->addWidget(copy);
+  buttons->addStretch();
+  layout->addLayout(buttons);
+  return panel;
 }
 
 void ShellActions::startAtLogin(bool on) {
@@ -70,6 +101,7 @@ void ShellActions::openSettings() {
       settingsWindow_->setExtra(settings::weatherEnabled.name,
                                 new WeatherSettingsEditor(*weather_, weather_->cities()));
     }
+    settingsWindow_->addToPage(settingsPages().back().title, diagnosticsPanel());
     for (const Note& note : notes_) {
       auto* label = new QLabel(note.text);
       label->setWordWrap(true);

@@ -64,6 +64,8 @@ class ShellActions : public QObject {
   DiagnosticsWindow* diagnosticsWindow() const { return diagnosticsWindow_; }
 
  private:
+  QWidget* diagnosticsPanel();
+
   SettingsStore& settings_;
   DiagnosticsLog& diagnostics_;
   QAction settingsAction_;

@@ -8,18 +8,23 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
+#include <QDir>
 #include <QFile>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <map>
 
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
+#include "qt_text.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "shell/autostart_entry.h"
+#include "shell/settings_pages.h"
 #include "shell/settings_window.h"
 #include "shell/shell_actions.h"
 #include "shell/tray_item.h"
@@ -112,7 +117,14 @@ TEST(TrayUnavailableTest, SettingsAndQuitStayReachableFromTheNotch) {
   }
   // Nothing draws above a Linux screen locker: the switch says so and cannot be turned on, and
   // the details of what it would draw are not listed.
-  const SettingsWindow& window = *app.shell().settingsWindow();
+  SettingsWindow& window = *app.shell().settingsWindow();
+  if (const QString folder = qEnvironmentVariable("TINDRA_SCREENSHOTS"); !folder.isEmpty()) {
+    for (std::size_t page = 0; page < settingsPages().size(); ++page) {
+      window.showPage(static_cast<int>(page));
+      window.grab().save(QDir(folder).filePath(QStringLiteral("settings-page-%1.png").arg(page)));
+    }
+    window.showPage(0);
+  }
   EXPECT_FALSE(window.editorFor(settings::experimentalLockScreen.name)->isEnabled());
   EXPECT_TRUE(window.editorFor(settings::lockScreenStyle.name)->isHidden());
   EXPECT_TRUE(window.editorFor(settings::lockWidgetOffset.name)->isHidden());
@@ -125,6 +137,56 @@ class SettingsWindowTest : public ::testing::Test {
   std::filesystem::path file_ = dir_.filePath("settings.json").toStdString();
   SettingsStore store_{file_, [] { return 0.0; }};
 };
+
+TEST_F(SettingsWindowTest, EveryKeyIsOnExactlyOnePage) {
+  std::map<std::string_view, int> pages;
+  for (const SettingsPage& page : settingsPages()) {
+    for (const std::string_view key : page.keys) {
+      EXPECT_NE(settings::describeKey(key), nullptr) << key << " is on a page but not a setting";
+      ++pages[key];
+    }
+  }
+  for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
+    EXPECT_EQ(pages[key.name], 1) << key.name;
+  }
+  EXPECT_EQ(settingsPages().size(), 10u);
+}
+
+// A word of the description that few others have: its longest.
+QString longestWord(std::string_view description) {
+  QString longest;
+  for (const QString& word :
+       toQString(description).split(QRegularExpression(QStringLiteral("\\W+")))) {
+    if (word.size() > longest.size()) longest = word;
+  }
+  return longest;
+}
+
+TEST_F(SettingsWindowTest, TheSearchFindsEveryKeyByItsNameAndAWordOfItsDescriptionAndJumpsToIt) {
+  SettingsWindow window(store_);
+  for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
+    window.search(toQString(key.name));
+    EXPECT_TRUE(window.isListed(key.name)) << key.name;
+    EXPECT_EQ(window.currentPage(), settingsPageOf(key.name)) << key.name;
+    window.search(longestWord(key.description));
+    EXPECT_TRUE(window.isListed(key.name)) << key.name << ": " << key.description;
+    EXPECT_TRUE(window.isListed(key.name) && window.currentPage() >= 0);
+  }
+  window.search(QStringLiteral("notch display"));  // every word, in any order
+  EXPECT_TRUE(window.isListed(settings::showOnDisplaysWithoutNotch.name));
+  EXPECT_FALSE(window.isListed(settings::playSounds.name));
+  window.search(QString());
+  EXPECT_TRUE(window.isListed(settings::playSounds.name));
+}
+
+TEST_F(SettingsWindowTest, ResetPageResetsThatPageAlone) {
+  SettingsWindow window(store_);
+  ASSERT_TRUE(store_.write(settings::playSounds, false));
+  ASSERT_TRUE(store_.write(settings::hudDuration, 3.0));
+  window.resetPage(settingsPageOf(settings::playSounds.name));
+  EXPECT_EQ(store_.stored(settings::playSounds.name), nullptr);
+  EXPECT_EQ(store_.read(settings::hudDuration), 3.0);
+}
 
 TEST_F(SettingsWindowTest, KeysThatDoNotApplyHereAreNotListed) {
   SettingsWindow window(store_);

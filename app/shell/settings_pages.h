@@ -1,0 +1,20 @@
+// The Settings window's pages, by subsystem, and which keys each lists, in the key table's order.
+// Every key is on exactly one page; the Diagnostics page lists none, it holds the checks.
+#pragma once
+
+#include <QString>
+#include <string_view>
+#include <vector>
+
+namespace tindra {
+
+struct SettingsPage {
+  QString title;
+  std::vector<std::string_view> keys;
+};
+
+const std::vector<SettingsPage>& settingsPages();
+// The index of the page that lists `key`, or -1.
+int settingsPageOf(std::string_view key);
+
+}  // namespace tindra
