@@ -67,7 +67,7 @@ int main(int argc, char* argv[]) {
   if (options.isSet(demo) && !qEnvironmentVariableIsSet("TINDRA_FAKE")) {
     qputenv("TINDRA_FAKE", "all");
   }
-  tindra::TindraApp tindra({.animated = true});
+  tindra::TindraApp tindra({.animated = true, .welcome = !options.isSet(demo)});
   tindra::reportFirstFrameIfAsked();
   tindra::reportNoticeLatencyIfAsked(tindra.activities());
   if (auto* hud = tindra.provider(QStringLiteral("hud"))) {

@@ -26,6 +26,7 @@
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "settings_file_watcher.h"
+#include "shell/onboarding_window.h"
 #include "shell/shell_actions.h"
 #include "shell/tray_item.h"
 #include "views/notch_content.h"
@@ -60,6 +61,11 @@ TindraApp::TindraApp(Options options, QObject* parent)
       });
   connect(tray_.get(), &TrayItem::shownChanged, this, &TindraApp::offerMenuOnNotches);
   stepAside();
+  if (options_.welcome && !settings_->read(settings::onboardingCompleted)) {
+    onboarding_ = std::make_unique<OnboardingWindow>(*settings_, *diagnostics_,
+                                                     AutostartEntry::forThisProgram());
+    onboarding_->show();
+  }
 }
 
 TindraApp::~TindraApp() = default;

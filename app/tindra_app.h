@@ -19,6 +19,7 @@ class AdapterCheck;
 class DiagnosticsLog;
 class FileTrayProvider;
 class NotchContent;
+class OnboardingWindow;
 class Provider;
 class NotchScreenManager;
 class ScreenSource;
@@ -35,6 +36,8 @@ class TindraApp : public QObject {
  public:
   struct Options {
     bool animated = true;
+    // The introduction on the first start (not for the demo or tests).
+    bool welcome = false;
   };
 
   explicit TindraApp(Options options, QObject* parent = nullptr);
@@ -49,6 +52,8 @@ class TindraApp : public QObject {
   NotchScreenManager& notches() { return *notches_; }
   ShellActions& shell() { return *shell_; }
   TrayItem& tray() { return *tray_; }
+  // The first start's introduction while it shows, else null.
+  OnboardingWindow* onboarding() const { return onboarding_.get(); }
   VisibilityMonitor& visibility() { return *visibility_; }
 
  private:
@@ -73,6 +78,7 @@ class TindraApp : public QObject {
   std::unique_ptr<ScreenSource> screens_;
   std::unique_ptr<NotchScreenManager> notches_;
   std::unique_ptr<VisibilityMonitor> visibility_;
+  std::unique_ptr<OnboardingWindow> onboarding_;
 };
 
 }  // namespace tindra

@@ -13,6 +13,7 @@
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
@@ -24,6 +25,7 @@
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "shell/autostart_entry.h"
+#include "shell/onboarding_window.h"
 #include "shell/settings_pages.h"
 #include "shell/settings_window.h"
 #include "shell/shell_actions.h"
@@ -129,6 +131,31 @@ TEST(TrayUnavailableTest, SettingsAndQuitStayReachableFromTheNotch) {
   EXPECT_TRUE(window.editorFor(settings::lockScreenStyle.name)->isHidden());
   EXPECT_TRUE(window.editorFor(settings::lockWidgetOffset.name)->isHidden());
   EXPECT_TRUE(window.editorFor(settings::experimentalCallNotices.name)->isEnabled());
+}
+
+TEST(OnboardingTest, ShowsOnTheFirstStartWithWhatWasFoundAndNeverAgain) {
+  {
+    TindraApp app({.animated = false, .welcome = true});
+    OnboardingWindow* welcome = app.onboarding();
+    ASSERT_NE(welcome, nullptr);
+    EXPECT_TRUE(welcome->isVisible());
+    // This session has no system bus: what that means for the battery is said.
+    EXPECT_TRUE(welcome->services().contains(QStringLiteral("✗  battery: no system bus")))
+        << welcome->services().toStdString();
+    EXPECT_TRUE(welcome->services().contains(QStringLiteral("media")));
+    for (QRadioButton* choice : welcome->findChildren<QRadioButton*>()) {
+      if (choice->text() == QLatin1String("when you click it")) choice->setChecked(true);
+    }
+    if (const QString folder = qEnvironmentVariable("TINDRA_SCREENSHOTS"); !folder.isEmpty()) {
+      welcome->grab().save(QDir(folder).filePath(QStringLiteral("onboarding.png")));
+    }
+    welcome->close();
+    EXPECT_TRUE(app.settings().read(settings::onboardingCompleted));
+    EXPECT_EQ(app.settings().read(settings::notchOpeningMode), NotchOpeningMode::click);
+  }
+  TindraApp again({.animated = false, .welcome = true});
+  EXPECT_EQ(again.onboarding(), nullptr);
+  EXPECT_EQ(again.settings().read(settings::notchOpeningMode), NotchOpeningMode::click);
 }
 
 class SettingsWindowTest : public ::testing::Test {
