@@ -5,8 +5,10 @@
 #include <QCommandLineParser>
 #include <QDateTime>
 #include <QDir>
+#include <QLocale>
 #include <QQuickWindow>
 #include <QTextStream>
+#include <QTranslator>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
@@ -52,6 +54,12 @@ int main(int argc, char* argv[]) {
   QApplication::setApplicationName(QStringLiteral("Tindra"));
   QApplication::setOrganizationName(QStringLiteral("Brenvik"));
   QApplication::setQuitOnLastWindowClosed(false);
+  // The desktop's language, where Tindra has it; English otherwise.
+  QTranslator translator;
+  if (translator.load(QLocale(), QStringLiteral("tindra"), QStringLiteral("_"),
+                      QStringLiteral(":/i18n"))) {
+    QApplication::installTranslator(&translator);
+  }
 
   QCommandLineParser options;
   options.setApplicationDescription(QStringLiteral("The notch as a small live display."));

@@ -4,14 +4,20 @@
 
 namespace tindra {
 
-const std::vector<SettingsPage>& settingsPages() {
-  const auto tr = [](const char* text) { return QCoreApplication::translate("Settings", text); };
-  static const std::vector<SettingsPage> pages{
-      {tr("General"),
+namespace {
+
+struct Page {
+  const char* title;  // untranslated
+  std::vector<std::string_view> keys;
+};
+
+const std::vector<Page>& pageTable() {
+  static const std::vector<Page> pages{
+      {QT_TRANSLATE_NOOP("Settings", "General"),
        {"onboardingCompleted", "playSounds", "showMenuBarIcon", "noticeDurationScale",
         "receiveBetaUpdates", "experimentalLockScreen", "lockScreenStyle", "lockWidgetOffset",
         "lockScreenNotch", "lockScreenNotice", "lockScreenNotchNotice"}},
-      {tr("Notch"),
+      {QT_TRANSLATE_NOOP("Settings", "Notch"),
        {"showOnDisplaysWithoutNotch",
         "displaySelection",
         "simulatedNotchWidth",
@@ -36,33 +42,44 @@ const std::vector<SettingsPage>& settingsPages() {
         "auraFlashOnOpen",
         "auraColorfulBars",
         "auraRimWhenClosed"}},
-      {tr("Now Playing"),
+      {QT_TRANSLATE_NOOP("Settings", "Now Playing"),
        {"nowPlayingSourceMode", "nowPlayingFallbackNoticeOSVersion", "artworkOnlineLookup",
         "nowPlayingPausedLinger", "nowPlayingProgressTint", "liveWaveform"}},
-      {tr("Indicator"),
+      {QT_TRANSLATE_NOOP("Settings", "Indicator"),
        {"volumeHUDEnabled", "brightnessHUDEnabled", "hudBarStyle", "hudTint", "hudDuration",
         "volumeFeedbackFallback", "experimentalKeyboardBacklight", "keyboardBacklightMissingOn"}},
-      {tr("Battery and Accessories"),
+      {QT_TRANSLATE_NOOP("Settings", "Battery and Accessories"),
        {"batteryPluggedInNotice", "batteryUnpluggedNotice", "batteryLowAlert",
         "batteryLowThreshold", "accessoryConnectNotices", "accessoryLowAlert",
         "accessoryLowThreshold", "accessoryRouteNotice", "accessoryDisconnectNotice",
         "accessoryBatteryStyle"}},
-      {tr("Calendar"),
+      {QT_TRANSLATE_NOOP("Settings", "Calendar"),
        {"calendarEnabled", "calendarLeadMinutes", "calendarExcludedIdentifiers",
         "calendarTimeFormat", "calendarPrivacyMode", "calendarEventSound", "calendarEventSoundLog",
         "remindersEnabled", "travelTimeEnabled", "travelTransport", "travelBufferMinutes"}},
-      {tr("Weather"), {"weatherEnabled"}},
-      {tr("Focus and Banners"),
+      {QT_TRANSLATE_NOOP("Settings", "Weather"), {"weatherEnabled"}},
+      {QT_TRANSLATE_NOOP("Settings", "Focus and Banners"),
        {"focusShown", "focusKeepsIndicator", "focusFilterState", "experimentalCallNotices",
         "experimentalMessageNotices"}},
-      {tr("File Tray"), {"experimentalFileTray", "fileTrayMode", "airDropNotices"}},
-      {tr("Diagnostics"), {}},
+      {QT_TRANSLATE_NOOP("Settings", "File Tray"), {"experimentalFileTray", "fileTrayMode", "airDropNotices"}},
+      {QT_TRANSLATE_NOOP("Settings", "Diagnostics"), {}},
   };
   return pages;
 }
 
+}  // namespace
+
+// Titles are translated on every call, so a language chosen later applies.
+std::vector<SettingsPage> settingsPages() {
+  std::vector<SettingsPage> pages;
+  for (const Page& page : pageTable()) {
+    pages.push_back({QCoreApplication::translate("Settings", page.title), page.keys});
+  }
+  return pages;
+}
+
 int settingsPageOf(std::string_view key) {
-  const std::vector<SettingsPage>& pages = settingsPages();
+  const std::vector<Page>& pages = pageTable();
   for (std::size_t page = 0; page < pages.size(); ++page) {
     for (const std::string_view listed : pages[page].keys) {
       if (listed == key) return static_cast<int>(page);

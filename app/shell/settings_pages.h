@@ -13,7 +13,7 @@ struct SettingsPage {
   std::vector<std::string_view> keys;
 };
 
-const std::vector<SettingsPage>& settingsPages();
+std::vector<SettingsPage> settingsPages();
 // The index of the page that lists `key`, or -1.
 int settingsPageOf(std::string_view key);
 

@@ -17,8 +17,10 @@
 #include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTranslator>
 #include <map>
 
+#include "diagnostics/diagnostics_log.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
 #include "qt_text.h"
@@ -213,6 +215,23 @@ TEST_F(SettingsWindowTest, ResetPageResetsThatPageAlone) {
   window.resetPage(settingsPageOf(settings::playSounds.name));
   EXPECT_EQ(store_.stored(settings::playSounds.name), nullptr);
   EXPECT_EQ(store_.read(settings::hudDuration), 3.0);
+}
+
+// Every text a person reads goes through Qt's translations; Norwegian Bokmål proves it.
+TEST_F(SettingsWindowTest, TheDesktopsLanguageIsUsedWhereTindraHasIt) {
+  QTranslator norwegian;
+  ASSERT_TRUE(norwegian.load(QLocale(QStringLiteral("nb_NO")), QStringLiteral("tindra"),
+                             QStringLiteral("_"), QStringLiteral(":/i18n")));
+  QCoreApplication::installTranslator(&norwegian);
+  DiagnosticsLog log;
+  ShellActions actions(store_, log);
+  EXPECT_EQ(actions.settingsAction()->text(), QStringLiteral("Innstillinger…"));
+  EXPECT_EQ(actions.quitAction()->text(), QStringLiteral("Avslutt Tindra"));
+  EXPECT_EQ(settingsPages().front().title, QStringLiteral("Generelt"));
+  SettingsWindow window(store_);
+  EXPECT_EQ(window.windowTitle(), QStringLiteral("Tindra-innstillinger"));
+  QCoreApplication::removeTranslator(&norwegian);
+  EXPECT_EQ(settingsPages().front().title, QStringLiteral("General"));
 }
 
 TEST_F(SettingsWindowTest, KeysThatDoNotApplyHereAreNotListed) {

@@ -1,0 +1,897 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="nb_NO">
+<context>
+    <name>AccessoriesPanel</name>
+    <message>
+        <source>Accessories</source>
+        <translation>Tilbehør</translation>
+    </message>
+    <message>
+        <source>L</source>
+        <translation>V</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation>H</translation>
+    </message>
+    <message>
+        <source>Case</source>
+        <translation>Etui</translation>
+    </message>
+    <message>
+        <source>No battery reported</source>
+        <translation>Ingen batterimåling</translation>
+    </message>
+</context>
+<context>
+    <name>AccessoryCompact</name>
+    <message>
+        <source>Left</source>
+        <translation>Venstre</translation>
+    </message>
+    <message>
+        <source>Right</source>
+        <translation>Høyre</translation>
+    </message>
+    <message>
+        <source>Case</source>
+        <translation>Etui</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Frakoblet</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Tilkoblet</translation>
+    </message>
+</context>
+<context>
+    <name>Autostart</name>
+    <message>
+        <source>could not remove %1: %2</source>
+        <translation>kunne ikke fjerne %1: %2</translation>
+    </message>
+</context>
+<context>
+    <name>BannerPanel</name>
+    <message>
+        <source>%1 call</source>
+        <translation>%1-anrop</translation>
+    </message>
+    <message>
+        <source>Missed call · %1</source>
+        <translation>Tapt anrop · %1</translation>
+    </message>
+    <message>
+        <source>Ringing</source>
+        <translation>Ringer</translation>
+    </message>
+</context>
+<context>
+    <name>BatteriesPanel</name>
+    <message>
+        <source>Battery</source>
+        <translation>Batteri</translation>
+    </message>
+    <message>
+        <source>Charged</source>
+        <translation>Ladet</translation>
+    </message>
+    <message>
+        <source>Charging</source>
+        <translation>Lader</translation>
+    </message>
+    <message>
+        <source>%1 to full</source>
+        <translation>%1 til fullt</translation>
+    </message>
+    <message>
+        <source>On power</source>
+        <translation>På strøm</translation>
+    </message>
+    <message>
+        <source>On battery</source>
+        <translation>På batteri</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 igjen</translation>
+    </message>
+    <message>
+        <source>Low Power Mode is on</source>
+        <translation>Strømsparing er på</translation>
+    </message>
+</context>
+<context>
+    <name>BatteryCompact</name>
+    <message>
+        <source>Low</source>
+        <translation>Lavt</translation>
+    </message>
+</context>
+<context>
+    <name>CalendarPanel</name>
+    <message>
+        <source>Today</source>
+        <translation>I dag</translation>
+    </message>
+    <message>
+        <source>Nothing else today</source>
+        <translation>Ikke noe mer i dag</translation>
+    </message>
+    <message>
+        <source>Reminders</source>
+        <translation>Påminnelser</translation>
+    </message>
+</context>
+<context>
+    <name>CallCompact</name>
+    <message>
+        <source>Ringing</source>
+        <translation>Ringer</translation>
+    </message>
+</context>
+<context>
+    <name>FileTrayPanel</name>
+    <message>
+        <source>File Tray</source>
+        <translation>Filbrett</translation>
+    </message>
+    <message>
+        <source>Remove All</source>
+        <translation>Fjern alle</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stopp</translation>
+    </message>
+    <message>
+        <source>This file was moved to a place Tindra cannot find, or deleted.</source>
+        <translation>Denne filen ble flyttet til et sted Tindra ikke finner, eller slettet.</translation>
+    </message>
+    <message>
+        <source>Remove from the tray</source>
+        <translation>Fjern fra brettet</translation>
+    </message>
+    <message>
+        <source>Click to open, or drag to use this file</source>
+        <translation>Klikk for å åpne, eller dra for å bruke denne filen</translation>
+    </message>
+</context>
+<context>
+    <name>HudPanel</name>
+    <message>
+        <source>Brightness</source>
+        <translation>Lysstyrke</translation>
+    </message>
+    <message>
+        <source>Keyboard light</source>
+        <translation>Tastaturlys</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation>Volum</translation>
+    </message>
+</context>
+<context>
+    <name>JoinButton</name>
+    <message>
+        <source>Join</source>
+        <translation>Bli med</translation>
+    </message>
+    <message>
+        <source>Join %1</source>
+        <translation>Bli med i %1</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Travel times are unavailable: no routing service is available on this system.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Klart</translation>
+    </message>
+    <message>
+        <source>Fair</source>
+        <translation>Lettskyet</translation>
+    </message>
+    <message>
+        <source>Partly cloudy</source>
+        <translation>Delvis skyet</translation>
+    </message>
+    <message>
+        <source>Cloudy</source>
+        <translation>Skyet</translation>
+    </message>
+    <message>
+        <source>Fog</source>
+        <translation>Tåke</translation>
+    </message>
+    <message>
+        <source>Light rain</source>
+        <translation>Lett regn</translation>
+    </message>
+    <message>
+        <source>Rain</source>
+        <translation>Regn</translation>
+    </message>
+    <message>
+        <source>Heavy rain</source>
+        <translation>Kraftig regn</translation>
+    </message>
+    <message>
+        <source>Rain showers</source>
+        <translation>Regnbyger</translation>
+    </message>
+    <message>
+        <source>Thunderstorm</source>
+        <translation>Torden</translation>
+    </message>
+    <message>
+        <source>Sleet</source>
+        <translation>Sludd</translation>
+    </message>
+    <message>
+        <source>Snow</source>
+        <translation>Snø</translation>
+    </message>
+    <message>
+        <source>%1 % chance of precipitation</source>
+        <translation>%1 % sjanse for nedbør</translation>
+    </message>
+    <message>
+        <source>%1 mm in the next %2 h</source>
+        <translation>%1 mm de neste %2 t</translation>
+    </message>
+    <message>
+        <source>No precipitation in the next %1 h</source>
+        <translation>Ingen nedbør de neste %1 t</translation>
+    </message>
+    <message>
+        <source>Sunrise %1</source>
+        <translation>Soloppgang %1</translation>
+    </message>
+    <message>
+        <source>Sunset %1</source>
+        <translation>Solnedgang %1</translation>
+    </message>
+    <message>
+        <source>Midnight sun</source>
+        <translation>Midnattssol</translation>
+    </message>
+    <message>
+        <source>Polar night</source>
+        <translation>Mørketid</translation>
+    </message>
+</context>
+<context>
+    <name>Settings</name>
+    <message>
+        <source>General</source>
+        <translation>Generelt</translation>
+    </message>
+    <message>
+        <source>Notch</source>
+        <translation>Hakket</translation>
+    </message>
+    <message>
+        <source>Now Playing</source>
+        <translation>Spilles nå</translation>
+    </message>
+    <message>
+        <source>Indicator</source>
+        <translation>Nivåvisning</translation>
+    </message>
+    <message>
+        <source>Battery and Accessories</source>
+        <translation>Batteri og tilbehør</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Vær</translation>
+    </message>
+    <message>
+        <source>Focus and Banners</source>
+        <translation>Fokus og varsler</translation>
+    </message>
+    <message>
+        <source>File Tray</source>
+        <translation>Filbrett</translation>
+    </message>
+    <message>
+        <source>Diagnostics</source>
+        <translation>Diagnostikk</translation>
+    </message>
+</context>
+<context>
+    <name>WeatherPanel</name>
+    <message>
+        <source>Weather</source>
+        <translation>Vær</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::ActivityPresentation</name>
+    <message>
+        <source>Now Playing</source>
+        <translation>Spilles nå</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Fokus</translation>
+    </message>
+    <message>
+        <source>AirDrop</source>
+        <translation>AirDrop</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Melding</translation>
+    </message>
+    <message>
+        <source>Accessory</source>
+        <translation>Tilbehør</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>Batteri</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivå</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Anrop</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::BannerProvider</name>
+    <message>
+        <source>Open %1</source>
+        <translation>Åpne %1</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::CalendarFeed</name>
+    <message>
+        <source>not read yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1; the last good copy is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>%n document(s) could not be read (%1)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>%1 events in view</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>, %1 to-dos</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::CalendarListEditor</name>
+    <message>
+        <source>A file, a folder, or an https:// or webcal:// address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add</source>
+        <translation>Legg til</translation>
+    </message>
+    <message>
+        <source>Choose File…</source>
+        <translation>Velg fil…</translation>
+    </message>
+    <message>
+        <source>Add a Calendar</source>
+        <translation>Legg til en kalender</translation>
+    </message>
+    <message>
+        <source>iCalendar (*.ics);;All files (*)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your mail addresses, separated by commas</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Invitations you declined at these addresses are not shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No calendars yet.</source>
+        <translation>Ingen kalendere ennå.</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Fjern</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::CalendarProvider</name>
+    <message>
+        <source>the calendar is off in Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Event</source>
+        <translation>Hendelse</translation>
+    </message>
+    <message>
+        <source>Reminder</source>
+        <translation>Påminnelse</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::CalendarTexts</name>
+    <message>
+        <source>%1 min</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 t</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min</source>
+        <translation>%1 t %2 min</translation>
+    </message>
+    <message>
+        <source>Now</source>
+        <translation>Nå</translation>
+    </message>
+    <message>
+        <source>in %1</source>
+        <translation>om %1</translation>
+    </message>
+    <message>
+        <source>%1 left</source>
+        <translation>%1 igjen</translation>
+    </message>
+    <message>
+        <source>Ended</source>
+        <translation>Ferdig</translation>
+    </message>
+    <message>
+        <source>Leave in %1</source>
+        <translation>Dra om %1</translation>
+    </message>
+    <message>
+        <source>%1 late</source>
+        <translation>%1 for sent</translation>
+    </message>
+    <message>
+        <source>Leave now</source>
+        <translation>Dra nå</translation>
+    </message>
+    <message>
+        <source>All day</source>
+        <translation>Hele dagen</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::DiagnosticsWindow</name>
+    <message>
+        <source>Tindra Diagnostics</source>
+        <translation>Tindra-diagnostikk</translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Kopier rapport</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeCalendarBackend</name>
+    <message>
+        <source>invented</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>invented calendars (TINDRA_FAKE)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The invented calendars take no additions.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeLocationSource</name>
+    <message>
+        <source>an invented position (TINDRA_FAKE)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FileTrayProvider</name>
+    <message>
+        <source>Only files and folders can go in the tray.</source>
+        <translation>Bare filer og mapper kan legges i brettet.</translation>
+    </message>
+    <message>
+        <source>Already in the tray:</source>
+        <translation>Allerede i brettet:</translation>
+    </message>
+    <message>
+        <source>The tray is full:</source>
+        <translation>Brettet er fullt:</translation>
+    </message>
+    <message>
+        <source>not added. Remove some items first.</source>
+        <translation>ikke lagt til. Fjern noe først.</translation>
+    </message>
+    <message>
+        <source>Only files and folders can go in the tray:</source>
+        <translation>Bare filer og mapper kan legges i brettet:</translation>
+    </message>
+    <message>
+        <source>Copies in the tray are limited to 2 GB:</source>
+        <translation>Kopier i brettet er begrenset til 2 GB:</translation>
+    </message>
+    <message>
+        <source>could not be copied into the tray.</source>
+        <translation>kunne ikke kopieres til brettet.</translation>
+    </message>
+    <message>
+        <source>The copy into the tray was stopped.</source>
+        <translation>Kopieringen til brettet ble stoppet.</translation>
+    </message>
+    <message numerus="yes">
+        <source>Copying %n item(s) into the tray…</source>
+        <translation>
+            <numerusform>Kopierer %n element til brettet…</numerusform>
+            <numerusform>Kopierer %n elementer til brettet…</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FocusViewModel</name>
+    <message>
+        <source>Focus</source>
+        <translation>Fokus</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::GeoClueLocationSource</name>
+    <message>
+        <source>asking GeoClue for the position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no system bus: GeoClue cannot be asked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GeoClue is not available (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GeoClue refused the position (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GeoClue gives the position, at city accuracy</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::ICalendarBackend</name>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the calendar list was not readable and was set aside as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>not read while the calendar is off</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give a file, a folder or an address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Use an https:// or webcal:// address: a calendar fetched over plain http can be read by anyone on the way.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 does not exist.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This calendar is already in the list.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message numerus="yes">
+        <source>reading %n iCalendar calendar(s)</source>
+        <translation type="unfinished">
+            <numerusform></numerusform>
+            <numerusform></numerusform>
+        </translation>
+    </message>
+    <message>
+        <source>no calendars: add an iCalendar file, folder or address in Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::LocalCalendarFeed</name>
+    <message>
+        <source>%1 is not there</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::OnboardingWindow</name>
+    <message>
+        <source>Welcome to Tindra</source>
+        <translation>Velkommen til Tindra</translation>
+    </message>
+    <message>
+        <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ in use, – waiting or limited, ✗ not available, and what that means):&lt;/p&gt;</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>&lt;b&gt;The notch opens&lt;/b&gt;</source>
+        <translation>&lt;b&gt;Hakket åpnes&lt;/b&gt;</translation>
+    </message>
+    <message>
+        <source>when the pointer rests on it</source>
+        <translation>når pekeren hviler på det</translation>
+    </message>
+    <message>
+        <source>when you click it</source>
+        <translation>når du klikker på det</translation>
+    </message>
+    <message>
+        <source>when you press and hold it</source>
+        <translation>når du trykker og holder</translation>
+    </message>
+    <message>
+        <source>Start Tindra when I log in</source>
+        <translation>Start Tindra når jeg logger inn</translation>
+    </message>
+    <message>
+        <source>Start Using Tindra</source>
+        <translation>Ta i bruk Tindra</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::RemoteCalendarFeed</name>
+    <message>
+        <source>%1 is not an https address</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>HTTP %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>could not fetch %1 (%2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::SettingsWindow</name>
+    <message>
+        <source>Tindra Settings</source>
+        <translation>Tindra-innstillinger</translation>
+    </message>
+    <message>
+        <source>Search settings</source>
+        <translation>Søk i innstillinger</translation>
+    </message>
+    <message>
+        <source>Reset Page</source>
+        <translation>Tilbakestill siden</translation>
+    </message>
+    <message>
+        <source>Use the default value of every setting on this page</source>
+        <translation>Bruk standardverdien for alle innstillingene på denne siden</translation>
+    </message>
+    <message>
+        <source>Reset</source>
+        <translation>Tilbakestill</translation>
+    </message>
+    <message>
+        <source>Use the default value</source>
+        <translation>Bruk standardverdien</translation>
+    </message>
+    <message>
+        <source>(none)</source>
+        <translation>(ingen)</translation>
+    </message>
+    <message>
+        <source>The change was not saved: %1</source>
+        <translation>Endringen ble ikke lagret: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::ShellActions</name>
+    <message>
+        <source>Settings…</source>
+        <translation>Innstillinger…</translation>
+    </message>
+    <message>
+        <source>Diagnostics…</source>
+        <translation>Diagnostikk…</translation>
+    </message>
+    <message>
+        <source>Start at Login</source>
+        <translation>Start ved innlogging</translation>
+    </message>
+    <message>
+        <source>Quit Tindra</source>
+        <translation>Avslutt Tindra</translation>
+    </message>
+    <message>
+        <source>Each service Tindra uses says here whether it answers, and every change since Tindra started is in the log. The report has the versions, the session and the log, for a bug report; it names none of your files, events or messages.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy report</source>
+        <translation>Kopier rapport</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::TindraApp</name>
+    <message>
+        <source>Check Now Playing adapter</source>
+        <translation>Sjekk Spilles nå-adapteren</translation>
+    </message>
+    <message>
+        <source>No window can be drawn above the screen locker of a Linux desktop, so there are no lock-screen widgets here; the notch hides while the screen is locked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up to 20 items. Copies take up to 2 GB in total.</source>
+        <translation>Opptil 20 elementer. Kopier tar opptil 2 GB til sammen.</translation>
+    </message>
+    <message>
+        <source>Links: Tindra remembers where they are; nothing is copied. Copies: Tindra keeps a copy, so they stay usable if the originals go; removing it from the tray deletes the copy, never the original.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A ringing call shows only that it rings; answer it on the desktop&apos;s notification. Messages and missed calls show who and what, with a button that opens the application that sent them. Nothing is stored or sent, and nothing shows while do-not-disturb is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::WeatherProvider</name>
+    <message>
+        <source>the weather is off in Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>position: %1; %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>; the last request failed (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>set in Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, set in Settings</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GeoClue</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the time zone %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The weather is unavailable right now.</source>
+        <translation>Været er ikke tilgjengelig akkurat nå.</translation>
+    </message>
+    <message>
+        <source>Waiting for location access</source>
+        <translation>Venter på tilgang til posisjon</translation>
+    </message>
+    <message>
+        <source>High %1 · Low %2</source>
+        <translation>Høyeste %1 · Laveste %2</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::WeatherSettingsEditor</name>
+    <message>
+        <source>Position in use:</source>
+        <translation>Posisjon i bruk:</translation>
+    </message>
+    <message>
+        <source>Pick a city</source>
+        <translation>Velg en by</translation>
+    </message>
+    <message>
+        <source>My place:</source>
+        <translation>Mitt sted:</translation>
+    </message>
+    <message>
+        <source>Use These</source>
+        <translation>Bruk disse</translation>
+    </message>
+    <message>
+        <source>Use the Location Service</source>
+        <translation>Bruk posisjonstjenesten</translation>
+    </message>
+    <message>
+        <source>Latitude, longitude:</source>
+        <translation>Breddegrad, lengdegrad:</translation>
+    </message>
+    <message>
+        <source>An e-mail address MET Norway may reach you at (optional)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Contact:</source>
+        <translation>Kontakt:</translation>
+    </message>
+    <message>
+        <source>As the region says</source>
+        <translation>Som regionen sier</translation>
+    </message>
+    <message>
+        <source>Celsius</source>
+        <translation>Celsius</translation>
+    </message>
+    <message>
+        <source>Fahrenheit</source>
+        <translation>Fahrenheit</translation>
+    </message>
+    <message>
+        <source>Unit:</source>
+        <translation>Enhet:</translation>
+    </message>
+    <message>
+        <source>No city called %1 is known.</source>
+        <translation>Ingen kjent by heter %1.</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::WeatherViewModel</name>
+    <message>
+        <source>Weather data from MET Norway</source>
+        <translation>Værdata fra Meteorologisk institutt</translation>
+    </message>
+</context>
+</TS>
