@@ -120,7 +120,8 @@ void TindraApp::startProviders() {
   }
   // A machine without a battery (a desktop) has no battery settings. Nothing draws above a Linux
   // screen locker: the lock-screen widgets are not offered, and their details not shown. This
-  // desktop has no Mission Control and no AirDrop, and its package manager updates Tindra.
+  // desktop has no Mission Control and no AirDrop, its package manager updates Tindra, and no
+  // record of system versions is kept here.
   auto* battery = static_cast<BatteryViewModel*>(provider(QStringLiteral("battery"))->viewModel());
   shell_->setHiddenSettings([battery](std::string_view name) {
     return (!battery->available() && name.starts_with("battery")) ||

@@ -40,7 +40,8 @@ OnboardingWindow::OnboardingWindow(SettingsStore& settings, DiagnosticsLog& log,
          "headphone notice, the next meeting, a call or a message. Rest the pointer on it and it "
          "opens into a panel with the controls, your calendar, the weather, your batteries and a "
          "file tray. Everything stays on this computer.</p>"
-         "<p><b>What Tindra found here</b> (✓ in use, – waiting or limited, ✗ not available, and what that means):</p>"));
+         "<p><b>What Tindra found here</b> (✓ in use, – waiting or limited, ✗ not available, and "
+         "what that means):</p>"));
   about->setWordWrap(true);
   layout->addWidget(about);
   services_.setWordWrap(true);

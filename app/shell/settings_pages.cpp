@@ -61,7 +61,8 @@ const std::vector<Page>& pageTable() {
       {QT_TRANSLATE_NOOP("Settings", "Focus and Banners"),
        {"focusShown", "focusKeepsIndicator", "focusFilterState", "experimentalCallNotices",
         "experimentalMessageNotices"}},
-      {QT_TRANSLATE_NOOP("Settings", "File Tray"), {"experimentalFileTray", "fileTrayMode", "airDropNotices"}},
+      {QT_TRANSLATE_NOOP("Settings", "File Tray"),
+       {"experimentalFileTray", "fileTrayMode", "airDropNotices"}},
       {QT_TRANSLATE_NOOP("Settings", "Diagnostics"), {}},
   };
   return pages;

@@ -2,6 +2,7 @@
 
 #include <QCheckBox>
 #include <QComboBox>
+#include <QCoreApplication>
 #include <QDoubleSpinBox>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -124,12 +125,15 @@ void SettingsWindow::addRow(int page, int line, const settings::SettingsKeyDescr
   QGridLayout& grid = *pages_[static_cast<std::size_t>(page)].grid;
   Row row = makeEditor(key);
   row.page = page;
+  // The description in the desktop's language (settings_key_texts.cpp marks them all).
+  const QString description =
+      QCoreApplication::translate("SettingsKeys", std::string(key.description).c_str());
   // The key's name, and below it in grey what it is for.
-  auto* label = new QLabel(
-      QStringLiteral("%1<br><small style=\"color: gray\">%2</small>")
-          .arg(toQString(key.name).toHtmlEscaped(), toQString(key.description).toHtmlEscaped()));
+  auto* label =
+      new QLabel(QStringLiteral("%1<br><small style=\"color: gray\">%2</small>")
+                     .arg(toQString(key.name).toHtmlEscaped(), description.toHtmlEscaped()));
   label->setWordWrap(true);
-  label->setToolTip(toQString(key.description));
+  label->setToolTip(description);
   row.label = label;
   label->setProperty("line", line);
   auto* reset = new QToolButton;

@@ -19,6 +19,7 @@
 #include <QTest>
 #include <QTranslator>
 #include <map>
+#include <set>
 
 #include "diagnostics/diagnostics_log.h"
 #include "notch/notch_screen_manager.h"
@@ -28,6 +29,7 @@
 #include "settings/settings_store.h"
 #include "shell/autostart_entry.h"
 #include "shell/onboarding_window.h"
+#include "shell/settings_key_texts.h"
 #include "shell/settings_pages.h"
 #include "shell/settings_window.h"
 #include "shell/shell_actions.h"
@@ -179,6 +181,14 @@ TEST_F(SettingsWindowTest, EveryKeyIsOnExactlyOnePage) {
     EXPECT_EQ(pages[key.name], 1) << key.name;
   }
   EXPECT_EQ(settingsPages().size(), 10u);
+}
+
+TEST_F(SettingsWindowTest, EveryDescriptionIsMarkedForTranslation) {
+  std::set<std::string_view> marked(settingsKeyTexts().begin(), settingsKeyTexts().end());
+  for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
+    EXPECT_TRUE(marked.contains(key.description))
+        << key.name << ": run scripts/settings-texts after changing the key table";
+  }
 }
 
 // A word of the description that few others have: its longest.

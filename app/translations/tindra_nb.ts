@@ -313,6 +313,325 @@
     </message>
 </context>
 <context>
+    <name>SettingsKeys</name>
+    <message>
+        <source>The first-run introduction has been seen.</source>
+        <translation>Introduksjonen ved første start er sett.</translation>
+    </message>
+    <message>
+        <source>Play a sound with notices that have one.</source>
+        <translation>Spill en lyd med varsler som har en.</translation>
+    </message>
+    <message>
+        <source>Show Tindra in the tray.</source>
+        <translation>Vis Tindra i systemfeltet.</translation>
+    </message>
+    <message>
+        <source>How long notices stay: short, medium or long.</source>
+        <translation>Hvor lenge varsler vises: kort, middels eller lenge.</translation>
+    </message>
+    <message>
+        <source>Offer test versions when updating.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Draw a notch on displays that have none.</source>
+        <translation>Tegn et hakk på skjermer som ikke har et.</translation>
+    </message>
+    <message>
+        <source>Which displays show the notch: all, main, built-in or one by name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width in points of a drawn notch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A drawn notch takes the height of the top panel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Height in points of a drawn notch when it does not match the panel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the notch opens: on hover, on click, or pressed and held.</source>
+        <translation>Hvordan hakket åpnes: ved pekeren, ved klikk, eller trykk og hold.</translation>
+    </message>
+    <message>
+        <source>Seconds the pointer rests on the notch before it opens.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds of pressing that open the notch in press-and-hold mode.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Panel sections pinned in the opened notch, in order (&quot;media&quot;, &quot;calendar&quot;, &quot;weather&quot;, &quot;batteries&quot;, &quot;fileTray&quot;); empty shows every section with something to show.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where the playing track comes from: automatic, or only the player scripts, which exist on a Mac alone (on the desktop that shows nothing).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The system version on which the basic-mode notice was last shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Look covers up online when the player gives none.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How long a paused track stays shown: short, long or until resumed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The progress bar in the standard colour or the cover&apos;s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show volume changes in the notch. Option-Shift with a volume or brightness key changes it in smaller steps.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show brightness changes in the notch. Keys go to the system when the output or display cannot be controlled, or when BetterDisplay handles it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How the level is drawn: a continuous bar, segments or a ring.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The level&apos;s colour: white, by level, or the accent colour.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Seconds the level stays shown after a change.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the volume feedback sound where the system does not. Hold Shift while pressing a volume key to do the opposite.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell when power is connected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell when power is disconnected.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warn when the battery runs low.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percentage at which the battery counts as low.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell when a Bluetooth accessory connects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell when files arrive from nearby devices.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Warn when an accessory&apos;s battery runs low.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Percentage at which an accessory&apos;s battery counts as low.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell when sound moves to an accessory.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tell when a Bluetooth accessory disconnects.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Accessory batteries as a percentage or a ring.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the next meeting.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes before a meeting that it appears.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Calendars whose events are never shown.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The meeting&apos;s time as a countdown, its start time, or both.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide meeting titles.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play a sound when a meeting is about to start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Meetings whose start sound has played, so it plays once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show reminders that are due.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Count travel time before meetings with a place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>How you travel to meetings: by car, on foot or by transit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Minutes added to the travel time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show the weather.</source>
+        <translation>Vis været.</translation>
+    </message>
+    <message>
+        <source>Show when a Focus mode is on.</source>
+        <translation>Vis når en fokusmodus er på.</translation>
+    </message>
+    <message>
+        <source>Keep a Focus mark on the notch while the Focus lasts.</source>
+        <translation>Behold et fokusmerke på hakket mens fokuset varer.</translation>
+    </message>
+    <message>
+        <source>The Focus filter&apos;s last state, as written by the system.</source>
+        <translation>Fokusfilterets siste tilstand, slik systemet skrev den.</translation>
+    </message>
+    <message>
+        <source>Swipes on the notch control playback.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sideways swipes change the track.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Give feedback when a swipe is recognised.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dragging with the mouse works like swiping.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide the notch over full-screen windows.</source>
+        <translation>Skjul hakket over vinduer i fullskjerm.</translation>
+    </message>
+    <message>
+        <source>Hide the notch while a game runs.</source>
+        <translation>Skjul hakket mens et spill kjører.</translation>
+    </message>
+    <message>
+        <source>Applications treated as games, one per line.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hide the notch while windows are being arranged.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the notch out of screenshots and recordings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A translucent opened notch instead of black.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The opened notch in black and white or in colour.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A soft glow around the opened notch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A brief flash when the notch opens.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Colourful bars in the live spectrum.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A thin coloured rim on the closed notch.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show a live spectrum of the playing audio.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show widgets on the lock screen (experimental).</source>
+        <translation>Vis moduler på låseskjermen (eksperimentelt).</translation>
+    </message>
+    <message>
+        <source>The lock-screen widgets&apos; background: clear, light frost or frosted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Vertical offset in points of the lock-screen widgets.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the notch on the lock screen.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last lock-screen notice, kept to show it once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The last lock-screen notch notice, kept to show it once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show keyboard backlight changes (experimental).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The system version on which no keyboard backlight was found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show incoming calls (experimental).</source>
+        <translation>Vis innkommende anrop (eksperimentelt).</translation>
+    </message>
+    <message>
+        <source>Show incoming messages (experimental).</source>
+        <translation>Vis innkommende meldinger (eksperimentelt).</translation>
+    </message>
+    <message>
+        <source>Keep dropped files in a tray (experimental).</source>
+        <translation>Ta vare på filer som slippes, i et brett (eksperimentelt).</translation>
+    </message>
+    <message>
+        <source>The tray keeps links to dropped files or copies of them.</source>
+        <translation>Brettet holder lenker til filene eller kopier av dem.</translation>
+    </message>
+</context>
+<context>
     <name>WeatherPanel</name>
     <message>
         <source>Weather</source>
