@@ -1,5 +1,6 @@
 // Written by scripts/settings-texts from core/settings/settings_keys.h; run it again rather than
-// editing. The settings' descriptions, marked for translation in the context "SettingsKeys".
+// editing. The settings' descriptions and the choices they offer, marked for translation in the
+// contexts "SettingsKeys" and "SettingsValues".
 #include "shell/settings_key_texts.h"
 
 #include <QtGlobal>
@@ -112,6 +113,43 @@ const std::vector<const char*>& settingsKeyTexts() {
       QT_TRANSLATE_NOOP("SettingsKeys", "Show incoming messages (experimental)."),
       QT_TRANSLATE_NOOP("SettingsKeys", "Keep dropped files in a tray (experimental)."),
       QT_TRANSLATE_NOOP("SettingsKeys", "The tray keeps links to dropped files or copies of them."),
+  };
+  return texts;
+}
+
+const std::vector<const char*>& settingsValueTexts() {
+  static const std::vector<const char*> texts{
+      QT_TRANSLATE_NOOP("SettingsValues", "monochrome"),
+      QT_TRANSLATE_NOOP("SettingsValues", "colorful"),
+      QT_TRANSLATE_NOOP("SettingsValues", "hover"),
+      QT_TRANSLATE_NOOP("SettingsValues", "click"),
+      QT_TRANSLATE_NOOP("SettingsValues", "pressAndHold"),
+      QT_TRANSLATE_NOOP("SettingsValues", "short"),
+      QT_TRANSLATE_NOOP("SettingsValues", "medium"),
+      QT_TRANSLATE_NOOP("SettingsValues", "long"),
+      QT_TRANSLATE_NOOP("SettingsValues", "white"),
+      QT_TRANSLATE_NOOP("SettingsValues", "countdown"),
+      QT_TRANSLATE_NOOP("SettingsValues", "startTime"),
+      QT_TRANSLATE_NOOP("SettingsValues", "both"),
+      QT_TRANSLATE_NOOP("SettingsValues", "automobile"),
+      QT_TRANSLATE_NOOP("SettingsValues", "walking"),
+      QT_TRANSLATE_NOOP("SettingsValues", "transit"),
+      QT_TRANSLATE_NOOP("SettingsValues", "link"),
+      QT_TRANSLATE_NOOP("SettingsValues", "copy"),
+      QT_TRANSLATE_NOOP("SettingsValues", "continuous"),
+      QT_TRANSLATE_NOOP("SettingsValues", "segmented"),
+      QT_TRANSLATE_NOOP("SettingsValues", "ring"),
+      QT_TRANSLATE_NOOP("SettingsValues", "level"),
+      QT_TRANSLATE_NOOP("SettingsValues", "accent"),
+      QT_TRANSLATE_NOOP("SettingsValues", "clear"),
+      QT_TRANSLATE_NOOP("SettingsValues", "lightFrost"),
+      QT_TRANSLATE_NOOP("SettingsValues", "frosted"),
+      QT_TRANSLATE_NOOP("SettingsValues", "untilResumed"),
+      QT_TRANSLATE_NOOP("SettingsValues", "standard"),
+      QT_TRANSLATE_NOOP("SettingsValues", "artwork"),
+      QT_TRANSLATE_NOOP("SettingsValues", "automatic"),
+      QT_TRANSLATE_NOOP("SettingsValues", "appleScriptOnly"),
+      QT_TRANSLATE_NOOP("SettingsValues", "percentage"),
   };
   return texts;
 }

@@ -188,13 +188,20 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
       break;
     }
     case Type::enumeration: {
+      // Each choice in the desktop's language, its stored value beside it.
       auto* box = new QComboBox;
-      for (std::string_view c : key.cases) box->addItem(toQString(c));
-      connect(box, &QComboBox::textActivated, this,
-              [this, name](const QString& text) { write(name, text.toStdString()); });
+      for (std::string_view c : key.cases) {
+        box->addItem(QCoreApplication::translate("SettingsValues", std::string(c).c_str()),
+                     toQString(c));
+      }
+      connect(box, &QComboBox::activated, this, [this, name, box](int index) {
+        write(name, box->itemData(index).toString().toStdString());
+      });
       row.editor = box;
       row.show = [box](const JSONValue& v) {
-        if (v.asString() != nullptr) box->setCurrentText(QString::fromStdString(*v.asString()));
+        if (v.asString() != nullptr) {
+          box->setCurrentIndex(box->findData(QString::fromStdString(*v.asString())));
+        }
       };
       break;
     }

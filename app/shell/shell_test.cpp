@@ -183,11 +183,15 @@ TEST_F(SettingsWindowTest, EveryKeyIsOnExactlyOnePage) {
   EXPECT_EQ(settingsPages().size(), 10u);
 }
 
-TEST_F(SettingsWindowTest, EveryDescriptionIsMarkedForTranslation) {
+TEST_F(SettingsWindowTest, EveryDescriptionAndChoiceIsMarkedForTranslation) {
   std::set<std::string_view> marked(settingsKeyTexts().begin(), settingsKeyTexts().end());
+  std::set<std::string_view> choices(settingsValueTexts().begin(), settingsValueTexts().end());
   for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
     EXPECT_TRUE(marked.contains(key.description))
         << key.name << ": run scripts/settings-texts after changing the key table";
+    for (const std::string_view choice : key.cases) {
+      EXPECT_TRUE(choices.contains(choice)) << key.name << ": " << choice;
+    }
   }
 }
 
@@ -272,6 +276,9 @@ TEST_F(SettingsWindowTest, EditsGoThroughTheStoreAndOutsideChangesShow) {
   EXPECT_EQ(mode->currentText(), QStringLiteral("pressAndHold"));
   ASSERT_TRUE(store_.reset(settings::notchOpeningMode));
   EXPECT_EQ(mode->currentText(), QStringLiteral("hover"));
+  mode->setCurrentIndex(1);
+  emit mode->activated(1);
+  EXPECT_EQ(store_.read(settings::notchOpeningMode), NotchOpeningMode::click);
 
   // A list edited as JSON text: only a JSON array is written.
   auto* pinned = qobject_cast<QLineEdit*>(window.editorFor(settings::pinnedWidgets.name));

@@ -632,6 +632,133 @@
     </message>
 </context>
 <context>
+    <name>SettingsValues</name>
+    <message>
+        <source>monochrome</source>
+        <translation>svart-hvitt</translation>
+    </message>
+    <message>
+        <source>colorful</source>
+        <translation>farger</translation>
+    </message>
+    <message>
+        <source>hover</source>
+        <translation>ved pekeren</translation>
+    </message>
+    <message>
+        <source>click</source>
+        <translation>ved klikk</translation>
+    </message>
+    <message>
+        <source>pressAndHold</source>
+        <translation>trykk og hold</translation>
+    </message>
+    <message>
+        <source>short</source>
+        <translation>kort</translation>
+    </message>
+    <message>
+        <source>medium</source>
+        <translation>middels</translation>
+    </message>
+    <message>
+        <source>long</source>
+        <translation>lenge</translation>
+    </message>
+    <message>
+        <source>white</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>countdown</source>
+        <translation>nedtelling</translation>
+    </message>
+    <message>
+        <source>startTime</source>
+        <translation>starttid</translation>
+    </message>
+    <message>
+        <source>both</source>
+        <translation>begge</translation>
+    </message>
+    <message>
+        <source>automobile</source>
+        <translation>bil</translation>
+    </message>
+    <message>
+        <source>walking</source>
+        <translation>til fots</translation>
+    </message>
+    <message>
+        <source>transit</source>
+        <translation>kollektivt</translation>
+    </message>
+    <message>
+        <source>link</source>
+        <translation>lenker</translation>
+    </message>
+    <message>
+        <source>copy</source>
+        <translation>kopier</translation>
+    </message>
+    <message>
+        <source>continuous</source>
+        <translation>sammenhengende</translation>
+    </message>
+    <message>
+        <source>segmented</source>
+        <translation>delt opp</translation>
+    </message>
+    <message>
+        <source>ring</source>
+        <translation>ring</translation>
+    </message>
+    <message>
+        <source>level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>accent</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>clear</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>lightFrost</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>frosted</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>untilResumed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>standard</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>artwork</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>automatic</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>appleScriptOnly</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>percentage</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>WeatherPanel</name>
     <message>
         <source>Weather</source>
