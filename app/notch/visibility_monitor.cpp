@@ -72,10 +72,10 @@ void VisibilityMonitor::update() {
   }
   if (any != reason_) {
     reason_ = any;
-    diagnostics_.record(
-        lcNotch(), source, DiagnosticsLog::Outcome::ok,
-        reason_ ? QStringLiteral("the notch steps aside: %1").arg(toQString(tindra::name(*reason_)))
-                : QStringLiteral("the notch shows"));
+    diagnostics_.record(lcNotch(), source, DiagnosticsLog::Outcome::ok,
+                        reason_
+                            ? tr("the notch steps aside: %1").arg(toQString(tindra::name(*reason_)))
+                            : tr("the notch shows"));
   }
   emit changed();
 }

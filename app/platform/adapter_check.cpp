@@ -21,9 +21,9 @@ AdapterCheck::AdapterCheck(AdapterLaunch launch, DiagnosticsLog& log, QObject* p
             ? QStringLiteral("\"%1\" %2")
                   .arg(QString::fromStdString((*last_)->title),
                        (*last_)->isPlaying ? QStringLiteral("playing") : QStringLiteral("paused"))
-            : QStringLiteral("nothing playing");
+            : tr("nothing playing");
     report(updates_ > 0 ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::failed,
-           QStringLiteral("Stream gave %1 update(s) and %2 unreadable line(s) in %3 s: %4.")
+           tr("Stream gave %1 update(s) and %2 unreadable line(s) in %3 s: %4.")
                .arg(updates_)
                .arg(stream_->parseErrors())
                .arg(streamFor_ / 1000.0, 0, 'f', 1)
@@ -45,8 +45,7 @@ void AdapterCheck::onProbed(const AdapterProbeResult& result, const QString& tex
   const bool passed = result == AdapterProbeResult::passed();
   report(passed ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::failed, text);
   if (!passed) {
-    report(DiagnosticsLog::Outcome::failed,
-           QStringLiteral("Stream skipped because the self-test failed."));
+    report(DiagnosticsLog::Outcome::failed, tr("Stream skipped because the self-test failed."));
     end();
     return;
   }
@@ -63,7 +62,7 @@ void AdapterCheck::onProbed(const AdapterProbeResult& result, const QString& tex
           });
   connect(stream_.get(), &AdapterStreamProcess::launchFailed, this, [this](const QString& error) {
     streamTimer_.stop();
-    report(DiagnosticsLog::Outcome::failed, QStringLiteral("Could not launch stream: ") + error);
+    report(DiagnosticsLog::Outcome::failed, tr("Could not launch stream: ") + error);
     end();
   });
   stream_->start();

@@ -69,7 +69,7 @@ void AdapterNowPlayingSource::onExited(int exitStatus) {
   const double ranFor = static_cast<double>(childStartedAt_.elapsed()) / 1000.0;
   const double delay = backoff_.nextDelay(0, ranFor);
   qCWarning(lcNowPlayingAdapter).noquote()
-      << QStringLiteral("Adapter stream exited with status %1; restarting in %2 s")
+      << tr("Adapter stream exited with status %1; restarting in %2 s")
              .arg(exitStatus)
              .arg(delay, 0, 'f', 1);
   restartTimer_.start(static_cast<int>(std::ceil(delay * 1000.0)));

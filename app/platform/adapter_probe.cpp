@@ -14,24 +14,24 @@ AdapterProbe::AdapterProbe(AdapterLaunch launch, FileExists fileExists, QObject*
   deadline_.setSingleShot(true);
   connect(&deadline_, &QTimer::timeout, this, [this] {
     process_.kill();
-    finish(AdapterProbeResult::timedOut(),
-           QStringLiteral("The adapter's self-test did not finish within %1 s.")
-               .arg(deadline_.interval() / 1000));
+    finish(
+        AdapterProbeResult::timedOut(),
+        tr("The adapter's self-test did not finish within %1 s.").arg(deadline_.interval() / 1000));
   });
   connect(&process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
     if (error != QProcess::FailedToStart) return;
     finish(AdapterProbeResult::launchFailed(),
-           QStringLiteral("Could not launch %1: %2")
+           tr("Could not launch %1: %2")
                .arg(QString::fromStdString(launch_.program), process_.errorString()));
   });
   connect(&process_, &QProcess::finished, this, [this](int exitCode, QProcess::ExitStatus status) {
     if (status == QProcess::NormalExit && exitCode == 0) {
-      finish(AdapterProbeResult::passed(), QStringLiteral("The adapter's self-test passed."));
+      finish(AdapterProbeResult::passed(), tr("The adapter's self-test passed."));
       return;
     }
     const int exitStatus = status == QProcess::CrashExit ? -1 : exitCode;
     finish(AdapterProbeResult::failed(exitStatus),
-           QStringLiteral("The adapter's self-test failed with exit status %1.").arg(exitStatus));
+           tr("The adapter's self-test failed with exit status %1.").arg(exitStatus));
   });
 }
 
@@ -49,7 +49,7 @@ void AdapterProbe::run(int timeoutMilliseconds) {
   }
   running_ = true;
   if (!missing.isEmpty()) {
-    finish(AdapterProbeResult::notBundled(), QStringLiteral("Adapter not bundled; missing: %1 %2")
+    finish(AdapterProbeResult::notBundled(), tr("Adapter not bundled; missing: %1 %2")
                                                  .arg(missing.join(QStringLiteral(", ")),
                                                       QString::fromStdString(launch_.missingHint)));
     return;

@@ -80,19 +80,18 @@ void FileTrayProvider::start() {
   if (!loaded.problem) {
     diagnostics().record(
         lcFiles(), name(), DiagnosticsLog::Outcome::ok,
-        QStringLiteral("keeping the file tray in %1").arg(toQString(storage_.listFile().string())));
+        tr("keeping the file tray in %1").arg(toQString(storage_.listFile().string())));
   } else if (*loaded.problem == Problem::skippedItems) {
     diagnostics().record(lcFiles(), name(), DiagnosticsLog::Outcome::degraded,
-                         QStringLiteral("some items of the saved file tray could not be read and "
-                                        "were left out; the list as it was is kept as %1")
+                         tr("some items of the saved file tray could not be read and "
+                            "were left out; the list as it was is kept as %1")
                              .arg(kept));
   } else {
     diagnostics().record(
         lcFiles(), name(), DiagnosticsLog::Outcome::degraded,
-        QStringLiteral("the saved file tray %1; it is kept as %2 and the tray starts empty")
-            .arg(*loaded.problem == Problem::newerVersion
-                     ? QStringLiteral("was written by a newer Tindra")
-                     : QStringLiteral("could not be read"),
+        tr("the saved file tray %1; it is kept as %2 and the tray starts empty")
+            .arg(*loaded.problem == Problem::newerVersion ? tr("was written by a newer Tindra")
+                                                          : tr("could not be read"),
                  kept));
   }
   storage_.removeStaleIncoming(now_());
@@ -277,8 +276,8 @@ void FileTrayProvider::save() {
   if (const auto saved = storage_.save(tray_); !saved) {
     diagnostics().record(lcFiles(), name(), DiagnosticsLog::Outcome::failed,
                          saved.error().code == FileTrayStorage::SaveError::Code::fileInTheWay
-                             ? QStringLiteral("the file tray is not saved: an unreadable list "
-                                              "could not be moved aside")
+                             ? tr("the file tray is not saved: an unreadable list "
+                                  "could not be moved aside")
                              : toQString(saved.error().failure.message(storage_.listFile())));
   }
 }

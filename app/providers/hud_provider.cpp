@@ -85,8 +85,7 @@ void HudProvider::start() {
 }
 
 QString HudProvider::sourceName(const Light& light) const {
-  return light.kind == HUDKind::brightness ? QStringLiteral("brightness")
-                                           : QStringLiteral("keyboard light");
+  return light.kind == HUDKind::brightness ? QStringLiteral("brightness") : tr("keyboard light");
 }
 
 void HudProvider::record(const QString& source, const ServiceCheck& check) {
@@ -269,11 +268,12 @@ void HudProvider::updateRouting() {
   if (routed_ && context == keyContext_) return;
   routed_ = true;
   keyContext_ = context;
-  qCInfo(lcMediaKeys).noquote()
-      << QStringLiteral("Key routing: volume %1, brightness %2, keyboard %3")
-             .arg(context.volumeControllable && context.volumeHUDEnabled ? "true" : "false",
-                  toQString(tindra::name(context.brightness)),
-                  toQString(tindra::name(context.keyboardBacklight)));
+  qCInfo(lcMediaKeys).noquote() << tr("Key routing: volume %1, brightness %2, keyboard %3")
+                                       .arg(context.volumeControllable && context.volumeHUDEnabled
+                                                ? "true"
+                                                : "false",
+                                            toQString(tindra::name(context.brightness)),
+                                            toQString(tindra::name(context.keyboardBacklight)));
   wanted_ = grabsFor(context);
   keys_->setWanted(wanted_);
   recordKeys();
@@ -295,14 +295,14 @@ void HudProvider::recordKeys() {
   const ServiceCheck check = keys_->check();
   if (check.outcome != DiagnosticsLog::Outcome::ok) parts << check.text;
   if (check.outcome == DiagnosticsLog::Outcome::ok && !held.isEmpty()) {
-    parts << QStringLiteral("holds %1").arg(held.join(QStringLiteral(", ")));
+    parts << tr("holds %1").arg(held.join(QStringLiteral(", ")));
   }
   if (!watched.isEmpty()) {
-    parts << QStringLiteral("only watches the level for %1 (another program holds them)")
+    parts << tr("only watches the level for %1 (another program holds them)")
                  .arg(watched.join(QStringLiteral(", ")));
   }
   if (!left.isEmpty()) {
-    parts << QStringLiteral("leaves %1 to the desktop").arg(left.join(QStringLiteral(", ")));
+    parts << tr("leaves %1 to the desktop").arg(left.join(QStringLiteral(", ")));
   }
   const bool degraded = check.outcome != DiagnosticsLog::Outcome::ok || !watched.isEmpty();
   diagnostics().record(lcMediaKeys(), QStringLiteral("keys"),

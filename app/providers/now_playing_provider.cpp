@@ -67,13 +67,13 @@ NowPlayingPausedLinger NowPlayingProvider::pausedLinger() const {
 void NowPlayingProvider::start() {
   if (sourceMode() == NowPlayingSourceMode::appleScriptOnly) {
     diagnostics().record(lcNowPlaying(), name(), DiagnosticsLog::Outcome::degraded,
-                         QStringLiteral("Settings ask for the player scripts, which this desktop "
-                                        "does not have: nothing is shown as playing."));
+                         tr("Settings ask for the player scripts, which this desktop "
+                            "does not have: nothing is shown as playing."));
     return;
   }
   if (probe_) {
     diagnostics().record(lcNowPlaying(), name(), DiagnosticsLog::Outcome::ok,
-                         QStringLiteral("testing the now-playing adapter %1")
+                         tr("testing the now-playing adapter %1")
                              .arg(QString::fromStdString(probe_->launch().program)));
     probe_->run();
   } else {

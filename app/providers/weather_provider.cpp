@@ -223,10 +223,11 @@ void WeatherProvider::recordCheck() {
 
 std::optional<WeatherProvider::Position> WeatherProvider::position() const {
   if (preferences_.location) {
-    return Position{*preferences_.location,
-                    preferences_.locationName.empty()
-                        ? tr("set in Settings")
-                        : tr("%1, set in Settings").arg(toQString(preferences_.locationName))};
+    return Position{
+        *preferences_.location,
+        preferences_.locationName.empty()
+            ? tr("set in Settings")
+            : QStringLiteral("%1, set in Settings").arg(toQString(preferences_.locationName))};
   }
   if (const auto located = locationService_->location()) {
     return Position{*located, tr("GeoClue")};

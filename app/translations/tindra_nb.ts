@@ -55,6 +55,25 @@
     </message>
 </context>
 <context>
+    <name>Backends</name>
+    <message>
+        <source>no system bus (%1): no battery is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>a Wayland session lets no program take the keys: the desktop keeps them, and the level changes it makes are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no session bus: do-not-disturb is unknown, only `tindra focus` shows a Focus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no X11 window manager to ask (%1): the notch never steps aside for full-screen windows or games</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>BannerPanel</name>
     <message>
         <source>%1 call</source>
@@ -805,10 +824,78 @@
     </message>
 </context>
 <context>
+    <name>tindra::AdapterCheck</name>
+    <message>
+        <source>nothing playing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stream gave %1 update(s) and %2 unreadable line(s) in %3 s: %4.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stream skipped because the self-test failed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not launch stream: </source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::AdapterNowPlayingSource</name>
+    <message>
+        <source>Adapter stream exited with status %1; restarting in %2 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::AdapterProbe</name>
+    <message>
+        <source>The adapter&apos;s self-test did not finish within %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Could not launch %1: %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The adapter&apos;s self-test passed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The adapter&apos;s self-test failed with exit status %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adapter not bundled; missing: %1 %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tindra::BannerProvider</name>
     <message>
         <source>Open %1</source>
         <translation>Åpne %1</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::BlueZAccessoryBackend</name>
+    <message>
+        <source>asking BlueZ for the accessories</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BlueZ went away: no accessories are shown until it returns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>BlueZ does not answer (%1): no accessories are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>following BlueZ: %1 Bluetooth devices known</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -817,20 +904,12 @@
         <source>not read yet</source>
         <translation type="unfinished"></translation>
     </message>
-    <message>
-        <source>%1; the last good copy is kept</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message numerus="yes">
         <source>%n document(s) could not be read (%1)</source>
         <translation type="unfinished">
             <numerusform></numerusform>
             <numerusform></numerusform>
         </translation>
-    </message>
-    <message>
-        <source>%1 events in view</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>, %1 to-dos</source>
@@ -939,6 +1018,29 @@
     </message>
 </context>
 <context>
+    <name>tindra::DBusNotificationMonitor</name>
+    <message>
+        <source>calls and messages are off: notifications are not read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the session bus does not let Tindra read notifications (%1): no calls or messages are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no notification server runs on the session bus: calls and messages show once one starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reading notification banners for calls and messages</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the session bus closed the notification monitor: no calls or messages are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tindra::DiagnosticsWindow</name>
     <message>
         <source>Tindra Diagnostics</source>
@@ -947,6 +1049,13 @@
     <message>
         <source>Copy report</source>
         <translation>Kopier rapport</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeBatteryBackend</name>
+    <message>
+        <source>invented readings (TINDRA_FAKE asks for them)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1012,12 +1121,47 @@
             <numerusform>Kopierer %n elementer til brettet…</numerusform>
         </translation>
     </message>
+    <message>
+        <source>keeping the file tray in %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>some items of the saved file tray could not be read and were left out; the list as it was is kept as %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the saved file tray %1; it is kept as %2 and the tray starts empty</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>was written by a newer Tindra</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>could not be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the file tray is not saved: an unreadable list could not be moved aside</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tindra::FocusViewModel</name>
     <message>
         <source>Focus</source>
         <translation>Fokus</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::GSettingsFocusSource</name>
+    <message>
+        <source>GNOME&apos;s notification settings are not installed: do-not-disturb is unknown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reading do-not-disturb from GNOME&apos;s settings (show-banners)</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1044,11 +1188,30 @@
     </message>
 </context>
 <context>
-    <name>tindra::ICalendarBackend</name>
+    <name>tindra::HudProvider</name>
     <message>
-        <source>%1 cannot be read: %2</source>
+        <source>keyboard light</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Key routing: volume %1, brightness %2, keyboard %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>holds %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>only watches the level for %1 (another program holds them)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>leaves %1 to the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::ICalendarBackend</name>
     <message>
         <source>the calendar list was not readable and was set aside as %1</source>
         <translation type="unfinished"></translation>
@@ -1063,10 +1226,6 @@
     </message>
     <message>
         <source>Use an https:// or webcal:// address: a calendar fetched over plain http can be read by anyone on the way.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 does not exist.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1093,6 +1252,59 @@
     </message>
     <message>
         <source>%1 cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::LogindLockSource</name>
+    <message>
+        <source>asking logind for the session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>logind does not know this session (%1): the screen lock is not followed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>logind does not answer (%1): the screen lock is not followed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>following the screen lock of logind&apos;s session %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::NotificationServerFocusSource</name>
+    <message>
+        <source>reading do-not-disturb from the notification server (Inhibited)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>asking the notification server for do-not-disturb</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the notification server went away: do-not-disturb is unknown until it returns</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no notification server runs: do-not-disturb is unknown until one starts</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the notification server does not report do-not-disturb (no Inhibited property): only `tindra focus` shows a Focus</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::NowPlayingProvider</name>
+    <message>
+        <source>Settings ask for the player scripts, which this desktop does not have: nothing is shown as playing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>testing the now-playing adapter %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1129,6 +1341,44 @@
     <message>
         <source>Start Using Tindra</source>
         <translation>Ta i bruk Tindra</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::PulseProcessTapSession</name>
+    <message>
+        <source>no sound server to listen to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the player&apos;s own stream (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the default output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the sound server has no output to listen to</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source> on </source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the sound server refused a capture stream</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::PulseVolumeBackend</name>
+    <message>
+        <source>following the sound server&apos;s default output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the sound server went away: no volume until it returns</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -1209,6 +1459,13 @@
     </message>
 </context>
 <context>
+    <name>tindra::SysfsBacklightBackend</name>
+    <message>
+        <source>no display backlight in %1: the brightness keys stay with the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tindra::TindraApp</name>
     <message>
         <source>Check Now Playing adapter</source>
@@ -1232,6 +1489,63 @@
     </message>
 </context>
 <context>
+    <name>tindra::UPowerBatteryBackend</name>
+    <message>
+        <source>asking UPower for the battery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UPower does not answer (%1): no battery is shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>reading the battery from UPower</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UPower answers and reports no battery</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UPower went away: no battery is shown until it returns</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::UPowerKeyboardBacklightBackend</name>
+    <message>
+        <source>UPower went away: the keyboard light keys stay with the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>UPower reports no keyboard backlight (%1)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>no levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>keyboard backlight through UPower, %1 levels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the keyboard backlight level cannot be read (%1 of %2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::VisibilityMonitor</name>
+    <message>
+        <source>the notch steps aside: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the notch shows</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>tindra::WeatherProvider</name>
     <message>
         <source>the weather is off in Settings</source>
@@ -1251,10 +1565,6 @@
     </message>
     <message>
         <source>set in Settings</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1, set in Settings</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1338,6 +1648,40 @@
     <message>
         <source>Weather data from MET Norway</source>
         <translation>Værdata fra Meteorologisk institutt</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::X11MediaKeySource</name>
+    <message>
+        <source>no X display: the keys stay with the desktop, and the level changes it makes are shown</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>holding no keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>holding %1 key combinations, %2 held by another program</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the X server closed the connection: the keys stay with the desktop</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>tindra::X11VisibilitySource</name>
+    <message>
+        <source>no X display: the notch never steps aside for full-screen windows or games</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>following the active window and full-screen state from the window manager (EWMH)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>the X server closed the connection: the notch no longer steps aside</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>

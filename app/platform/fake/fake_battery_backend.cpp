@@ -6,7 +6,7 @@ FakeBatteryBackend::FakeBatteryBackend(QObject* parent)
     : BatteryBackend(parent),
       reading_(BatteryStatus(76, false, false, false, 192)),
       check_{DiagnosticsLog::Outcome::degraded,
-             QStringLiteral("invented readings (TINDRA_FAKE asks for them)")} {}
+             tr("invented readings (TINDRA_FAKE asks for them)")} {}
 
 void FakeBatteryBackend::setReading(std::optional<BatteryStatus> reading) {
   if (reading == reading_) return;

@@ -1,5 +1,6 @@
 #include "platform/backend_factory.h"
 
+#include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDBusError>
 #include <QGuiApplication>
@@ -48,7 +49,8 @@ std::unique_ptr<BatteryBackend> makeBatteryBackend() {
   QDBusConnection bus = QDBusConnection::systemBus();
   if (!bus.isConnected()) {
     return std::make_unique<NullBatteryBackend>(
-        QStringLiteral("no system bus (%1): no battery is shown").arg(bus.lastError().message()));
+        QCoreApplication::translate("Backends", "no system bus (%1): no battery is shown")
+            .arg(bus.lastError().message()));
   }
   return std::make_unique<UPowerBatteryBackend>(bus);
 }
@@ -68,9 +70,10 @@ std::shared_ptr<PulseConnection> soundServer() {
 
 std::unique_ptr<MediaKeySource> makeMediaKeySource() {
   if (qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String("wayland")) {
-    return std::make_unique<NullMediaKeySource>(
-        QStringLiteral("a Wayland session lets no program take the keys: the desktop keeps them, "
-                       "and the level changes it makes are shown"));
+    return std::make_unique<NullMediaKeySource>(QCoreApplication::translate(
+        "Backends",
+        "a Wayland session lets no program take the keys: the desktop keeps them, "
+        "and the level changes it makes are shown"));
   }
   return std::make_unique<X11MediaKeySource>();
 }
@@ -149,9 +152,10 @@ std::shared_ptr<FocusStatusSource> makeFocusStatusSource() {
   }
   const QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) {
-    return std::make_shared<NullFocusStatusSource>(
-        QStringLiteral("no session bus: do-not-disturb is unknown, only `tindra focus` shows a "
-                       "Focus"));
+    return std::make_shared<NullFocusStatusSource>(QCoreApplication::translate(
+        "Backends",
+        "no session bus: do-not-disturb is unknown, only `tindra focus` shows a "
+        "Focus"));
   }
   return std::make_shared<NotificationServerFocusSource>(bus);
 }
@@ -178,8 +182,10 @@ std::unique_ptr<LockStateSource> makeLockStateSource() {
 std::unique_ptr<VisibilitySource> makeVisibilitySource() {
   if (QGuiApplication::platformName() != QLatin1String("xcb")) {
     return std::make_unique<NullVisibilitySource>(
-        QStringLiteral("no X11 window manager to ask (%1): the notch never steps aside for "
-                       "full-screen windows or games")
+        QCoreApplication::translate(
+            "Backends",
+            "no X11 window manager to ask (%1): the notch never steps aside for "
+            "full-screen windows or games")
             .arg(QGuiApplication::platformName()));
   }
   return std::make_unique<X11VisibilitySource>(isGameApplication);

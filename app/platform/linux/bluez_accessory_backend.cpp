@@ -68,7 +68,7 @@ BlueZAccessoryBackend::BlueZAccessoryBackend(QDBusConnection bus, QObject* paren
       upower_(
           dbus::upowerService, bus_,
           QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
-      check_{DiagnosticsLog::Outcome::ok, QStringLiteral("asking BlueZ for the accessories")} {
+      check_{DiagnosticsLog::Outcome::ok, tr("asking BlueZ for the accessories")} {
   qDBusRegisterMetaType<InterfaceMap>();
   qDBusRegisterMetaType<ManagedObjects>();
 }
@@ -92,7 +92,7 @@ void BlueZAccessoryBackend::start() {
   connect(&bluez_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
     devices_.clear();
     setCheck(DiagnosticsLog::Outcome::degraded,
-             QStringLiteral("BlueZ went away: no accessories are shown until it returns"));
+             tr("BlueZ went away: no accessories are shown until it returns"));
     emit changed();
   });
   connect(&upower_, &QDBusServiceWatcher::serviceRegistered, this,
@@ -111,8 +111,7 @@ void BlueZAccessoryBackend::readBlueZ() {
   whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
     if (answer.type() != QDBusMessage::ReplyMessage) {
       setCheck(DiagnosticsLog::Outcome::degraded,
-               QStringLiteral("BlueZ does not answer (%1): no accessories are shown")
-                   .arg(answer.errorName()));
+               tr("BlueZ does not answer (%1): no accessories are shown").arg(answer.errorName()));
       return;
     }
     devices_.clear();
@@ -121,7 +120,7 @@ void BlueZAccessoryBackend::readBlueZ() {
       applyInterfaces(object.key().path(), QVariant::fromValue(object.value()));
     }
     setCheck(DiagnosticsLog::Outcome::ok,
-             QStringLiteral("following BlueZ: %1 Bluetooth devices known").arg(devices_.size()));
+             tr("following BlueZ: %1 Bluetooth devices known").arg(devices_.size()));
     emit changed();
   });
 }

@@ -41,7 +41,7 @@ bool CalendarFeed::accept(std::vector<std::string> documents) {
   const std::size_t count = documents.size();
   Reading reading = read(std::move(documents));
   if (count > 0 && reading.failed == count) {
-    readProblem_ = tr("%1; the last good copy is kept").arg(reading.firstError);
+    readProblem_ = QStringLiteral("%1; the last good copy is kept").arg(reading.firstError);
     publish();
     return false;
   }
@@ -79,7 +79,7 @@ void CalendarFeed::setProblem(DiagnosticsLog::Outcome outcome, const QString& te
 // The state says the worst of: getting the documents, reading them, what they hold.
 void CalendarFeed::publish() {
   ServiceCheck state{DiagnosticsLog::Outcome::ok,
-                     tr("%1 events in view").arg(contents_.events.size())};
+                     QStringLiteral("%1 events in view").arg(contents_.events.size())};
   if (!contents_.reminders.empty()) {
     state.text += tr(", %1 to-dos").arg(contents_.reminders.size());
   }

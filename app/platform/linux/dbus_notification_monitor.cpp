@@ -159,7 +159,7 @@ DBusNotificationMonitor::DBusNotificationMonitor(QDBusConnection bus, QObject* p
       bus_(std::move(bus)),
       watcher_(dbus::notificationsService, bus_, QDBusServiceWatcher::WatchForOwnerChange),
       check_{DiagnosticsLog::Outcome::ok,
-             QStringLiteral("calls and messages are off: notifications are not read")} {
+             tr("calls and messages are off: notifications are not read")} {
   connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
           [this](const QString&, const QString& oldOwner, const QString& newOwner) {
             if (!running_) return;
@@ -191,7 +191,7 @@ void DBusNotificationMonitor::stop() {
   running_ = false;
   detach();
   setCheck(DiagnosticsLog::Outcome::ok,
-           QStringLiteral("calls and messages are off: notifications are not read"));
+           tr("calls and messages are off: notifications are not read"));
 }
 
 // The rules: both ways programs send notifications, the server's closing signal and, when a
@@ -237,8 +237,8 @@ void DBusNotificationMonitor::attach(const QString& owner) {
   }
   if (dbus_error_is_set(&error)) {
     setCheck(DiagnosticsLog::Outcome::failed,
-             QStringLiteral("the session bus does not let Tindra read notifications (%1): no calls "
-                            "or messages are shown")
+             tr("the session bus does not let Tindra read notifications (%1): no calls "
+                "or messages are shown")
                  .arg(QString::fromUtf8(error.message)));
     dbus_error_free(&error);
     detach();
@@ -257,11 +257,11 @@ void DBusNotificationMonitor::attach(const QString& owner) {
   qCInfo(lcBanners) << "Reading notification banners for calls and messages";
   if (owner_.isEmpty()) {
     setCheck(DiagnosticsLog::Outcome::degraded,
-             QStringLiteral("no notification server runs on the session bus: calls and messages "
-                            "show once one starts"));
+             tr("no notification server runs on the session bus: calls and messages "
+                "show once one starts"));
   } else {
     setCheck(DiagnosticsLog::Outcome::ok,
-             QStringLiteral("reading notification banners for calls and messages"));
+             tr("reading notification banners for calls and messages"));
   }
   // What arrived with the answer is already queued.
   QTimer::singleShot(0, this, &DBusNotificationMonitor::dispatch);
@@ -284,8 +284,8 @@ void DBusNotificationMonitor::dispatch() {
   if (!dbus_connection_get_is_connected(monitor_)) {
     detach();
     setCheck(DiagnosticsLog::Outcome::failed,
-             QStringLiteral("the session bus closed the notification monitor: no calls or "
-                            "messages are shown"));
+             tr("the session bus closed the notification monitor: no calls or "
+                "messages are shown"));
   }
 }
 

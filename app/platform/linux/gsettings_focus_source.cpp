@@ -44,11 +44,11 @@ void GSettingsFocusSource::start() {
 ServiceCheck GSettingsFocusSource::check() const {
   if (!settings_) {
     return {DiagnosticsLog::Outcome::degraded,
-            QStringLiteral("GNOME's notification settings are not installed: do-not-disturb is "
-                           "unknown")};
+            tr("GNOME's notification settings are not installed: do-not-disturb is "
+               "unknown")};
   }
   return {DiagnosticsLog::Outcome::ok,
-          QStringLiteral("reading do-not-disturb from GNOME's settings (show-banners)")};
+          tr("reading do-not-disturb from GNOME's settings (show-banners)")};
 }
 
 void GSettingsFocusSource::onChanged(GSettings*, const char*, void* self) {

@@ -91,7 +91,7 @@ void ICalendarBackend::loadList() {
   const auto text = list_.read();
   if (!text) {
     if (text.error() != ENOENT) {
-      listProblem_ = tr("%1 cannot be read: %2")
+      listProblem_ = QStringLiteral("%1 cannot be read: %2")
                          .arg(QString::fromStdString(places_.list.string()),
                               QString::fromLocal8Bit(std::strerror(text.error())));
     }
@@ -224,7 +224,7 @@ std::optional<QString> ICalendarBackend::add(const QString& given) {
           "read by anyone on the way.");
     }
   } else if (!QFileInfo::exists(location)) {
-    return tr("%1 does not exist.").arg(location);
+    return QStringLiteral("%1 does not exist.").arg(location);
   }
   if (added_.contains(location) || places_.found.contains(location)) {
     return tr("This calendar is already in the list.");

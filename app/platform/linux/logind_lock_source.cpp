@@ -32,7 +32,7 @@ LogindLockSource::LogindLockSource(QDBusConnection systemBus, QDBusConnection se
       system_(std::move(systemBus)),
       session_(std::move(sessionBus)),
       watcher_(logind, system_, QDBusServiceWatcher::WatchForRegistration),
-      check_{DiagnosticsLog::Outcome::ok, QStringLiteral("asking logind for the session")} {}
+      check_{DiagnosticsLog::Outcome::ok, tr("asking logind for the session")} {}
 
 void LogindLockSource::start() {
   // Any path: GNOME's saver speaks on /org/gnome/ScreenSaver, others on /ScreenSaver.
@@ -57,8 +57,8 @@ void LogindLockSource::findSession() {
         const QString id = qEnvironmentVariable("XDG_SESSION_ID");
         if (id.isEmpty()) {
           setCheck(DiagnosticsLog::Outcome::degraded,
-                   QStringLiteral("logind does not know this session (%1): the screen lock is not "
-                                  "followed")
+                   tr("logind does not know this session (%1): the screen lock is not "
+                      "followed")
                        .arg(byProcess.errorName()));
           return;
         }
@@ -69,8 +69,8 @@ void LogindLockSource::findSession() {
                          return;
                        }
                        setCheck(DiagnosticsLog::Outcome::degraded,
-                                QStringLiteral("logind does not answer (%1): the screen lock is "
-                                               "not followed")
+                                tr("logind does not answer (%1): the screen lock is "
+                                   "not followed")
                                     .arg(byId.errorName()));
                      });
       });
@@ -102,7 +102,7 @@ void LogindLockSource::followSession(const QString& path) {
     const QVariant hint = answer.arguments().value(0).value<QDBusVariant>().variant();
     if (hint.typeId() == QMetaType::Bool && !locked_) setLocked(hint.toBool());
     setCheck(DiagnosticsLog::Outcome::ok,
-             QStringLiteral("following the screen lock of logind's session %1").arg(path));
+             tr("following the screen lock of logind's session %1").arg(path));
   });
 }
 

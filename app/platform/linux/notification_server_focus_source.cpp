@@ -24,7 +24,8 @@ bool serverAbsent(const QString& error) {
 
 ServiceCheck readingCheck() {
   return {DiagnosticsLog::Outcome::ok,
-          QStringLiteral("reading do-not-disturb from the notification server (Inhibited)")};
+          NotificationServerFocusSource::tr(
+              "reading do-not-disturb from the notification server (Inhibited)")};
 }
 
 }  // namespace
@@ -35,8 +36,8 @@ NotificationServerFocusSource::NotificationServerFocusSource(QDBusConnection bus
       watcher_(
           dbus::notificationsService, bus_,
           QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
-      check_{DiagnosticsLog::Outcome::ok,
-             QStringLiteral("asking the notification server for do-not-disturb")} {}
+      check_{DiagnosticsLog::Outcome::ok, tr("asking the notification server for do-not-disturb")} {
+}
 
 void NotificationServerFocusSource::start() {
   bus_.connect(dbus::notificationsService, dbus::notificationsPath, dbus::properties,
@@ -45,10 +46,9 @@ void NotificationServerFocusSource::start() {
   connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this,
           &NotificationServerFocusSource::read);
   connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
-    publish(std::nullopt,
-            {DiagnosticsLog::Outcome::degraded,
-             QStringLiteral("the notification server went away: do-not-disturb is unknown "
-                            "until it returns")});
+    publish(std::nullopt, {DiagnosticsLog::Outcome::degraded,
+                           tr("the notification server went away: do-not-disturb is unknown "
+                              "until it returns")});
   });
   read();
 }
@@ -65,13 +65,13 @@ void NotificationServerFocusSource::read() {
       publish(value.toBool(), readingCheck());
     } else if (answer.type() == QDBusMessage::ErrorMessage && serverAbsent(answer.errorName())) {
       publish(std::nullopt, {DiagnosticsLog::Outcome::degraded,
-                             QStringLiteral("no notification server runs: do-not-disturb is "
-                                            "unknown until one starts")});
+                             tr("no notification server runs: do-not-disturb is "
+                                "unknown until one starts")});
     } else {
-      publish(std::nullopt, {DiagnosticsLog::Outcome::degraded,
-                             QStringLiteral("the notification server does not report "
-                                            "do-not-disturb (no Inhibited property): only "
-                                            "`tindra focus` shows a Focus")});
+      publish(std::nullopt,
+              {DiagnosticsLog::Outcome::degraded, tr("the notification server does not report "
+                                                     "do-not-disturb (no Inhibited property): only "
+                                                     "`tindra focus` shows a Focus")});
     }
   });
 }

@@ -127,7 +127,7 @@ void PulseProcessTapSession::stop() {
 void PulseProcessTapSession::refresh() {
   if (!active_) return;
   if (!connection_->isReady()) {
-    emit unavailable(QStringLiteral("no sound server to listen to"));
+    emit unavailable(tr("no sound server to listen to"));
     return;
   }
   connection_->run([this](pa_context* context) {
@@ -171,10 +171,9 @@ void PulseProcessTapSession::onStreams(const std::vector<PlaybackStream>& stream
   lookingFor_ = wanted;
   if (mine) {
     readSink(QByteArray::number(mine->sink), mine->index, mine->format,
-             QStringLiteral("the player's own stream (%1)").arg(mine->binary));
+             tr("the player's own stream (%1)").arg(mine->binary));
   } else {
-    readSink("@DEFAULT_SINK@", PA_INVALID_INDEX, std::nullopt,
-             QStringLiteral("the default output"));
+    readSink("@DEFAULT_SINK@", PA_INVALID_INDEX, std::nullopt, tr("the default output"));
   }
 }
 
@@ -199,7 +198,7 @@ void PulseProcessTapSession::readSink(const QByteArray& sink, std::uint32_t stre
       if (last < 0) {
         lookup->answer([](PulseProcessTapSession& session) {
           session.lookingUp_ = false;
-          emit session.unavailable(QStringLiteral("the sound server has no output to listen to"));
+          emit session.unavailable(tr("the sound server has no output to listen to"));
         });
       }
       delete lookup;
@@ -226,7 +225,7 @@ void PulseProcessTapSession::capture(const Source& source, std::uint32_t streamI
                               samples_,
                               format.channels,
                               double(format.rate),
-                              what + QStringLiteral(" on ") + source.sinkName,
+                              what + tr(" on ") + source.sinkName,
                               {connection_.get(), this}};
   connection_->run([&](pa_context* context) {
     pa_proplist* properties = pa_proplist_new();
@@ -254,7 +253,7 @@ void PulseProcessTapSession::capture(const Source& source, std::uint32_t streamI
   });
   if (capture->stream == nullptr) {
     delete capture;
-    emit unavailable(QStringLiteral("the sound server refused a capture stream"));
+    emit unavailable(tr("the sound server refused a capture stream"));
     return;
   }
   capture_ = capture;

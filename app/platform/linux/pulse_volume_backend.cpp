@@ -23,12 +23,11 @@ PulseVolumeBackend::PulseVolumeBackend(std::shared_ptr<PulseConnection> connecti
       tick_(*connection_, "tindra-volume-tick", tickSound()) {
   connect(connection_.get(), &PulseConnection::readyChanged, this, [this](bool ready) {
     if (ready) {
-      setCheck(DiagnosticsLog::Outcome::ok,
-               QStringLiteral("following the sound server's default output"));
+      setCheck(DiagnosticsLog::Outcome::ok, tr("following the sound server's default output"));
       readDefaultSink();
     } else {
       setCheck(DiagnosticsLog::Outcome::degraded,
-               QStringLiteral("the sound server went away: no volume until it returns"));
+               tr("the sound server went away: no volume until it returns"));
       publish(std::nullopt);
     }
   });

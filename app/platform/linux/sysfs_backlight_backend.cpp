@@ -56,8 +56,7 @@ void SysfsBacklightBackend::start() {
   if (maximum_ <= 0) {
     setAccess(
         BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-        QStringLiteral("no display backlight in %1: the brightness keys stay with the desktop")
-            .arg(folder_));
+        tr("no display backlight in %1: the brightness keys stay with the desktop").arg(folder_));
     return;
   }
   // brightness changes on every write through sysfs; actual_brightness is the file the kernel

@@ -61,7 +61,7 @@ UPowerBatteryBackend::UPowerBatteryBackend(QDBusConnection bus, QObject* parent)
       profilesWatcher_(
           profilesService, bus_,
           QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
-      check_{DiagnosticsLog::Outcome::ok, QStringLiteral("asking UPower for the battery")} {}
+      check_{DiagnosticsLog::Outcome::ok, tr("asking UPower for the battery")} {}
 
 void UPowerBatteryBackend::start() {
   bus_.connect(dbus::upowerService, displayDevice, dbus::properties,
@@ -117,21 +117,19 @@ void UPowerBatteryBackend::onReadAll(QDBusPendingCallWatcher* call) {
   if (reply.isError()) {
     // Not running now; the watcher reads again when it starts.
     setCheck(DiagnosticsLog::Outcome::degraded,
-             QStringLiteral("UPower does not answer (%1): no battery is shown")
-                 .arg(reply.error().name()));
+             tr("UPower does not answer (%1): no battery is shown").arg(reply.error().name()));
     publish(std::nullopt);
     return;
   }
   device_ = UPowerDevice{};
   apply(reply.value());
-  setCheck(DiagnosticsLog::Outcome::ok,
-           reading_ ? QStringLiteral("reading the battery from UPower")
-                    : QStringLiteral("UPower answers and reports no battery"));
+  setCheck(DiagnosticsLog::Outcome::ok, reading_ ? tr("reading the battery from UPower")
+                                                 : tr("UPower answers and reports no battery"));
 }
 
 void UPowerBatteryBackend::onServiceGone() {
   setCheck(DiagnosticsLog::Outcome::degraded,
-           QStringLiteral("UPower went away: no battery is shown until it returns"));
+           tr("UPower went away: no battery is shown until it returns"));
   publish(std::nullopt);
 }
 

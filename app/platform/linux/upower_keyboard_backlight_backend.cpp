@@ -41,7 +41,7 @@ void UPowerKeyboardBacklightBackend::start() {
     maximum_ = 0;
     forgetReading();
     setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-              QStringLiteral("UPower went away: the keyboard light keys stay with the desktop"));
+              tr("UPower went away: the keyboard light keys stay with the desktop"));
   });
   readMaximum();
 }
@@ -51,25 +51,23 @@ QDBusMessage UPowerKeyboardBacklightBackend::call(const QString& method) const {
 }
 
 void UPowerKeyboardBacklightBackend::readMaximum() {
-  whenAnswered(
-      bus_.asyncCall(call(QStringLiteral("GetMaxBrightness"))), this,
-      [this](const QDBusMessage& answer) {
-        maximum_ = intAnswer(answer).value_or(0);
-        if (maximum_ <= 0) {
-          forgetReading();
-          setAccess(
-              BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-              QStringLiteral("UPower reports no keyboard backlight (%1)")
-                  .arg(answer.type() == QDBusMessage::ErrorMessage ? answer.errorName()
-                                                                   : QStringLiteral("no levels")));
-          return;
-        }
-        readLevel([this] {
-          setAccess(
-              BrightnessAccess::readWrite, DiagnosticsLog::Outcome::ok,
-              QStringLiteral("keyboard backlight through UPower, %1 levels").arg(maximum_ + 1));
-        });
-      });
+  whenAnswered(bus_.asyncCall(call(QStringLiteral("GetMaxBrightness"))), this,
+               [this](const QDBusMessage& answer) {
+                 maximum_ = intAnswer(answer).value_or(0);
+                 if (maximum_ <= 0) {
+                   forgetReading();
+                   setAccess(
+                       BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
+                       tr("UPower reports no keyboard backlight (%1)")
+                           .arg(answer.type() == QDBusMessage::ErrorMessage ? answer.errorName()
+                                                                            : tr("no levels")));
+                   return;
+                 }
+                 readLevel([this] {
+                   setAccess(BrightnessAccess::readWrite, DiagnosticsLog::Outcome::ok,
+                             tr("keyboard backlight through UPower, %1 levels").arg(maximum_ + 1));
+                 });
+               });
 }
 
 void UPowerKeyboardBacklightBackend::readLevel(std::function<void()> then) {
@@ -87,10 +85,9 @@ void UPowerKeyboardBacklightBackend::onBrightnessChanged(int value) {
   // The policy judges the reading; the level keeps double precision.
   if (!KeyboardBacklightPolicy::level(static_cast<float>(ratio)) || ratio < 0) {
     forgetReading();
-    setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-              QStringLiteral("the keyboard backlight level cannot be read (%1 of %2)")
-                  .arg(value)
-                  .arg(maximum_));
+    setAccess(
+        BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
+        tr("the keyboard backlight level cannot be read (%1 of %2)").arg(value).arg(maximum_));
     return;
   }
   publish(BacklightReading{device, std::min(ratio, 1.0), false});

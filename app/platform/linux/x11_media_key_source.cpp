@@ -40,8 +40,8 @@ X11MediaKeySource::X11MediaKeySource(QObject* parent) : MediaKeySource(parent) {
   connection_ = xcb_connect(nullptr, &screen);
   if (xcb_connection_has_error(connection_) != 0) {
     setCheck(DiagnosticsLog::Outcome::degraded,
-             QStringLiteral("no X display: the keys stay with the desktop, and the level "
-                            "changes it makes are shown"));
+             tr("no X display: the keys stay with the desktop, and the level "
+                "changes it makes are shown"));
     return;
   }
   xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection_));
@@ -63,7 +63,7 @@ X11MediaKeySource::X11MediaKeySource(QObject* parent) : MediaKeySource(parent) {
   notifier_ = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_),
                                                 QSocketNotifier::Read);
   connect(notifier_.get(), &QSocketNotifier::activated, this, &X11MediaKeySource::readEvents);
-  setCheck(DiagnosticsLog::Outcome::ok, QStringLiteral("holding no keys"));
+  setCheck(DiagnosticsLog::Outcome::ok, tr("holding no keys"));
 }
 
 X11MediaKeySource::~X11MediaKeySource() {
@@ -159,7 +159,7 @@ void X11MediaKeySource::setWanted(const std::vector<KeyGrab>& wanted) {
   // Replies may have brought events along.
   readEvents();
   setCheck(refused_.empty() ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::degraded,
-           QStringLiteral("holding %1 key combinations, %2 held by another program")
+           tr("holding %1 key combinations, %2 held by another program")
                .arg(held_.size())
                .arg(refused_.size()));
 }
@@ -177,7 +177,7 @@ void X11MediaKeySource::readEvents() {
     notifier_->setEnabled(false);
     held_.clear();
     setCheck(DiagnosticsLog::Outcome::degraded,
-             QStringLiteral("the X server closed the connection: the keys stay with the desktop"));
+             tr("the X server closed the connection: the keys stay with the desktop"));
   }
 }
 

@@ -40,8 +40,8 @@ X11VisibilitySource::X11VisibilitySource(GameTest isGame, QObject* parent)
   connection_ = xcb_connect(nullptr, &screen);
   if (xcb_connection_has_error(connection_) != 0) {
     setCheck(DiagnosticsLog::Outcome::degraded,
-             QStringLiteral("no X display: the notch never steps aside for full-screen windows "
-                            "or games"));
+             tr("no X display: the notch never steps aside for full-screen windows "
+                "or games"));
     return;
   }
   xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection_));
@@ -178,8 +178,8 @@ void X11VisibilitySource::reread() {
   }
   if (xcb_connection_has_error(connection_) == 0) {
     setCheck(DiagnosticsLog::Outcome::ok,
-             QStringLiteral("following the active window and full-screen state from the window "
-                            "manager (EWMH)"));
+             tr("following the active window and full-screen state from the window "
+                "manager (EWMH)"));
   }
   const bool changedWindows = assignIfChanged(windows_, std::move(windows));
   if (assignIfChanged(frontmost_, std::move(frontmost)) || changedWindows) emit changed();
@@ -199,8 +199,8 @@ void X11VisibilitySource::readEvents() {
   if (xcb_connection_has_error(connection_) != 0) {
     notifier_.reset();
     setCheck(DiagnosticsLog::Outcome::failed,
-             QStringLiteral("the X server closed the connection: the notch no longer steps "
-                            "aside"));
+             tr("the X server closed the connection: the notch no longer steps "
+                "aside"));
     return;
   }
   // One read for a burst of events (a window going full screen sends several).
