@@ -1,6 +1,10 @@
 #include "shell/settings_pages.h"
 
 #include <QCoreApplication>
+#include <map>
+
+#include "lockscreen/lock_widget_offset.h"
+#include "power/battery_threshold.h"
 
 namespace tindra {
 
@@ -77,6 +81,25 @@ std::vector<SettingsPage> settingsPages() {
     pages.push_back({QCoreApplication::translate("Settings", page.title), page.keys});
   }
   return pages;
+}
+
+std::optional<SettingsRange> settingsRangeOf(std::string_view key) {
+  // The core clamps the thresholds and the lock-widget offset to these; the rest are what makes
+  // sense on a screen and a clock.
+  static const std::map<std::string_view, SettingsRange, std::less<>> ranges{
+      {"batteryLowThreshold", {BatteryThreshold::minimum, BatteryThreshold::maximum, 1}},
+      {"accessoryLowThreshold", {BatteryThreshold::minimum, BatteryThreshold::maximum, 1}},
+      {"simulatedNotchWidth", {100, 400, 5}},
+      {"simulatedNotchHeight", {20, 60, 1}},
+      {"hoverOpenDelay", {0, 2, 0.05}},
+      {"holdOpenDuration", {0.1, 3, 0.05}},
+      {"hudDuration", {0.5, 10, 0.25}},
+      {"calendarLeadMinutes", {1, 120, 1}},
+      {"travelBufferMinutes", {0, 120, 1}},
+      {"lockWidgetOffset", {-maxLockWidgetOffset, maxLockWidgetOffset, 1}},
+  };
+  const auto found = ranges.find(key);
+  return found == ranges.end() ? std::nullopt : std::optional(found->second);
 }
 
 int settingsPageOf(std::string_view key) {

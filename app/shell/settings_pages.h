@@ -3,6 +3,7 @@
 #pragma once
 
 #include <QString>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -16,5 +17,13 @@ struct SettingsPage {
 std::vector<SettingsPage> settingsPages();
 // The index of the page that lists `key`, or -1.
 int settingsPageOf(std::string_view key);
+
+// The values a number setting's control offers; none where any value goes.
+struct SettingsRange {
+  double minimum;
+  double maximum;
+  double step;
+};
+std::optional<SettingsRange> settingsRangeOf(std::string_view key);
 
 }  // namespace tindra

@@ -166,7 +166,9 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
     case Type::integer: {
       // QSpinBox holds ints; thresholds and minutes fit with room to spare.
       auto* box = new QSpinBox;
-      box->setRange(-1'000'000'000, 1'000'000'000);
+      const std::optional<SettingsRange> range = settingsRangeOf(key.name);
+      box->setRange(range ? static_cast<int>(range->minimum) : -1'000'000'000,
+                    range ? static_cast<int>(range->maximum) : 1'000'000'000);
       connect(box, &QSpinBox::valueChanged, this, [this, name](int v) { write(name, v); });
       row.editor = box;
       row.show = [box](const JSONValue& v) {
@@ -177,9 +179,10 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
     }
     case Type::number: {
       auto* box = new QDoubleSpinBox;
-      box->setRange(-1e6, 1e6);
+      const std::optional<SettingsRange> range = settingsRangeOf(key.name);
+      box->setRange(range ? range->minimum : -1e6, range ? range->maximum : 1e6);
       box->setDecimals(2);
-      box->setSingleStep(0.05);
+      box->setSingleStep(range ? range->step : 0.05);
       connect(box, &QDoubleSpinBox::valueChanged, this, [this, name](double v) { write(name, v); });
       row.editor = box;
       row.show = [box](const JSONValue& v) {

@@ -9,12 +9,14 @@
 #include <QDBusMessage>
 #include <QDBusVariant>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QFile>
 #include <QGuiApplication>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QRegularExpression>
+#include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
 #include <QTranslator>
@@ -220,6 +222,24 @@ TEST_F(SettingsWindowTest, TheSearchFindsEveryKeyByItsNameAndAWordOfItsDescripti
   EXPECT_FALSE(window.isListed(settings::playSounds.name));
   window.search(QString());
   EXPECT_TRUE(window.isListed(settings::playSounds.name));
+}
+
+TEST_F(SettingsWindowTest, NumbersAreOfferedInTheirRange) {
+  SettingsWindow window(store_);
+  auto* threshold = qobject_cast<QSpinBox*>(window.editorFor(settings::batteryLowThreshold.name));
+  ASSERT_NE(threshold, nullptr);
+  EXPECT_EQ(threshold->minimum(), 5);
+  EXPECT_EQ(threshold->maximum(), 50);
+  auto* delay = qobject_cast<QDoubleSpinBox*>(window.editorFor(settings::hoverOpenDelay.name));
+  ASSERT_NE(delay, nullptr);
+  EXPECT_EQ(delay->maximum(), 2.0);
+  for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
+    const auto range = settingsRangeOf(key.name);
+    const double* fallback = key.defaultValue.asNumber();
+    if (range && fallback) {
+      EXPECT_TRUE(*fallback >= range->minimum && *fallback <= range->maximum) << key.name;
+    }
+  }
 }
 
 TEST_F(SettingsWindowTest, ResetPageResetsThatPageAlone) {
