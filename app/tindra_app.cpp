@@ -134,6 +134,20 @@ void TindraApp::startProviders() {
       tr("No window can be drawn above the screen locker of a Linux desktop, so there are no "
          "lock-screen widgets here; the notch hides while the screen is locked."),
       true);
+  shell_->addNote(std::string(settings::volumeHUDEnabled.name),
+                  tr("Alt-Shift with a volume or brightness key changes it in smaller steps. "
+                     "Keys go to the desktop when the output or display cannot be controlled."),
+                  false);
+  shell_->addNote(std::string(settings::volumeFeedbackFallback.name),
+                  tr("Hold Shift while pressing a volume key to do the opposite."), false);
+  shell_->addNote(std::string(settings::experimentalKeyboardBacklight.name),
+                  tr("If this computer ignores Tindra's changes, the keys go back to the desktop "
+                     "and the notch only shows the level."),
+                  false);
+  shell_->addNote(std::string(settings::batteryLowThreshold.name),
+                  tr("The warning appears once when the battery reaches this level, and again "
+                     "only after charging."),
+                  false);
   shell_->addNote(std::string(settings::experimentalFileTray.name),
                   tr("Up to 20 items. Copies take up to 2 GB in total."), false);
   shell_->addNote(std::string(settings::fileTrayMode.name),

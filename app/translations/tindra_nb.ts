@@ -1487,6 +1487,22 @@
         <source>A ringing call shows only that it rings; answer it on the desktop&apos;s notification. Messages and missed calls show who and what, with a button that opens the application that sent them. Nothing is stored or sent, and nothing shows while do-not-disturb is on.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Alt-Shift with a volume or brightness key changes it in smaller steps. Keys go to the desktop when the output or display cannot be controlled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold Shift while pressing a volume key to do the opposite.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If this computer ignores Tindra&apos;s changes, the keys go back to the desktop and the notch only shows the level.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The warning appears once when the battery reaches this level, and again only after charging.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>tindra::UPowerBatteryBackend</name>
