@@ -127,19 +127,15 @@ void TindraApp::startProviders() {
     return (!battery->available() && name.starts_with("battery")) ||
            name.starts_with("lockScreen") || name == settings::lockWidgetOffset.name ||
            name == settings::hideDuringMissionControl.name ||
-           name == settings::airDropNotices.name || name == settings::receiveBetaUpdates.name;
+           name == settings::airDropNotices.name || name == settings::receiveBetaUpdates.name ||
+           name == settings::nowPlayingFallbackNoticeOSVersion.name ||
+           name == settings::keyboardBacklightMissingOn.name;
   });
   shell_->addNote(
       std::string(settings::experimentalLockScreen.name),
       tr("No window can be drawn above the screen locker of a Linux desktop, so there are no "
          "lock-screen widgets here; the notch hides while the screen is locked."),
       true);
-  shell_->addNote(std::string(settings::volumeHUDEnabled.name),
-                  tr("Alt-Shift with a volume or brightness key changes it in smaller steps. "
-                     "Keys go to the desktop when the output or display cannot be controlled."),
-                  false);
-  shell_->addNote(std::string(settings::volumeFeedbackFallback.name),
-                  tr("Hold Shift while pressing a volume key to do the opposite."), false);
   shell_->addNote(std::string(settings::experimentalKeyboardBacklight.name),
                   tr("If this computer ignores Tindra's changes, the keys go back to the desktop "
                      "and the notch only shows the level."),

@@ -83,6 +83,32 @@ std::vector<SettingsPage> settingsPages() {
   return pages;
 }
 
+const char* settingsDescriptionHere(std::string_view key) {
+  static const std::map<std::string_view, const char*, std::less<>> here{
+      {"nowPlayingSourceMode",
+       QT_TRANSLATE_NOOP("SettingsKeys",
+                         "Where the playing track comes from: automatic (the desktop's players), "
+                         "or only the player scripts of a Mac, which show nothing here.")},
+      {"volumeHUDEnabled",
+       QT_TRANSLATE_NOOP("SettingsKeys",
+                         "Show volume changes in the notch. Alt-Shift with a volume or brightness "
+                         "key changes it in smaller steps.")},
+      {"brightnessHUDEnabled",
+       QT_TRANSLATE_NOOP("SettingsKeys",
+                         "Show brightness changes in the notch. Keys go to the desktop when the "
+                         "output or display cannot be controlled.")},
+      {"volumeFeedbackFallback",
+       QT_TRANSLATE_NOOP("SettingsKeys",
+                         "Play the volume feedback sound where the desktop does not. Hold Shift "
+                         "while pressing a volume key to do the opposite.")},
+      {"focusFilterState",
+       QT_TRANSLATE_NOOP("SettingsKeys",
+                         "The Focus filter's last state, as `tindra focus` wrote it.")},
+  };
+  const auto found = here.find(key);
+  return found == here.end() ? nullptr : found->second;
+}
+
 std::optional<SettingsRange> settingsRangeOf(std::string_view key) {
   // The core clamps the thresholds and the lock-widget offset to these; the rest are what makes
   // sense on a screen and a clock.

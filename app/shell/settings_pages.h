@@ -18,6 +18,10 @@ std::vector<SettingsPage> settingsPages();
 // The index of the page that lists `key`, or -1.
 int settingsPageOf(std::string_view key);
 
+// The description of `key` in this desktop's words where the key table's speaks of the Mac
+// (marked for translation in "SettingsKeys"); nullptr where the table's own fits.
+const char* settingsDescriptionHere(std::string_view key);
+
 // The values a number setting's control offers; none where any value goes.
 struct SettingsRange {
   double minimum;

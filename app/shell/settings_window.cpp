@@ -126,8 +126,9 @@ void SettingsWindow::addRow(int page, int line, const settings::SettingsKeyDescr
   Row row = makeEditor(key);
   row.page = page;
   // The description in the desktop's language (settings_key_texts.cpp marks them all).
-  const QString description =
-      QCoreApplication::translate("SettingsKeys", std::string(key.description).c_str());
+  const char* here = settingsDescriptionHere(key.name);
+  const QString description = QCoreApplication::translate(
+      "SettingsKeys", here != nullptr ? here : std::string(key.description).c_str());
   // The key's name, and below it in grey what it is for.
   auto* label =
       new QLabel(QStringLiteral("%1<br><small style=\"color: gray\">%2</small>")

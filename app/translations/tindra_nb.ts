@@ -649,6 +649,26 @@
         <source>The tray keeps links to dropped files or copies of them.</source>
         <translation>Brettet holder lenker til filene eller kopier av dem.</translation>
     </message>
+    <message>
+        <source>Where the playing track comes from: automatic (the desktop&apos;s players), or only the player scripts of a Mac, which show nothing here.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show volume changes in the notch. Alt-Shift with a volume or brightness key changes it in smaller steps.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Show brightness changes in the notch. Keys go to the desktop when the output or display cannot be controlled.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play the volume feedback sound where the desktop does not. Hold Shift while pressing a volume key to do the opposite.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The Focus filter&apos;s last state, as `tindra focus` wrote it.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>SettingsValues</name>
@@ -1485,14 +1505,6 @@
     </message>
     <message>
         <source>A ringing call shows only that it rings; answer it on the desktop&apos;s notification. Messages and missed calls show who and what, with a button that opens the application that sent them. Nothing is stored or sent, and nothing shows while do-not-disturb is on.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Alt-Shift with a volume or brightness key changes it in smaller steps. Keys go to the desktop when the output or display cannot be controlled.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Hold Shift while pressing a volume key to do the opposite.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
