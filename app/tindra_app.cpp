@@ -120,8 +120,9 @@ void TindraApp::startProviders() {
   }
   // A machine without a battery (a desktop) has no battery settings. Nothing draws above a Linux
   // screen locker: the lock-screen widgets are not offered, and their details not shown. This
-  // desktop has no Mission Control and no AirDrop, its package manager updates Tindra, and no
-  // record of system versions is kept here.
+  // desktop has no Mission Control and no AirDrop, its package manager updates Tindra, no record
+  // of system versions is kept here, and X11 lets every program read the screen, so no window can
+  // keep out of recordings.
   auto* battery = static_cast<BatteryViewModel*>(provider(QStringLiteral("battery"))->viewModel());
   shell_->setHiddenSettings([battery](std::string_view name) {
     return (!battery->available() && name.starts_with("battery")) ||
@@ -129,7 +130,8 @@ void TindraApp::startProviders() {
            name == settings::hideDuringMissionControl.name ||
            name == settings::airDropNotices.name || name == settings::receiveBetaUpdates.name ||
            name == settings::nowPlayingFallbackNoticeOSVersion.name ||
-           name == settings::keyboardBacklightMissingOn.name;
+           name == settings::keyboardBacklightMissingOn.name ||
+           name == settings::hideFromScreenRecordings.name;
   });
   shell_->addNote(
       std::string(settings::experimentalLockScreen.name),
