@@ -10,8 +10,10 @@ build: deps
 	cmake --preset default
 	cmake --build --preset default
 
+# The benchmarks are no test: `make test` leaves them out (about fifty seconds of compiling) and
+# `make bench` puts them back.
 test: deps
-	cmake --preset default
+	cmake --preset default -DTINDRA_BUILD_BENCH=OFF
 	cmake --build --preset default
 	ctest --preset default
 	cmake --preset asan
@@ -31,7 +33,9 @@ install: build
 package: build
 	cd build/default && cpack -G DEB
 
-bench: build
+bench: deps
+	cmake --preset default -DTINDRA_BUILD_BENCH=ON
+	cmake --build --preset default
 	scripts/bench
 
 fuzz: deps
