@@ -31,6 +31,17 @@ QString nameOf(const std::string& path) {
   return QFileInfo(QString::fromStdString(path)).fileName();
 }
 
+// The candidate a file or folder at `path` makes: its identity as the bookmark, its name and type.
+FileTrayCandidate candidateFor(const std::string& path, const QMimeDatabase& types) {
+  const std::optional<FileIdentity> identity = FileIdentity::of(path);
+  return {.bookmark = identity ? identity->bookmark() : std::vector<std::uint8_t>{},
+          .displayName = nameOf(path).toStdString(),
+          .path = path,
+          .contentType = types.mimeTypeForFile(QString::fromStdString(path)).name().toStdString(),
+          .copiedBytes = std::nullopt,
+          .sourcePath = std::nullopt};
+}
+
 // "Already in the tray: a.txt, b.txt." and the like; nothing for no names.
 void tell(QStringList& status, const QString& before, const QStringList& names,
           const QString& after = QString()) {
@@ -46,8 +57,7 @@ FileTrayProvider::FileTrayProvider(ProviderContext context, std::filesystem::pat
                                    std::function<double()> now,
                                    std::function<bool(const QUrl&)> openUrl, QObject* parent)
     : Provider(context, parent),
-      dataFolder_(std::move(dataFolder)),
-      storage_(dataFolder_),
+      storage_(std::move(dataFolder)),
       now_(std::move(now)),
       openUrl_(std::move(openUrl)),
       viewModel_({[this](const QString& id) { open(id); },
@@ -95,6 +105,7 @@ void FileTrayProvider::start() {
                  kept));
   }
   storage_.removeStaleIncoming(now_());
+  watchFolders();
   publish();
 }
 
@@ -114,17 +125,15 @@ bool FileTrayProvider::drop(const QList<QUrl>& urls) {
   if (other) status << tr("Only files and folders can go in the tray.");
   if (settings().read(settings::fileTrayMode) == FileTrayStorageMode::link) {
     addLinks(paths, status);
-    status_ = status.join(QLatin1Char(' '));
-    save();
-    publish();
+    setStatus(status);
+    itemsChanged();
     return true;
   }
   // Folders can be large: they are measured off the main thread, then admitted.
   auto* measuring = new QFutureWatcher<std::vector<FileTrayCopyRequest>>(this);
   connect(measuring, &QFutureWatcherBase::finished, this, [this, measuring, status] {
     measuring->deleteLater();
-    status_ = status.join(QLatin1Char(' '));
-    measured(measuring->result());
+    measured(measuring->result(), status);
   });
   measuring->setFuture(QtConcurrent::run(measureForTray, paths));
   return true;
@@ -136,15 +145,8 @@ void FileTrayProvider::addLinks(const std::vector<std::string>& paths, QStringLi
   QStringList unreadable;
   QMimeDatabase types;
   for (const std::string& path : paths) {
-    const std::optional<FileIdentity> identity = FileIdentity::of(path);
-    const QString shown = nameOf(path);
-    const FileTrayCandidate candidate{
-        .bookmark = identity ? identity->bookmark() : std::vector<std::uint8_t>{},
-        .displayName = shown.toStdString(),
-        .path = path,
-        .contentType = types.mimeTypeForFile(QString::fromStdString(path)).name().toStdString(),
-        .copiedBytes = std::nullopt,
-        .sourcePath = std::nullopt};
+    const FileTrayCandidate candidate = candidateFor(path, types);
+    const QString shown = toQString(candidate.displayName);
     const FileTray::AddResult result = tray_.add({&candidate, 1}, now_());
     if (result.duplicates > 0) duplicates << shown;
     if (result.refusedForCapacity > 0) full << shown;
@@ -155,8 +157,8 @@ void FileTrayProvider::addLinks(const std::vector<std::string>& paths, QStringLi
   tell(status, tr("Only files and folders can go in the tray:"), unreadable);
 }
 
-void FileTrayProvider::measured(const std::vector<FileTrayCopyRequest>& requests) {
-  QStringList status{status_};
+void FileTrayProvider::measured(const std::vector<FileTrayCopyRequest>& requests,
+                                QStringList status) {
   QStringList duplicates;
   QStringList full;
   QStringList tooBig;
@@ -178,8 +180,7 @@ void FileTrayProvider::measured(const std::vector<FileTrayCopyRequest>& requests
   tell(status, tr("Copies in the tray are limited to 2 GB:"), tooBig,
        tr("not added. Remove some items first."));
   tell(status, QString(), failed, tr("could not be copied into the tray."));
-  status.removeAll(QString());
-  status_ = status.join(QLatin1Char(' ')).trimmed();
+  setStatus(status);
   startCopy();
   publish();
 }
@@ -200,20 +201,12 @@ void FileTrayProvider::startCopy() {
 }
 
 void FileTrayProvider::copied(const TrayCopyResult& result) {
-  QStringList status;
-  if (!status_.isEmpty()) status << status_;
+  QStringList status{status_};
+  const QMimeDatabase types;
   for (const TrayCopy& copy : result.copied) {
-    const std::optional<FileIdentity> identity = FileIdentity::of(copy.copyPath);
-    const FileTrayCandidate candidate{
-        .bookmark = identity ? identity->bookmark() : std::vector<std::uint8_t>{},
-        .displayName = nameOf(copy.copyPath).toStdString(),
-        .path = copy.copyPath,
-        .contentType = QMimeDatabase()
-                           .mimeTypeForFile(QString::fromStdString(copy.copyPath))
-                           .name()
-                           .toStdString(),
-        .copiedBytes = copy.bytes,
-        .sourcePath = copy.sourcePath};
+    FileTrayCandidate candidate = candidateFor(copy.copyPath, types);
+    candidate.copiedBytes = copy.bytes;
+    candidate.sourcePath = copy.sourcePath;
     tray_.add({&candidate, 1}, now_());
   }
   QStringList failed;
@@ -223,15 +216,13 @@ void FileTrayProvider::copied(const TrayCopyResult& result) {
   for (const FileTrayCopyRequest& request : copy_->requests) {
     std::erase(pending_, request);
   }
-  status.removeAll(QString());
-  status_ = status.join(QLatin1Char(' ')).trimmed();
+  setStatus(status);
   // Its watcher is telling us it finished: it goes once that is over.
   QMetaObject::invokeMethod(
       this, [finished = std::shared_ptr<Copy>(copy_.release())] {}, Qt::QueuedConnection);
   progressTimer_.stop();
-  save();
   publishProgress();
-  publish();
+  itemsChanged();
   startCopy();
 }
 
@@ -252,8 +243,22 @@ void FileTrayProvider::open(const QString& id) {
 
 void FileTrayProvider::remove(const QString& id) {
   const std::optional<UUID> uuid = UUID::fromText(id.toStdString());
-  const std::optional<FileTrayItem> removed = uuid ? tray_.remove(*uuid) : std::nullopt;
-  if (!removed) return;
+  if (!uuid || !takeOut(*uuid)) return;
+  status_.clear();
+  itemsChanged();
+}
+
+void FileTrayProvider::removeAll() {
+  std::vector<UUID> ids;
+  for (const FileTrayItem& item : tray_.items()) ids.push_back(item.id);
+  for (const UUID& id : ids) takeOut(id);
+  status_.clear();
+  itemsChanged();
+}
+
+bool FileTrayProvider::takeOut(const UUID& id) {
+  const std::optional<FileTrayItem> removed = tray_.remove(id);
+  if (!removed) return false;
   // The tray's copy goes with its item; a link's file is never touched.
   if (removed->isCopy()) {
     if (const auto deleted = storage_.deleteCopy(*removed); !deleted) {
@@ -261,15 +266,19 @@ void FileTrayProvider::remove(const QString& id) {
                                    << std::strerror(deleted.error().error);
     }
   }
-  status_.clear();
-  save();
-  publish();
+  return true;
 }
 
-void FileTrayProvider::removeAll() {
-  std::vector<QString> ids;
-  for (const FileTrayItem& item : tray_.items()) ids.push_back(toQString(item.id.text()));
-  for (const QString& id : ids) remove(id);
+void FileTrayProvider::setStatus(QStringList parts) {
+  parts.removeAll(QString());
+  status_ = parts.join(QLatin1Char(' ')).trimmed();
+}
+
+// The items changed: saved, their folders watched, drawn.
+void FileTrayProvider::itemsChanged() {
+  save();
+  watchFolders();
+  publish();
 }
 
 void FileTrayProvider::save() {
@@ -306,7 +315,6 @@ void FileTrayProvider::publish() {
                          {"missing", missing(item)},
                          {"copy", item.isCopy()}};
   }
-  watchFolders();
   viewModel_.set(settings().read(settings::experimentalFileTray), items, status_);
 }
 

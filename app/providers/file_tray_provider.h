@@ -56,16 +56,20 @@ class FileTrayProvider final : public Provider {
   void removeAll();
   void cancelCopy();
   void addLinks(const std::vector<std::string>& paths, QStringList& status);
-  void measured(const std::vector<FileTrayCopyRequest>& requests);
+  // `status` says what the drop refused before measuring.
+  void measured(const std::vector<FileTrayCopyRequest>& requests, QStringList status);
   void startCopy();
   void copied(const TrayCopyResult& result);
+  // Takes the item out of the tray, deleting the tray's copy; false for an unknown one.
+  bool takeOut(const UUID& id);
+  void setStatus(QStringList parts);
+  void itemsChanged();
   void save();
   void publish();
   void publishProgress();
   void watchFolders();
   bool missing(const FileTrayItem& item) const;
 
-  std::filesystem::path dataFolder_;
   FileTrayStorage storage_;
   std::function<double()> now_;
   std::function<bool(const QUrl&)> openUrl_;
