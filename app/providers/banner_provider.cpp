@@ -1,12 +1,10 @@
 #include "providers/banner_provider.h"
 
-#include <fstream>
-#include <sstream>
-
 #include "activity_center.h"
 #include "diagnostics/diagnostics_log.h"
 #include "logging_categories.h"
 #include "qt_text.h"
+#include "settings/durable_file.h"
 #include "settings/settings_keys.h"
 
 namespace tindra {
@@ -35,11 +33,8 @@ BannerProvider::BannerProvider(ProviderContext context, std::unique_ptr<Notifica
 }
 
 BannerApps BannerProvider::userApps(const std::filesystem::path& file) {
-  std::ifstream in(file, std::ios::binary);
-  if (!in) return BannerApps::defaults();
-  std::ostringstream text;
-  text << in.rdbuf();
-  return BannerApps::decode(text.str());
+  const std::expected<std::string, int> text = DurableFile(file).read();
+  return text ? BannerApps::decode(*text) : BannerApps::defaults();
 }
 
 void BannerProvider::start() {
@@ -70,11 +65,11 @@ void BannerProvider::follow() {
 
 void BannerProvider::onNotified(const DesktopNotification& sent) {
   if (focus_->focused().value_or(false)) return;  // the desktop shows no banners either
-  // GLib's notifications name only their application's id; its entry gives the name people know.
+  // The installed entry's name: for the button, and for GLib's notifications, which name only
+  // their application's id.
+  const QString installed = opener_->displayName(toQString(sent.desktopEntry));
   DesktopNotification notification = sent;
-  if (notification.appName.empty()) {
-    notification.appName = opener_->displayName(toQString(notification.desktopEntry)).toStdString();
-  }
+  if (notification.appName.empty()) notification.appName = installed.toStdString();
   const std::optional<BannerEvent> event = classifyNotification(
       notification, apps_, settings().read(settings::experimentalMessageNotices),
       settings().read(settings::experimentalCallNotices));
@@ -93,7 +88,6 @@ void BannerProvider::onNotified(const DesktopNotification& sent) {
   }
   messageId_ = notification.id;
   messageEntry_ = toQString(notification.desktopEntry);
-  const QString installed = opener_->displayName(messageEntry_);
   viewModel_.setMessage(BannerViewModel::Message{
       toQString(notice->app), toQString(notice->title), toQString(notice->body.value_or("")),
       notice->isCall, installed.isEmpty() ? QString() : tr("Open %1").arg(installed)});

@@ -1,7 +1,5 @@
 #include "providers/lock_screen_provider.h"
 
-#include <QSysInfo>
-
 #include "diagnostics/diagnostics_log.h"
 #include "logging_categories.h"
 #include "qt_text.h"
@@ -40,8 +38,7 @@ void LockScreenProvider::judgeLastLaunch() {
   if (!disable) return;
   qCWarning(lcLockScreen).noquote()
       << "lock-screen session guard:" << toQString(LockScreenNotice::message(disable->reason));
-  const LockScreenNotice notice{disable->reason, now_(),
-                                QSysInfo::prettyProductName().toStdString()};
+  const LockScreenNotice notice{disable->reason, now_(), guard_.osVersion()};
   for (const LockScreenFeature feature : LockSessionPolicy::featuresToTurnOff(
            launch.verdict, settings().read(settings::experimentalLockScreen),
            settings().read(settings::lockScreenNotch))) {

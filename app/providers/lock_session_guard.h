@@ -27,6 +27,7 @@ class LockSessionGuard {
   void end();
 
   const std::filesystem::path& file() const { return file_.url(); }
+  const std::string& osVersion() const { return osVersion_; }
 
  private:
   void save(const LockSessionRecord& record);
