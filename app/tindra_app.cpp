@@ -118,47 +118,11 @@ void TindraApp::startProviders() {
     views_.setModel(provider->name(), provider->viewModel());
     provider->start();
   }
-  // A machine without a battery (a desktop) has no battery settings. Nothing draws above a Linux
-  // screen locker: the lock-screen widgets are not offered, and their details not shown. This
-  // desktop has no Mission Control and no AirDrop, its package manager updates Tindra, no record
-  // of system versions is kept here, and X11 lets every program read the screen, so no window can
-  // keep out of recordings.
+  // A machine without a battery (a desktop) has no battery settings.
   auto* battery = static_cast<BatteryViewModel*>(provider(QStringLiteral("battery"))->viewModel());
   shell_->setHiddenSettings([battery](std::string_view name) {
-    return (!battery->available() && name.starts_with("battery")) ||
-           name.starts_with("lockScreen") || name == settings::lockWidgetOffset.name ||
-           name == settings::hideDuringMissionControl.name ||
-           name == settings::airDropNotices.name || name == settings::receiveBetaUpdates.name ||
-           name == settings::nowPlayingFallbackNoticeOSVersion.name ||
-           name == settings::keyboardBacklightMissingOn.name ||
-           name == settings::hideFromScreenRecordings.name;
+    return !battery->available() && name.starts_with("battery");
   });
-  shell_->addNote(
-      std::string(settings::experimentalLockScreen.name),
-      tr("No window can be drawn above the screen locker of a Linux desktop, so there are no "
-         "lock-screen widgets here; the notch hides while the screen is locked."),
-      true);
-  shell_->addNote(std::string(settings::experimentalKeyboardBacklight.name),
-                  tr("If this computer ignores Tindra's changes, the keys go back to the desktop "
-                     "and the notch only shows the level."),
-                  false);
-  shell_->addNote(std::string(settings::batteryLowThreshold.name),
-                  tr("The warning appears once when the battery reaches this level, and again "
-                     "only after charging."),
-                  false);
-  shell_->addNote(std::string(settings::experimentalFileTray.name),
-                  tr("Up to 20 items. Copies take up to 2 GB in total."), false);
-  shell_->addNote(std::string(settings::fileTrayMode.name),
-                  tr("Links: Tindra remembers where they are; nothing is copied. Copies: Tindra "
-                     "keeps a copy, so they stay usable if the originals go; removing it from the "
-                     "tray deletes the copy, never the original."),
-                  false);
-  shell_->addNote(std::string(settings::experimentalCallNotices.name),
-                  tr("A ringing call shows only that it rings; answer it on the desktop's "
-                     "notification. Messages and missed calls show who and what, with a button "
-                     "that opens the application that sent them. Nothing is stored or sent, and "
-                     "nothing shows while do-not-disturb is on."),
-                  false);
 }
 
 // Every notch steps aside while the screen is locked, and each over a full-screen window or game.

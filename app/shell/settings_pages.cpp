@@ -2,6 +2,7 @@
 
 #include <QCoreApplication>
 #include <map>
+#include <set>
 
 #include "lockscreen/lock_widget_offset.h"
 #include "power/battery_threshold.h"
@@ -107,6 +108,57 @@ const char* settingsDescriptionHere(std::string_view key) {
   };
   const auto found = here.find(key);
   return found == here.end() ? nullptr : found->second;
+}
+
+bool settingsHiddenHere(std::string_view key) {
+  // Nothing draws above a Linux screen locker, so the lock-screen details are not offered. This
+  // desktop has no Mission Control and no AirDrop, its package manager updates Tindra, no record
+  // of system versions is kept here, and X11 lets every program read the screen, so no window can
+  // keep out of recordings.
+  static const std::set<std::string_view, std::less<>> hidden{
+      "lockWidgetOffset",        "hideDuringMissionControl",          "airDropNotices",
+      "receiveBetaUpdates",      "nowPlayingFallbackNoticeOSVersion", "keyboardBacklightMissingOn",
+      "hideFromScreenRecordings"};
+  return key.starts_with("lockScreen") || hidden.contains(key);
+}
+
+std::optional<SettingsNote> settingsNoteHere(std::string_view key) {
+  static const std::map<std::string_view, SettingsNote, std::less<>> notes{
+      {"experimentalLockScreen",
+       {QT_TRANSLATE_NOOP("SettingsNotes",
+                          "No window can be drawn above the screen locker of a Linux desktop, so "
+                          "there are no lock-screen widgets here; the notch hides while the "
+                          "screen is locked."),
+        true}},
+      {"experimentalKeyboardBacklight",
+       {QT_TRANSLATE_NOOP("SettingsNotes",
+                          "If this computer ignores Tindra's changes, the keys go back to the "
+                          "desktop and the notch only shows the level."),
+        false}},
+      {"batteryLowThreshold",
+       {QT_TRANSLATE_NOOP("SettingsNotes",
+                          "The warning appears once when the battery reaches this level, and "
+                          "again only after charging."),
+        false}},
+      {"experimentalFileTray",
+       {QT_TRANSLATE_NOOP("SettingsNotes", "Up to 20 items. Copies take up to 2 GB in total."),
+        false}},
+      {"fileTrayMode",
+       {QT_TRANSLATE_NOOP("SettingsNotes",
+                          "Links: Tindra remembers where they are; nothing is copied. Copies: "
+                          "Tindra keeps a copy, so they stay usable if the originals go; removing "
+                          "it from the tray deletes the copy, never the original."),
+        false}},
+      {"experimentalCallNotices",
+       {QT_TRANSLATE_NOOP("SettingsNotes",
+                          "A ringing call shows only that it rings; answer it on the desktop's "
+                          "notification. Messages and missed calls show who and what, with a "
+                          "button that opens the application that sent them. Nothing is stored or "
+                          "sent, and nothing shows while do-not-disturb is on."),
+        false}},
+  };
+  const auto found = notes.find(key);
+  return found == notes.end() ? std::nullopt : std::optional(found->second);
 }
 
 std::optional<SettingsRange> settingsRangeOf(std::string_view key) {

@@ -102,7 +102,15 @@ void ShellActions::openSettings() {
                                 new WeatherSettingsEditor(*weather_, weather_->cities()));
     }
     settingsWindow_->addToPage(settingsPages().back().title, diagnosticsPanel());
-    for (const Note& note : notes_) {
+    std::vector<Note> notes = notes_;
+    for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
+      if (const std::optional<SettingsNote> here = settingsNoteHere(key.name)) {
+        notes.push_back({std::string(key.name),
+                         QCoreApplication::translate("SettingsNotes", here->text),
+                         here->unavailable});
+      }
+    }
+    for (const Note& note : notes) {
       auto* label = new QLabel(note.text);
       label->setWordWrap(true);
       label->setStyleSheet(note.unavailable ? QStringLiteral("color: #b25000")
@@ -112,7 +120,9 @@ void ShellActions::openSettings() {
       if (editor && note.unavailable) editor->setEnabled(false);
     }
   }
-  settingsWindow_->setHidden(hiddenSettings_);
+  settingsWindow_->setHidden([this](std::string_view name) {
+    return settingsHiddenHere(name) || (hiddenSettings_ && hiddenSettings_(name));
+  });
   settingsWindow_->show();
   settingsWindow_->raise();
   settingsWindow_->activateWindow();

@@ -36,7 +36,8 @@ class ShellActions : public QObject {
 
   // Shows the Settings window, making it on first use.
   void openSettings();
-  // Asked each time the Settings window opens: keys that do not apply on this machine.
+  // Asked each time the Settings window opens: keys that do not apply on this machine, beside
+  // those that mean nothing on this desktop (settingsHiddenHere).
   void setHiddenSettings(std::function<bool(std::string_view name)> hidden) {
     hiddenSettings_ = std::move(hidden);
   }
@@ -47,11 +48,6 @@ class ShellActions : public QObject {
     if (!travelUnavailable.isEmpty()) {
       addNote(std::string(settings::travelTimeEnabled.name), std::move(travelUnavailable), true);
     }
-  }
-  // A few words under a setting: what it does on this platform, or, with `unavailable`, why it
-  // cannot work here (in orange, its control greyed out).
-  void addNote(std::string name, QString text, bool unavailable) {
-    notes_.push_back({std::move(name), std::move(text), unavailable});
   }
   // The weather's own settings, under weatherEnabled.
   void setWeather(WeatherProvider* weather) { weather_ = weather; }
@@ -64,6 +60,11 @@ class ShellActions : public QObject {
   DiagnosticsWindow* diagnosticsWindow() const { return diagnosticsWindow_; }
 
  private:
+  // A few words under a setting, beside those settings_pages.h gives for this desktop: what it
+  // does here, or, with `unavailable`, why it cannot work here (in orange, its control greyed out).
+  void addNote(std::string name, QString text, bool unavailable) {
+    notes_.push_back({std::move(name), std::move(text), unavailable});
+  }
   QWidget* diagnosticsPanel();
 
   SettingsStore& settings_;

@@ -671,6 +671,33 @@
     </message>
 </context>
 <context>
+    <name>SettingsNotes</name>
+    <message>
+        <source>No window can be drawn above the screen locker of a Linux desktop, so there are no lock-screen widgets here; the notch hides while the screen is locked.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>If this computer ignores Tindra&apos;s changes, the keys go back to the desktop and the notch only shows the level.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The warning appears once when the battery reaches this level, and again only after charging.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Up to 20 items. Copies take up to 2 GB in total.</source>
+        <translation>Opptil 20 elementer. Kopier tar opptil 2 GB til sammen.</translation>
+    </message>
+    <message>
+        <source>Links: Tindra remembers where they are; nothing is copied. Copies: Tindra keeps a copy, so they stay usable if the originals go; removing it from the tray deletes the copy, never the original.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A ringing call shows only that it rings; answer it on the desktop&apos;s notification. Messages and missed calls show who and what, with a button that opens the application that sent them. Nothing is stored or sent, and nothing shows while do-not-disturb is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>SettingsValues</name>
     <message>
         <source>monochrome</source>
@@ -1490,30 +1517,6 @@
     <message>
         <source>Check Now Playing adapter</source>
         <translation>Sjekk Spilles nå-adapteren</translation>
-    </message>
-    <message>
-        <source>No window can be drawn above the screen locker of a Linux desktop, so there are no lock-screen widgets here; the notch hides while the screen is locked.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Up to 20 items. Copies take up to 2 GB in total.</source>
-        <translation>Opptil 20 elementer. Kopier tar opptil 2 GB til sammen.</translation>
-    </message>
-    <message>
-        <source>Links: Tindra remembers where they are; nothing is copied. Copies: Tindra keeps a copy, so they stay usable if the originals go; removing it from the tray deletes the copy, never the original.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>A ringing call shows only that it rings; answer it on the desktop&apos;s notification. Messages and missed calls show who and what, with a button that opens the application that sent them. Nothing is stored or sent, and nothing shows while do-not-disturb is on.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>If this computer ignores Tindra&apos;s changes, the keys go back to the desktop and the notch only shows the level.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>The warning appears once when the battery reaches this level, and again only after charging.</source>
-        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
