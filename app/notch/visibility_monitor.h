@@ -28,7 +28,8 @@ class VisibilityMonitor : public QObject {
   void start();
   // Why the notch on the display with `screen` (Qt's global geometry) steps aside, or none.
   std::optional<NotchHideReason> reasonFor(const QRect& screen) const;
-  // The reason on the display in front, for diagnostics; none while every notch shows.
+  // The reason on the first display whose notch steps aside, for diagnostics; none while every
+  // notch shows.
   std::optional<NotchHideReason> reason() const { return reason_; }
 
  signals:

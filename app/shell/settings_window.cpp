@@ -136,7 +136,6 @@ void SettingsWindow::addRow(int page, int line, const settings::SettingsKeyDescr
   label->setWordWrap(true);
   label->setToolTip(description);
   row.label = label;
-  label->setProperty("line", line);
   auto* reset = new QToolButton;
   reset->setText(tr("Reset"));
   reset->setToolTip(tr("Use the default value"));
@@ -300,7 +299,7 @@ void SettingsWindow::setHidden(std::function<bool(std::string_view name)> hidden
 
 void SettingsWindow::filter(const QString& text) {
   const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
-  std::vector<QWidget*> firstFound(pages_.size(), nullptr);
+  std::vector<const Row*> firstFound(pages_.size(), nullptr);
   for (const auto& [name, row] : rows_) {
     const QString about = toQString(name) + QLatin1Char(' ') + row.label->toolTip();
     const bool match =
@@ -311,10 +310,8 @@ void SettingsWindow::filter(const QString& text) {
     row.editor->setVisible(match);
     row.reset->setVisible(match);
     if (row.extra != nullptr) row.extra->setVisible(match);
-    QWidget*& first = firstFound[static_cast<std::size_t>(row.page)];
-    if (match && (first == nullptr || row.line < first->property("line").toInt())) {
-      first = row.label;
-    }
+    const Row*& first = firstFound[static_cast<std::size_t>(row.page)];
+    if (match && (first == nullptr || row.line < first->line)) first = &row;
   }
   if (words.isEmpty()) {
     for (int page = 0; page < pageList_.count(); ++page)
@@ -333,8 +330,9 @@ void SettingsWindow::filter(const QString& text) {
   if (jumpTo >= 0 && firstFound[static_cast<std::size_t>(current)] == nullptr) {
     pageList_.setCurrentRow(jumpTo);
   }
-  if (QWidget* first = firstFound[static_cast<std::size_t>(stack_.currentIndex())]) {
-    pages_[static_cast<std::size_t>(stack_.currentIndex())].scroll->ensureWidgetVisible(first);
+  if (const Row* first = firstFound[static_cast<std::size_t>(stack_.currentIndex())]) {
+    pages_[static_cast<std::size_t>(stack_.currentIndex())].scroll->ensureWidgetVisible(
+        first->label);
   }
 }
 
