@@ -78,21 +78,24 @@ void LogindLockSource::findSession() {
 
 void LogindLockSource::followSession(const QString& path) {
   if (path != sessionPath_) {
-    if (!sessionPath_.isEmpty()) {
-      system_.disconnect(logind, sessionPath_, sessionInterface, QStringLiteral("Lock"), this,
-                         SLOT(onLock()));
-      system_.disconnect(logind, sessionPath_, sessionInterface, QStringLiteral("Unlock"), this,
-                         SLOT(onUnlock()));
-      system_.disconnect(logind, sessionPath_, dbus::properties,
-                         QStringLiteral("PropertiesChanged"), this,
-                         SLOT(onSessionProperties(QString, QVariantMap, QStringList)));
+    // The session's signals: to drop for the session followed so far, and to take for this one.
+    struct Signal {
+      const QString& interface;
+      const char* name;
+      const char* slot;
+    };
+    const Signal sessionSignals[] = {{sessionInterface, "Lock", SLOT(onLock())},
+                               {sessionInterface, "Unlock", SLOT(onUnlock())},
+                               {dbus::properties, "PropertiesChanged",
+                                SLOT(onSessionProperties(QString, QVariantMap, QStringList))}};
+    for (const Signal& signal : sessionSignals) {
+      const QString name = QLatin1String(signal.name);
+      if (!sessionPath_.isEmpty()) {
+        system_.disconnect(logind, sessionPath_, signal.interface, name, this, signal.slot);
+      }
+      system_.connect(logind, path, signal.interface, name, this, signal.slot);
     }
     sessionPath_ = path;
-    system_.connect(logind, path, sessionInterface, QStringLiteral("Lock"), this, SLOT(onLock()));
-    system_.connect(logind, path, sessionInterface, QStringLiteral("Unlock"), this,
-                    SLOT(onUnlock()));
-    system_.connect(logind, path, dbus::properties, QStringLiteral("PropertiesChanged"), this,
-                    SLOT(onSessionProperties(QString, QVariantMap, QStringList)));
   }
   QDBusMessage call =
       QDBusMessage::createMethodCall(logind, path, dbus::properties, QStringLiteral("Get"));
