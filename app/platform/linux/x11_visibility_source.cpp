@@ -30,8 +30,12 @@ struct X11VisibilitySource::Window {
   bool fullScreen = false;
   bool hidden = false;
   bool dock = false;
-  std::string applicationId;
-  std::string windowClass;
+};
+
+// Who a window belongs to, asked of the active window alone.
+struct X11VisibilitySource::Identity {
+  std::string applicationId;  // _GTK_APPLICATION_ID, where GLib sets it
+  std::string windowClass;    // the class half of WM_CLASS
 };
 
 X11VisibilitySource::X11VisibilitySource(GameTest isGame, QObject* parent)
@@ -131,17 +135,22 @@ X11VisibilitySource::Window X11VisibilitySource::read(xcb_window_t window) {
     read.frame = Rect{static_cast<double>(origin->dst_x), static_cast<double>(origin->dst_y),
                       static_cast<double>(geometry->width), static_cast<double>(geometry->height)};
   }
-  read.applicationId = text(connection_, window, atoms_->gtkApplicationId, atoms_->utf8String);
+  return read;
+}
+
+X11VisibilitySource::Identity X11VisibilitySource::identify(xcb_window_t window) {
+  Identity identity;
+  identity.applicationId = text(connection_, window, atoms_->gtkApplicationId, atoms_->utf8String);
   // WM_CLASS is "instance\0class\0".
   const std::string classes = text(connection_, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING);
   const std::size_t split = classes.find('\0');
   if (split != std::string::npos) {
-    read.windowClass = classes.substr(split + 1);
-    if (const std::size_t end = read.windowClass.find('\0'); end != std::string::npos) {
-      read.windowClass.resize(end);
+    identity.windowClass = classes.substr(split + 1);
+    if (const std::size_t end = identity.windowClass.find('\0'); end != std::string::npos) {
+      identity.windowClass.resize(end);
     }
   }
-  return read;
+  return identity;
 }
 
 // Watches the active window's state and geometry; the one before is let go.
@@ -171,9 +180,13 @@ void X11VisibilitySource::reread() {
     if (window != activeWindow) continue;
     frontmost = FrontmostApp{};
     frontmost->processIdentifier = seen.owner;
-    const std::string& id = seen.applicationId.empty() ? seen.windowClass : seen.applicationId;
+    const Identity identity = identify(window);
+    const std::string& id =
+        identity.applicationId.empty() ? identity.windowClass : identity.applicationId;
     if (!id.empty()) frontmost->bundleIdentifier = id;
-    if (isGame_(seen.applicationId, seen.windowClass)) frontmost->category = gamesCategory;
+    if (isGame_(identity.applicationId, identity.windowClass)) {
+      frontmost->category = gamesCategory;
+    }
     if (seen.fullScreen) frontmost->fullScreenWindowFrames.push_back(seen.frame);
   }
   if (xcb_connection_has_error(connection_) == 0) {

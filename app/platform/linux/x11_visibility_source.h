@@ -39,10 +39,12 @@ class X11VisibilitySource final : public VisibilitySource {
  private:
   struct Atoms;
   struct Window;
+  struct Identity;
 
   void readEvents();
   void reread();
   Window read(xcb_window_t window);
+  Identity identify(xcb_window_t window);
   void follow(xcb_window_t active);
   void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
