@@ -84,10 +84,11 @@ void LogindLockSource::followSession(const QString& path) {
       const char* name;
       const char* slot;
     };
-    const Signal sessionSignals[] = {{sessionInterface, "Lock", SLOT(onLock())},
-                               {sessionInterface, "Unlock", SLOT(onUnlock())},
-                               {dbus::properties, "PropertiesChanged",
-                                SLOT(onSessionProperties(QString, QVariantMap, QStringList))}};
+    const Signal sessionSignals[] = {
+        {sessionInterface, "Lock", SLOT(onLock())},
+        {sessionInterface, "Unlock", SLOT(onUnlock())},
+        {dbus::properties, "PropertiesChanged",
+         SLOT(onSessionProperties(QString, QVariantMap, QStringList))}};
     for (const Signal& signal : sessionSignals) {
       const QString name = QLatin1String(signal.name);
       if (!sessionPath_.isEmpty()) {
