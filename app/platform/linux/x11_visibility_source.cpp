@@ -79,6 +79,7 @@ void X11VisibilitySource::start() {
                                                 QSocketNotifier::Read);
   connect(notifier_.get(), &QSocketNotifier::activated, this, &X11VisibilitySource::readEvents);
   reread();
+  readEvents();
 }
 
 namespace {
@@ -199,6 +200,22 @@ void X11VisibilitySource::reread() {
 }
 
 void X11VisibilitySource::readEvents() {
+  // The replies a reread waits for can bring events along into xcb's own queue, where the socket
+  // notifier never sees them; so the queue is emptied again after every reread.
+  while (takeEvents()) {
+    if (xcb_connection_has_error(connection_) != 0) break;
+    reread();  // one read for a burst of events (a window going full screen sends several)
+  }
+  if (xcb_connection_has_error(connection_) != 0) {
+    notifier_.reset();
+    setCheck(DiagnosticsLog::Outcome::failed,
+             tr("the X server closed the connection: the notch no longer steps "
+                "aside"));
+  }
+}
+
+// Empties xcb's event queue; true when an event there may change what is on screen.
+bool X11VisibilitySource::takeEvents() {
   bool stale = false;
   while (XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_)}) {
     const std::uint8_t type = event->response_type & 0x7f;
@@ -209,15 +226,7 @@ void X11VisibilitySource::readEvents() {
     }
     stale |= type == XCB_CONFIGURE_NOTIFY || type == XCB_DESTROY_NOTIFY;
   }
-  if (xcb_connection_has_error(connection_) != 0) {
-    notifier_.reset();
-    setCheck(DiagnosticsLog::Outcome::failed,
-             tr("the X server closed the connection: the notch no longer steps "
-                "aside"));
-    return;
-  }
-  // One read for a burst of events (a window going full screen sends several).
-  if (stale) reread();
+  return stale;
 }
 
 void X11VisibilitySource::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {

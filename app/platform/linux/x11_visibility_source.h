@@ -42,6 +42,7 @@ class X11VisibilitySource final : public VisibilitySource {
   struct Identity;
 
   void readEvents();
+  bool takeEvents();
   void reread();
   Window read(xcb_window_t window);
   Identity identify(xcb_window_t window);

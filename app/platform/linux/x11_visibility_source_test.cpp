@@ -51,8 +51,10 @@ int wmctrl(const QStringList& arguments) {
   return process.waitForFinished() ? process.exitCode() : -1;
 }
 
-void fullScreen(bool on) {
-  wmctrl({"-r", ":ACTIVE:", "-b", on ? "add,fullscreen" : "remove,fullscreen"});
+// Activation is asked of the window manager and done when it gets to it, so the window is named
+// by its title rather than taken to be the active one yet.
+void fullScreen(const QString& title, bool on) {
+  wmctrl({"-r", title, "-b", on ? "add,fullscreen" : "remove,fullscreen"});
 }
 
 class X11VisibilityTest : public ::testing::Test {
@@ -92,7 +94,7 @@ TEST_F(X11VisibilityTest, TheNotchStepsAsideOverFullScreenWindowsAndComesBack) {
 
   Client window(QStringLiteral("xmessage"), {"-geometry", "400x200+200+300", "A window"});
   ASSERT_TRUE(waitFor([&] { return wmctrl({"-a", "xmessage"}) == 0; }));
-  fullScreen(true);
+  fullScreen("xmessage", true);
   ASSERT_TRUE(waitFor([&] { return monitor.reason() == NotchHideReason::fullScreen; }));
   EXPECT_FALSE(notch.isVisible());
   EXPECT_EQ(monitor.reasonFor(screen()), NotchHideReason::fullScreen);
@@ -106,7 +108,7 @@ TEST_F(X11VisibilityTest, TheNotchStepsAsideOverFullScreenWindowsAndComesBack) {
   ASSERT_TRUE(app.settings().write(settings::hideInFullScreen, true));
   ASSERT_TRUE(waitFor([&] { return !notch.isVisible(); }));
 
-  fullScreen(false);
+  fullScreen("xmessage", false);
   ASSERT_TRUE(waitFor([&] { return notch.isVisible(); }));
   EXPECT_EQ(monitor.reason(), std::nullopt);
 }
@@ -119,7 +121,7 @@ TEST_F(X11VisibilityTest, AFullScreenGameHidesItEvenWithFullScreenHidingOff) {
   ASSERT_TRUE(waitFor([&] { return wmctrl({"-a", "xfontsel"}) == 0; }));
   QTest::qWait(100);
   EXPECT_EQ(monitor.reason(), std::nullopt);  // a windowed game hides nothing
-  fullScreen(true);
+  fullScreen("xfontsel", true);
   ASSERT_TRUE(waitFor([&] { return monitor.reason() == NotchHideReason::game; }));
   EXPECT_FALSE(app.notches().windows().front()->isVisible());
 
