@@ -58,6 +58,7 @@ TindraApp::TindraApp(Options options, QObject* parent)
         window.setAnimated(options_.animated);
         window.setContextMenu(notchMenu());
         window.setFileDrop([this](const QList<QUrl>& urls) { return fileTray().drop(urls); });
+        connect(&window, &NotchWindow::swiped, nowPlaying(), &NowPlayingProvider::swiped);
       });
   connect(tray_.get(), &TrayItem::shownChanged, this, &TindraApp::offerMenuOnNotches);
   stepAside();
@@ -152,6 +153,10 @@ void TindraApp::followNetwork(WeatherProvider& weather) {
   };
   follow(network->reachability());
   connect(network, &QNetworkInformation::reachabilityChanged, &weather, follow);
+}
+
+NowPlayingProvider* TindraApp::nowPlaying() const {
+  return static_cast<NowPlayingProvider*>(provider(QStringLiteral("media")));
 }
 
 FileTrayProvider& TindraApp::fileTray() const {

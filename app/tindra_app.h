@@ -19,6 +19,7 @@ class AdapterCheck;
 class DiagnosticsLog;
 class FileTrayProvider;
 class NotchContent;
+class NowPlayingProvider;
 class OnboardingWindow;
 class Provider;
 class NotchScreenManager;
@@ -49,6 +50,7 @@ class TindraApp : public QObject {
   // The running provider called `name`, or null.
   Provider* provider(const QString& name) const;
   FileTrayProvider& fileTray() const;
+  NowPlayingProvider* nowPlaying() const;
   NotchScreenManager& notches() { return *notches_; }
   ShellActions& shell() { return *shell_; }
   TrayItem& tray() { return *tray_; }

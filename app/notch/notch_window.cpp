@@ -45,11 +45,12 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, No
   setResizeMode(QQuickView::SizeRootObjectToView);
   setTitle(QStringLiteral("Tindra"));
 
-  readTiming();
-  timingObservation_ = settings_.observe(
+  readSettings();
+  settingsObservation_ = settings_.observe(
       {std::string(settings::notchOpeningMode.name), std::string(settings::hoverOpenDelay.name),
-       std::string(settings::holdOpenDuration.name)},
-      [this](std::string_view) { readTiming(); });
+       std::string(settings::holdOpenDuration.name), std::string(settings::swipeGestures.name),
+       std::string(settings::mouseDragGestures.name)},
+      [this](std::string_view) { readSettings(); });
 
   for (QVariantAnimation* animation : {&openAnimation_, &compactAnimation_, &stretchAnimation_}) {
     animation->setStartValue(0.0);
@@ -104,12 +105,14 @@ void NotchWindow::place(const NotchGeometry& geometry, const ScreenCoordinates& 
   updateShape();
 }
 
-void NotchWindow::readTiming() {
+void NotchWindow::readSettings() {
   NotchHoverStateMachine::Timing timing;
   timing.openDelay = settings_.read(settings::hoverOpenDelay);
   timing.holdDuration = settings_.read(settings::holdOpenDuration);
   timing.openingMode = settings_.read(settings::notchOpeningMode);
   machine_.setTiming(timing);
+  swipeGestures_ = settings_.read(settings::swipeGestures);
+  mouseDragGestures_ = settings_.read(settings::mouseDragGestures);
 }
 
 void NotchWindow::open() {
@@ -142,6 +145,9 @@ bool NotchWindow::event(QEvent* event) {
     case QEvent::DragLeave:
     case QEvent::Drop:
       return handleDrag(event);
+    case QEvent::Wheel:
+      handleWheel(*static_cast<QWheelEvent*>(event));
+      break;
     default:
       break;
   }
@@ -167,9 +173,16 @@ bool NotchWindow::handleMouse(QEvent* event) {
   }
   if (buttonDown_ && pressInside_ && !machine_.isExpanded()) pull(pointer_);
   if (!buttonDown_ && wasDown) {
-    const bool clicked = pressInside_ && shape_.contains(pointer_);
+    // Drags count only on the closed notch: on the opened one they belong to its controls.
+    const QPointF travel = pointer_ - pressPoint_;
+    const std::optional<SwipeDirection> dragged =
+        mouseDragGestures_ && pressInside_ && !machine_.isExpanded()
+            ? SwipeRecognizer::classify(travel.x(), travel.y())
+            : std::nullopt;
+    const bool clicked = pressInside_ && shape_.contains(pointer_) && !dragged;
     releasePull();
     pressInside_ = false;
+    if (dragged) swipe(*dragged);
     if (clicked && !machine_.isExpanded() &&
         machine_.timing().openingMode == NotchOpeningMode::click) {
       machine_.open();
@@ -177,6 +190,24 @@ bool NotchWindow::handleMouse(QEvent* event) {
   }
   sample();
   return false;
+}
+
+// Touchpads report pixels; a mouse wheel only angles, 120 eighths of a degree a notch, taken as
+// 60 pixels so that one notch is a swipe. Momentum after the fingers lift is no part of a swipe.
+void NotchWindow::handleWheel(const QWheelEvent& wheel) {
+  if (!swipeGestures_ || wheel.phase() == Qt::ScrollMomentum) return;
+  if (wheel.phase() == Qt::ScrollEnd || wheel.phase() == Qt::ScrollBegin) swipes_.end();
+  const QPointF motion =
+      wheel.pixelDelta().isNull() ? QPointF(wheel.angleDelta()) / 2 : QPointF(wheel.pixelDelta());
+  if (auto direction = swipes_.scroll(motion.x(), motion.y(), activities_.now())) {
+    swipe(*direction);
+  }
+}
+
+void NotchWindow::swipe(SwipeDirection direction) {
+  if (direction == SwipeDirection::down) open();
+  if (direction == SwipeDirection::up) close();
+  emit swiped(direction);
 }
 
 bool NotchWindow::handleDrag(QEvent* event) {

@@ -1,8 +1,9 @@
 // NotchWindow: the notch on one display. A frameless, always-on-top, never-focused window hangs
 // from the display's top edge; only the notch outline is drawn and hit, the rest is cut away.
 // It samples pointer, button and file-drag state into the NotchHoverStateMachine, animates
-// between closed and opened and stretches while the pointer pulls. What it shows comes from the
-// shared NotchContent; the window keeps geometry, input and animation only.
+// between closed and opened and stretches while the pointer pulls. Two-finger swipes (and, when
+// asked, mouse drags) down open it and up close it; sideways ones go out as swiped(). What it shows
+// comes from the shared NotchContent; the window keeps geometry, input and animation only.
 #pragma once
 
 #include <functional>
@@ -14,11 +15,13 @@
 #include <QQuickView>
 #include <QTimer>
 #include <QVariantAnimation>
+#include <QWheelEvent>
 
 #include "activity/activity_kind.h"
 #include "activity/notch_geometry.h"
 #include "activity/notch_hover_state_machine.h"
 #include "activity/notch_stretch.h"
+#include "activity/swipe_recognizer.h"
 #include "notch/notch_shape.h"
 #include "notch/notch_window_layout.h"
 #include "settings/settings_store.h"
@@ -81,12 +84,14 @@ class NotchWindow : public QQuickView {
   void shapeChanged();
   void placementChanged();
   void expandedChanged(bool expanded);
+  // A swipe on the notch, whichever way; up and down have opened or closed it already.
+  void swiped(SwipeDirection direction);
 
  protected:
   bool event(QEvent* event) override;
 
  private:
-  void readTiming();
+  void readSettings();
   void sample();
   void showPresentation();
   void animate(QVariantAnimation& animation, double from, double to, int ms,
@@ -97,16 +102,21 @@ class NotchWindow : public QQuickView {
   void updateShape();
   bool handleMouse(QEvent* event);
   bool handleDrag(QEvent* event);
+  void handleWheel(const QWheelEvent& wheel);
+  void swipe(SwipeDirection direction);
 
   ActivityCenter& activities_;
   SettingsStore& settings_;
   NotchContent& content_;
-  SettingsObservation timingObservation_;
+  SettingsObservation settingsObservation_;
   NotchHoverStateMachine machine_;
   NotchGeometry geometry_;
   NotchWindowLayout layout_;
   NotchShape shape_;
   NotchStretch stretch_ = NotchStretch::identity();
+  SwipeRecognizer swipes_;
+  bool swipeGestures_ = true;
+  bool mouseDragGestures_ = false;
   QPointer<QMenu> contextMenu_;
 
   bool animated_ = true;

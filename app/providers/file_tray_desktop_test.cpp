@@ -6,7 +6,6 @@
 #include <QDragEnterEvent>
 #include <QFile>
 #include <QMimeData>
-#include <QProcess>
 #include <QQuickItem>
 #include <QTemporaryDir>
 #include <QTest>
@@ -16,6 +15,7 @@
 #include "notch/notch_window.h"
 #include "providers/file_tray_provider.h"
 #include "settings/settings_keys.h"
+#include "testing/xdotool.h"
 #include "tindra_app.h"
 
 namespace tindra {
@@ -35,14 +35,6 @@ class DropTarget : public QWidget {
     event->acceptProposedAction();
   }
 };
-
-// Drives the real pointer with xdotool: one command, waited for.
-void movePointer(const QStringList& steps) {
-  QProcess xdotool;
-  xdotool.start(QStringLiteral("xdotool"), steps);
-  xdotool.waitForStarted();
-  EXPECT_TRUE(QTest::qWaitFor([&] { return xdotool.state() == QProcess::NotRunning; }, 10000));
-}
 
 // The item called `name` among the visual descendants of `item`.
 QQuickItem* findItem(QQuickItem* item, const QString& name) {
@@ -87,30 +79,30 @@ TEST(FileTrayDesktopTest, FilesComeInByDragAndGoOutTheSameWay) {
   NotchWindow& notch = *app.notches().windows().front();
   const QPoint target = notch.geometry().topLeft() + notch.notchRect().center().toPoint();
 
-  movePointer({"mousemove",
-               "400",
-               "500",
-               "mousedown",
-               "1",
-               "sleep",
-               "0.3",
-               "mousemove",
-               "700",
-               "300",
-               "sleep",
-               "0.3",
-               "mousemove",
-               QString::number(target.x()),
-               QString::number(target.y() + 2),
-               "sleep",
-               "0.5",
-               "mousemove",
-               QString::number(target.x() + 3),
-               QString::number(target.y() + 4),
-               "sleep",
-               "0.5",
-               "mouseup",
-               "1"});
+  xdotool({"mousemove",
+           "400",
+           "500",
+           "mousedown",
+           "1",
+           "sleep",
+           "0.3",
+           "mousemove",
+           "700",
+           "300",
+           "sleep",
+           "0.3",
+           "mousemove",
+           QString::number(target.x()),
+           QString::number(target.y() + 2),
+           "sleep",
+           "0.5",
+           "mousemove",
+           QString::number(target.x() + 3),
+           QString::number(target.y() + 4),
+           "sleep",
+           "0.5",
+           "mouseup",
+           "1"});
   ASSERT_TRUE(QTest::qWaitFor([&] { return app.fileTray().tray().items().size() == 1; }, 10000));
   EXPECT_EQ(app.fileTray().tray().items()[0].path, dropped.fileName().toStdString());
 
@@ -120,7 +112,7 @@ TEST(FileTrayDesktopTest, FilesComeInByDragAndGoOutTheSameWay) {
   receiver.show();
   ASSERT_TRUE(QTest::qWaitForWindowExposed(&receiver));
   QQuickItem* row = nullptr;
-  movePointer({"mousemove", QString::number(target.x()), QString::number(target.y())});
+  xdotool({"mousemove", QString::number(target.x()), QString::number(target.y())});
   ASSERT_TRUE(QTest::qWaitFor(
       [&] {
         row = findItem(notch.contentItem(), QStringLiteral("trayItem:dropped.txt"));
@@ -130,30 +122,30 @@ TEST(FileTrayDesktopTest, FilesComeInByDragAndGoOutTheSameWay) {
   QTest::qWait(300);  // the panel settles where it opens
   const QPoint from = row->mapToGlobal(QPointF(30, row->height() / 2)).toPoint();
   const QPoint to = receiver.geometry().center();
-  movePointer({"mousemove",
-               QString::number(from.x()),
-               QString::number(from.y()),
-               "sleep",
-               "0.2",
-               "mousedown",
-               "1",
-               "mousemove",
-               QString::number(from.x() + 20),
-               QString::number(from.y() + 20),
-               "sleep",
-               "0.2",
-               "mousemove",
-               QString::number(to.x()),
-               QString::number(to.y()),
-               "sleep",
-               "0.3",
-               "mousemove",
-               QString::number(to.x() + 5),
-               QString::number(to.y() + 5),
-               "sleep",
-               "0.3",
-               "mouseup",
-               "1"});
+  xdotool({"mousemove",
+           QString::number(from.x()),
+           QString::number(from.y()),
+           "sleep",
+           "0.2",
+           "mousedown",
+           "1",
+           "mousemove",
+           QString::number(from.x() + 20),
+           QString::number(from.y() + 20),
+           "sleep",
+           "0.2",
+           "mousemove",
+           QString::number(to.x()),
+           QString::number(to.y()),
+           "sleep",
+           "0.3",
+           "mousemove",
+           QString::number(to.x() + 5),
+           QString::number(to.y() + 5),
+           "sleep",
+           "0.3",
+           "mouseup",
+           "1"});
   ASSERT_TRUE(QTest::qWaitFor([&] { return !receiver.dropped.isEmpty(); }, 5000));
   EXPECT_EQ(receiver.dropped, QList<QUrl>{QUrl::fromLocalFile(dropped.fileName())});
   EXPECT_TRUE(QFile::exists(dropped.fileName()));  // handed out, not moved

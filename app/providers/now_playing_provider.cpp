@@ -120,6 +120,12 @@ void NowPlayingProvider::show(const std::optional<NowPlayingSnapshot>& snapshot)
   if (event) activities().offer(*event);
 }
 
+void NowPlayingProvider::swiped(SwipeDirection direction) {
+  if (!settings().read(settings::swipeChangesTrack)) return;
+  if (direction == SwipeDirection::left) send(NowPlayingCommand::nextTrack());
+  if (direction == SwipeDirection::right) send(NowPlayingCommand::previousTrack());
+}
+
 void NowPlayingProvider::send(const NowPlayingCommand& command) {
   if (!source_ || !viewModel_.snapshot() || !viewModel_.snapshot()->capabilities.allows(command)) {
     return;

@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 
+#include "activity/swipe_recognizer.h"
 #include "nowplaying/now_playing_paused_linger.h"
 #include "nowplaying/now_playing_source_kind.h"
 #include "platform/adapter_probe.h"
@@ -39,6 +40,10 @@ class NowPlayingProvider final : public Provider {
   NowPlayingViewModel* viewModel() override { return &viewModel_; }
 
   bool hasSource() const { return source_ != nullptr; }
+
+  // A sideways swipe on the notch skips tracks when the user wants it: moving the track away to
+  // the left brings the next one, to the right the previous one.
+  void swiped(SwipeDirection direction);
 
   // Bars on the right ear.
   static constexpr int spectrumBands = 6;

@@ -113,12 +113,16 @@ const char* settingsDescriptionHere(std::string_view key) {
 bool settingsHiddenHere(std::string_view key) {
   // Nothing draws above a Linux screen locker, so the lock-screen details are not offered. This
   // desktop has no Mission Control and no AirDrop, its package manager updates Tindra, no record
-  // of system versions is kept here, and X11 lets every program read the screen, so no window can
-  // keep out of recordings.
-  static const std::set<std::string_view, std::less<>> hidden{
-      "lockWidgetOffset",        "hideDuringMissionControl",          "airDropNotices",
-      "receiveBetaUpdates",      "nowPlayingFallbackNoticeOSVersion", "keyboardBacklightMissingOn",
-      "hideFromScreenRecordings"};
+  // of system versions is kept here, X11 lets every program read the screen, so no window can
+  // keep out of recordings, and touchpads here give no haptic feedback.
+  static const std::set<std::string_view, std::less<>> hidden{"lockWidgetOffset",
+                                                              "hideDuringMissionControl",
+                                                              "airDropNotices",
+                                                              "receiveBetaUpdates",
+                                                              "nowPlayingFallbackNoticeOSVersion",
+                                                              "keyboardBacklightMissingOn",
+                                                              "hideFromScreenRecordings",
+                                                              "swipeFeedback"};
   return key.starts_with("lockScreen") || hidden.contains(key);
 }
 
