@@ -84,6 +84,7 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, No
   static const bool typesKnown = (qml_register_types_Tindra(), true);
   Q_UNUSED(typesKnown);
   engine()->addImportPath(QStringLiteral("qrc:/"));
+  content_.appearance().attach(*engine());
   setInitialProperties({{QStringLiteral("notch"), QVariant::fromValue(this)},
                         {QStringLiteral("content"), QVariant::fromValue(&content_)}});
   setSource(QUrl(QStringLiteral("qrc:/Tindra/qml/Notch.qml")));

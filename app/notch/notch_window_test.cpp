@@ -18,6 +18,7 @@
 #include "notch/notch_screen_manager.h"
 #include "platform/screen_source_factory.h"
 #include "settings/settings_keys.h"
+#include "testing/view_shot.h"
 #include "views/notch_content.h"
 
 namespace tindra {
@@ -135,6 +136,44 @@ TEST(NotchWindowOnDisplayTest, DrawnWhereItsGeometrySaysClosedAndOpened) {
   window.close();
   QTest::qWait(150);
   expectDrawnAt(grabDisplay(), closed.adjusted(-ears, 0, ears, 0), "closed again");
+}
+
+// The aura takes the activity's colour just inside the outline, and glass lightens the opened
+// notch; each only while its setting is on.
+TEST(NotchWindowOnDisplayTest, TheAuraAndTheGlassFollowTheirSettings) {
+  Displays displays;
+  SettingsStore& settings = displays.store_;
+  ASSERT_TRUE(settings.write(settings::auraFlashOnOpen, false));
+  NotchWindow& window = *displays.manager_->windows().front();
+  displays.activities_.offer(ActivityEvent::began(ActivityKind::nowPlaying));
+  QTest::qWait(150);
+  const QPoint origin = window.geometry().topLeft();
+  const auto edge = [&] {  // just inside the bottom edge, in the middle
+    const QRectF body = window.shapeRect();
+    return origin + QPoint(body.center().x(), body.bottom() - 1);
+  };
+  const auto isAccent = [](QColor c) { return c.red() > 90 && c.red() > 2 * c.green(); };
+
+  const QRect top(0, 0, grabDisplay().width(), 220);
+  keepScreenshot(grabDisplay().copy(top), QStringLiteral("notch-rim"));
+  EXPECT_TRUE(isAccent(grabDisplay().pixelColor(edge())));
+  ASSERT_TRUE(settings.write(settings::auraRimWhenClosed, false));
+  QTest::qWait(100);
+  EXPECT_EQ(qGray(grabDisplay().pixel(edge())), 0);
+
+  window.open();
+  QTest::qWait(150);
+  keepScreenshot(grabDisplay().copy(top), QStringLiteral("notch-glow"));
+  EXPECT_TRUE(isAccent(grabDisplay().pixelColor(edge())));
+  const QPoint inside = origin + window.shapeRect().center().toPoint() + QPoint(0, 20);
+  EXPECT_EQ(qGray(grabDisplay().pixel(inside)), 0);
+  ASSERT_TRUE(settings.write(settings::auraGlowWhenOpen, false));
+  ASSERT_TRUE(settings.write(settings::glassBackground, true));
+  QTest::qWait(100);
+  const QImage glass = grabDisplay();
+  keepScreenshot(glass.copy(top), QStringLiteral("notch-glass"));
+  EXPECT_FALSE(isAccent(glass.pixelColor(edge())));
+  EXPECT_GT(qGray(glass.pixel(inside)), 10);
 }
 
 TEST(NotchWindowOnDisplayTest, OpensWhenThePointerRestsAndClosesWhenItLeaves) {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The calendar section: the featured meeting with its time, countdown, departure advice and
 // Join button; then today's agenda, all-day events first, those over greyed and the one under
@@ -24,7 +25,7 @@ Column {
             width: 4
             height: featuredColumn.height
             radius: 2
-            color: root.model ? root.model.color : "#0a84ff"
+            color: Appearance.tint(root.model ? root.model.color : "#0a84ff")
         }
         Column {
             id: featuredColumn
@@ -49,7 +50,7 @@ Column {
             Text {
                 visible: text !== ""
                 text: root.model ? root.model.departure : ""
-                color: "#ffd60a"
+                color: Appearance.tint("#ffd60a")
                 font.pixelSize: 12
             }
             JoinButton {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The file tray in the opened notch: its items (a click opens one, dragging one out hands its file
 // to another application, × takes it out of the tray), the progress of a copy with its Stop
@@ -25,7 +26,7 @@ Column {
             id: clear
             visible: root.model !== undefined && root.model.items.length > 1
             text: qsTr("Remove All")
-            color: "#0a84ff"
+            color: Appearance.tint("#0a84ff")
             font.pixelSize: 11
             MouseArea {
                 anchors.fill: parent
@@ -48,13 +49,13 @@ Column {
                 width: parent.width * (root.model ? root.model.progress : 0)
                 height: parent.height
                 radius: 2
-                color: "#0a84ff"
+                color: Appearance.tint("#0a84ff")
             }
         }
         Text {
             anchors.verticalCenter: parent.verticalCenter
             text: qsTr("Stop")
-            color: "#0a84ff"
+            color: Appearance.tint("#0a84ff")
             font.pixelSize: 11
             MouseArea {
                 anchors.fill: parent

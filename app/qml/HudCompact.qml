@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The level on the closed notch: its symbol on the left ear, the bar (or ring) on the right one.
 Item {
@@ -22,7 +23,7 @@ Item {
         height: barStyle === "ring" ? Math.min(18, parent.height - 8) : 8
         level: root.model ? root.model.level : 0
         barStyle: root.model ? root.model.barStyle : "continuous"
-        color: root.model ? root.model.barColor : "white"
+        color: Appearance.bar(root.model ? root.model.barColor : "white")
         glideSeconds: root.model ? root.model.glideSeconds : 0
         segmentCount: root.model ? root.model.segmentCount : 16
     }

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The level in the opened notch, while the indicator lasts: symbol, a long bar (or a large
 // ring) and the percentage.
@@ -36,7 +37,7 @@ Column {
             height: barStyle === "ring" ? 44 : 10
             level: root.model ? root.model.level : 0
             barStyle: root.model ? root.model.barStyle : "continuous"
-            color: root.model ? root.model.barColor : "white"
+            color: Appearance.bar(root.model ? root.model.barColor : "white")
             glideSeconds: root.model ? root.model.glideSeconds : 0
             segmentCount: root.model ? root.model.segmentCount : 16
         }

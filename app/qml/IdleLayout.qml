@@ -13,7 +13,7 @@ Column {
 
     Text {
         text: root.content.activityLabel !== "" ? root.content.activityLabel : " "
-        color: root.content.activityAccent
+        color: Appearance.tint(root.content.activityAccent)
         font.pixelSize: 12
         font.weight: Font.DemiBold
     }

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // A transport button: a glyph that is grey when the player cannot do it and accented when its
 // mode is on.
@@ -12,7 +13,7 @@ Text {
 
     text: root.glyph
     font.pixelSize: root.size
-    color: !root.enabled ? "#48484a" : (root.lit ? "#ff375f" : "white")
+    color: !root.enabled ? "#48484a" : (root.lit ? Appearance.tint("#ff375f") : "white")
 
     MouseArea {
         anchors.fill: parent

@@ -32,7 +32,7 @@ Item {
                 width: 3
                 height: 12 * modelData
                 radius: 1.5
-                color: "#ff375f"
+                color: Appearance.bar("#ff375f")
             }
         }
     }
@@ -44,7 +44,7 @@ Item {
         height: 14
         visible: root.live && root.model.playing
         spectrum: root.model ? root.model.spectrum : null
-        color: root.model && root.model.barColor.valid ? root.model.barColor : "#ff375f"
+        color: Appearance.bar(root.model && root.model.barColor.valid ? root.model.barColor : "#ff375f")
     }
     Text {
         anchors.right: parent.right

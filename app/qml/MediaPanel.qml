@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The media section: cover, title, artist and album, a progress bar that can be dragged to
 // scrub, the elapsed and remaining times, and the transport buttons, each greyed out when the
@@ -85,7 +86,7 @@ Row {
                     width: parent.width * bar.fraction
                     height: parent.height
                     radius: 2
-                    color: root.model && root.model.barColor.valid ? root.model.barColor : "white"
+                    color: Appearance.bar(root.model && root.model.barColor.valid ? root.model.barColor : "white")
                 }
             }
             MouseArea {

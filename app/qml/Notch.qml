@@ -10,12 +10,45 @@ Item {
     required property NotchWindow notch
     required property NotchContent content
 
+    // The outline: black, or dark glass once opened. The aura takes the colour of what the
+    // notch shows: a rim around the closed notch, a glow inside the opened one, a flash as it
+    // opens. Glass keeps a hairline edge of its own.
     NotchShape {
+        id: outline
+
+        readonly property color accent: root.content.compactModel
+            && root.content.compactModel.barColor !== undefined
+            && root.content.compactModel.barColor.valid
+            ? root.content.compactModel.barColor : root.content.activityAccent
+        readonly property real opened: root.notch.openProgress
+        readonly property real closed: root.notch.compactProgress * Math.max(0, 1 - opened * 2)
+        property real flash: 0
+
         anchors.fill: parent
         body: root.notch.shapeRect
         bottomRadius: root.notch.bottomRadius
         flareRadius: root.notch.flareRadius
-        color: "black"
+        color: Appearance.glass ? Qt.rgba(0.11, 0.11, 0.13, 1 - 0.25 * opened) : "black"
+        rimColor: opened > 0.5 ? Qt.rgba(1, 1, 1, 0.22) : accent
+        rimWidth: Math.max(Appearance.rimWhenClosed ? 1.5 * closed : 0,
+                           Appearance.glass ? opened : 0)
+        glowColor: accent
+        glow: Math.max(Appearance.glowWhenOpen ? 0.6 * opened : 0, flash)
+
+        SequentialAnimation {
+            id: flashing
+            NumberAnimation { target: outline; property: "flash"; to: 1; duration: 90 }
+            NumberAnimation {
+                target: outline; property: "flash"; to: 0; duration: 480
+                easing.type: Easing.OutCubic
+            }
+        }
+        Connections {
+            target: root.notch
+            function onExpandedChanged(expanded) {
+                if (expanded && Appearance.flashOnOpen) flashing.restart()
+            }
+        }
     }
 
     // Closed: the activity's own compact view on the two ears, or its name.

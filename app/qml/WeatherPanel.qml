@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The weather section: the symbol and temperature large, the condition, the precipitation
 // outlook and the coming sunrise or sunset; while nothing fit to show exists, why; and always
@@ -57,7 +58,7 @@ Column {
     Text {
         visible: root.model !== undefined && root.model.available && text !== ""
         text: root.model ? root.model.sun : ""
-        color: "#ffd60a"
+        color: Appearance.tint("#ffd60a")
         font.pixelSize: 12
     }
     Text {

@@ -4,12 +4,12 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 
 #include "platform/linux/icalendar_backend.h"
 #include "settings/settings_keys.h"
+#include "testing/view_shot.h"
 
 namespace tindra {
 namespace {
@@ -48,9 +48,7 @@ TEST(CalendarListEditorTest, ListsTheCalendarsWithASwitchEachAndAddsFilesAndAddr
   ASSERT_EQ(editor.findChildren<QCheckBox*>().size(), 1);
   EXPECT_FALSE(editor.findChildren<QCheckBox*>()[0]->isChecked());
   editor.resize(560, 120);
-  if (const QString folder = qEnvironmentVariable("TINDRA_SCREENSHOTS"); !folder.isEmpty()) {
-    editor.grab().save(QDir(folder).filePath("settings-calendars.png"));
-  }
+  keepScreenshot(editor.grab().toImage(), QStringLiteral("settings-calendars"));
 }
 
 }  // namespace

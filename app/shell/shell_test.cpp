@@ -8,7 +8,6 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVariant>
-#include <QDir>
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QGuiApplication>
@@ -36,6 +35,7 @@
 #include "shell/settings_window.h"
 #include "shell/shell_actions.h"
 #include "shell/tray_item.h"
+#include "testing/view_shot.h"
 #include "tindra_app.h"
 
 namespace tindra {
@@ -126,10 +126,10 @@ TEST(TrayUnavailableTest, SettingsAndQuitStayReachableFromTheNotch) {
   // Nothing draws above a Linux screen locker: the switch says so and cannot be turned on, and
   // the details of what it would draw are not listed.
   SettingsWindow& window = *app.shell().settingsWindow();
-  if (const QString folder = qEnvironmentVariable("TINDRA_SCREENSHOTS"); !folder.isEmpty()) {
+  if (qEnvironmentVariableIsSet("TINDRA_SCREENSHOTS")) {
     for (std::size_t page = 0; page < settingsPages().size(); ++page) {
       window.showPage(static_cast<int>(page));
-      window.grab().save(QDir(folder).filePath(QStringLiteral("settings-page-%1.png").arg(page)));
+      keepScreenshot(window.grab().toImage(), QStringLiteral("settings-page-%1").arg(page));
     }
     window.showPage(0);
   }
@@ -152,9 +152,7 @@ TEST(OnboardingTest, ShowsOnTheFirstStartWithWhatWasFoundAndNeverAgain) {
     for (QRadioButton* choice : welcome->findChildren<QRadioButton*>()) {
       if (choice->text() == QLatin1String("when you click it")) choice->setChecked(true);
     }
-    if (const QString folder = qEnvironmentVariable("TINDRA_SCREENSHOTS"); !folder.isEmpty()) {
-      welcome->grab().save(QDir(folder).filePath(QStringLiteral("onboarding.png")));
-    }
+    keepScreenshot(welcome->grab().toImage(), QStringLiteral("onboarding"));
     welcome->close();
     EXPECT_TRUE(app.settings().read(settings::onboardingCompleted));
     EXPECT_EQ(app.settings().read(settings::notchOpeningMode), NotchOpeningMode::click);

@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
-#include <QDir>
 #include <QTemporaryDir>
 
 #include "activity_center.h"
 #include "platform/fake/fake_weather.h"
 #include "settings/settings_keys.h"
+#include "testing/view_shot.h"
 
 namespace tindra {
 namespace {
@@ -52,9 +52,7 @@ TEST(WeatherSettingsEditorTest, APlacePickedOrGivenWinsAndIsSaidInUse) {
   editor.clearPlace();
   EXPECT_EQ(editor.positionText(), "GeoClue");
   editor.resize(560, 200);
-  if (const QString folder = qEnvironmentVariable("TINDRA_SCREENSHOTS"); !folder.isEmpty()) {
-    editor.grab().save(QDir(folder).filePath("settings-weather.png"));
-  }
+  keepScreenshot(editor.grab().toImage(), QStringLiteral("settings-weather"));
 }
 
 }  // namespace

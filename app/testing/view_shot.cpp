@@ -25,11 +25,15 @@ QImage viewShot(const QUrl& source, QObject* model, QSize size, const QString& n
   if (!QTest::qWaitForWindowExposed(&view)) return {};
   QTest::qWait(50);
   const QImage picture = view.grabWindow();
+  keepScreenshot(picture, name);
+  return picture;
+}
+
+void keepScreenshot(const QImage& picture, const QString& name) {
   if (const QString folder = qEnvironmentVariable("TINDRA_SCREENSHOTS"); !folder.isEmpty()) {
     QDir().mkpath(folder);
     picture.save(QDir(folder).filePath(name + QStringLiteral(".png")));
   }
-  return picture;
 }
 
 }  // namespace tindra

@@ -13,4 +13,7 @@ namespace tindra {
 // A null image when the view does not load.
 QImage viewShot(const QUrl& source, QObject* model, QSize size, const QString& name);
 
+// Saves `picture` as `name`.png in TINDRA_SCREENSHOTS when that is set.
+void keepScreenshot(const QImage& picture, const QString& name);
+
 }  // namespace tindra

@@ -8,7 +8,11 @@ namespace tindra {
 
 NotchContent::NotchContent(ActivityCenter& activities, SettingsStore& settings,
                            const ViewRegistry& views, QObject* parent)
-    : QObject(parent), activities_(activities), settings_(settings), views_(views) {
+    : QObject(parent),
+      activities_(activities),
+      settings_(settings),
+      views_(views),
+      appearance_(&settings) {
   connect(&activities_, &ActivityCenter::currentChanged, this, &NotchContent::activityChanged);
   pinnedObservation_ = settings_.observe({std::string(settings::pinnedWidgets.name)},
                                          [this](std::string_view) { refresh(); });

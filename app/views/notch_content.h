@@ -13,6 +13,7 @@
 #include "activity/activity_kind.h"
 #include "settings/settings_store.h"
 #include "views/idle_clock.h"
+#include "views/notch_appearance.h"
 #include "views/view_registry.h"
 
 namespace tindra {
@@ -45,6 +46,7 @@ class NotchContent : public QObject {
   QVariantList sections() const { return sections_; }
   QVariantList idleItems() const { return idleItems_; }
   IdleClock* clock() { return &clock_; }
+  NotchAppearance& appearance() { return appearance_; }
 
   // The section names shown, in order, for `pinned` (unknown names are skipped).
   static QStringList shownSections(const std::vector<std::string>& pinned);
@@ -61,6 +63,7 @@ class NotchContent : public QObject {
   const ViewRegistry& views_;
   SettingsObservation pinnedObservation_;
   IdleClock clock_;
+  NotchAppearance appearance_;
   QVariantList sections_;
   QVariantList idleItems_;
 };
