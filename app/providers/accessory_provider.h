@@ -36,8 +36,9 @@ class AccessoryProvider final : public Provider {
   QString name() const override { return QStringLiteral("accessories"); }
   void start() override;
   AccessoryViewModel* viewModel() override { return &viewModel_; }
-  // For the demo, which moves the invented sound.
+  // For the demo, which moves the invented sound and connects invented devices.
   VolumeBackend* output() const { return output_.get(); }
+  AccessoryBackend& backend() const { return *backend_; }
 
  private:
   void onChanged();
