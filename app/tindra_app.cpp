@@ -84,9 +84,11 @@ void TindraApp::startProviders() {
       std::move(nowPlaying.artwork), std::move(nowPlaying.spectrum)));
   const std::shared_ptr<SoundPlayer> sounds = makeSoundPlayer();
   providers_.push_back(std::make_unique<BatteryProvider>(context, makeBatteryBackend(), sounds));
-  providers_.push_back(std::make_unique<HudProvider>(context, makeHudBackends()));
+  HudBackends hud = makeHudBackends();
+  const std::shared_ptr<VolumeBackend> output = hud.volume;
+  providers_.push_back(std::make_unique<HudProvider>(context, std::move(hud)));
   providers_.push_back(
-      std::make_unique<AccessoryProvider>(context, makeAccessoryBackend(), sounds));
+      std::make_unique<AccessoryProvider>(context, makeAccessoryBackend(), output, sounds));
   auto calendar = std::make_unique<CalendarProvider>(
       context, makeCalendarBackend(secondsSince1970), makeTravelTimeEstimator(), sounds,
       secondsSince1970, [](const QUrl& link) { return QDesktopServices::openUrl(link); });

@@ -1,10 +1,12 @@
 // VolumeBackend: the default output's volume and mute, followed as they change (by Tindra, a
-// mixer, a headset button or a new default output), and written back on request.
+// mixer, a headset button or a new default output), and written back on request. The reading
+// also says which Bluetooth device the output is, so accessories can be matched to it.
 #pragma once
 
 #include <QObject>
 #include <QString>
 #include <optional>
+#include <string>
 
 #include "hud/audio_transport.h"
 #include "platform/service_check.h"
@@ -18,6 +20,9 @@ struct VolumeReading {
   AudioTransport transport = AudioTransport::other;
   bool volumeSettable = true;  // false for an output whose level cannot be set
   bool muteSettable = true;
+  // The device's address in BluetoothAddress's canonical form, for an output that is a Bluetooth
+  // device.
+  std::optional<std::string> bluetoothAddress = std::nullopt;
 
   friend bool operator==(const VolumeReading&, const VolumeReading&) = default;
 };
@@ -28,6 +33,7 @@ class VolumeBackend : public QObject {
  public:
   using QObject::QObject;
 
+  // Every user of a shared backend starts it; later calls change nothing.
   virtual void start() = 0;
   // None while there is no sound server or no output.
   virtual std::optional<VolumeReading> reading() const = 0;

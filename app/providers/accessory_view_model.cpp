@@ -25,6 +25,17 @@ QString AccessoryViewModel::noticePart() const {
   return notice_ && notice_->part ? toQString(rawValue(*notice_->part)) : QString();
 }
 
+QString AccessoryViewModel::batteryStyle() const {
+  return toQString(rawValue(style_));
+}
+
+void AccessoryViewModel::setDrawing(AccessoryBatteryStyle style, int lowThreshold) {
+  if (style == style_ && lowThreshold == lowThreshold_) return;
+  style_ = style;
+  lowThreshold_ = lowThreshold;
+  emit drawingChanged();
+}
+
 void AccessoryViewModel::setAccessories(const std::vector<BluetoothAccessory>& accessories) {
   QVariantList list;
   for (const BluetoothAccessory& accessory : accessories) list << describe(accessory);

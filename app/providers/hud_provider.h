@@ -25,7 +25,7 @@
 namespace tindra {
 
 struct HudBackends {
-  std::unique_ptr<VolumeBackend> volume;
+  std::shared_ptr<VolumeBackend> volume;  // also followed by the accessories
   std::unique_ptr<BacklightBackend> display;
   std::unique_ptr<BacklightBackend> keyboard;
   std::unique_ptr<MediaKeySource> keys;
@@ -70,7 +70,7 @@ class HudProvider final : public Provider {
   void startKeyboardIfWanted();
   void updateRouting();
 
-  std::unique_ptr<VolumeBackend> volumeBackend_;
+  std::shared_ptr<VolumeBackend> volumeBackend_;
   std::unique_ptr<MediaKeySource> keys_;
   Light display_;
   Light keyboard_;

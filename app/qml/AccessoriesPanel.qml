@@ -1,12 +1,13 @@
 import QtQuick
 
 // The connected Bluetooth accessories in the batteries section: picture, name, and each part's
-// level (left, right and case for earbuds, one level otherwise).
+// level (left, right and case for earbuds, one level otherwise), as numbers or as rings.
 Column {
     id: root
 
     property var model
     readonly property bool hasContent: root.model !== undefined && root.model.hasContent
+    readonly property bool rings: root.model !== undefined && root.model.batteryStyle === "ring"
 
     width: 150
     spacing: 8
@@ -36,10 +37,20 @@ Column {
                     font.pixelSize: 12
                     elide: Text.ElideRight
                 }
+                AccessoryBatteryRings {
+                    id: rings
+                    visible: root.rings && hasContent
+                    topPadding: 3
+                    device: modelData
+                    lowThreshold: root.model ? root.model.lowThreshold : 20
+                    ringSize: 20
+                }
                 Text {
+                    visible: !rings.visible
                     width: 110
                     wrapMode: Text.WordWrap
                     text: {
+                        if (root.rings) return qsTr("No battery reported");
                         const parts = [];
                         if (modelData.left >= 0) parts.push(qsTr("L") + " " + modelData.left + " %");
                         if (modelData.right >= 0) parts.push(qsTr("R") + " " + modelData.right + " %");

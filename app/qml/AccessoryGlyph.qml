@@ -1,7 +1,7 @@
 import QtQuick
 
 // An accessory's picture, drawn with lines by its kind: earbuds, over-ear headphones, a speaker,
-// or a plain rounded device for anything else. Drawn again only when the kind changes.
+// or a plain rounded device for anything else. Drawn again only when the kind or size changes.
 Canvas {
     id: root
 
@@ -11,6 +11,8 @@ Canvas {
     implicitWidth: 22
     implicitHeight: 18
     onKindChanged: requestPaint()
+    onWidthChanged: requestPaint()
+    onHeightChanged: requestPaint()
 
     readonly property bool earbuds: kind.startsWith("airPods") && kind !== "airPodsMax"
                                     || kind === "beatsStudioBuds"

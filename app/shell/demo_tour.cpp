@@ -12,7 +12,10 @@
 #include "focus/focus_filter_state.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
+#include "platform/fake/fake_accessory_backend.h"
 #include "platform/fake/fake_notification_source.h"
+#include "platform/fake/fake_volume_backend.h"
+#include "providers/accessory_provider.h"
 #include "providers/banner_provider.h"
 #include "providers/hud_provider.h"
 #include "providers/now_playing_view_model.h"
@@ -81,6 +84,29 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
     hud->handleKey({key, true, false, {}, std::chrono::steady_clock::now()});
     hud->handleKey({key, false, false, {}, std::chrono::steady_clock::now()});
   };
+  const auto accessories = [this] {
+    return qobject_cast<AccessoryProvider*>(app_.provider(QStringLiteral("accessories")));
+  };
+  // The invented sound moves to the invented earbuds.
+  const auto routeToBuds = [accessories] {
+    auto* fake =
+        accessories() ? dynamic_cast<FakeVolumeBackend*>(accessories()->output()) : nullptr;
+    if (fake) {
+      fake->routeTo(QStringLiteral("invented-buds"), FakeAccessoryBackend::inventedBuds().address);
+    }
+  };
+  // Invented headphones join the earbuds, or leave again.
+  const auto headphones = [accessories](bool connect) {
+    auto* fake =
+        accessories() ? dynamic_cast<FakeAccessoryBackend*>(&accessories()->backend()) : nullptr;
+    if (fake == nullptr) return;
+    BluetoothAccessory phones{.name = "Invented Headphones",
+                              .address = "0a:00:00:00:00:02",
+                              .kind = BluetoothAccessoryKind::headphones};
+    phones.battery.main = 64;
+    fake->setConnected(connect ? std::vector{FakeAccessoryBackend::inventedBuds(), phones}
+                               : std::vector{FakeAccessoryBackend::inventedBuds()});
+  };
   const auto notify = [this](const DesktopNotification& notification) {
     auto* banners = qobject_cast<BannerProvider*>(app_.provider(QStringLiteral("banners")));
     auto* fake = banners ? dynamic_cast<FakeNotificationSource*>(&banners->source()) : nullptr;
@@ -115,6 +141,23 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
       {900, [this] { shoot(QStringLiteral("6-closed-paused.png")); }},
       {0, [&activities] { activities.reset(); }},
       {600, [this] { shoot(QStringLiteral("7-closed-after-reset.png")); }},
+      // The sound moves to the invented earbuds; then headphones connect, their battery drawn
+      // as a ring.
+      {0,
+       [this, routeToBuds] {
+         (void)app_.settings().write(settings::accessoryBatteryStyle, AccessoryBatteryStyle::ring);
+         routeToBuds();
+       }},
+      {600, [this] { shoot(QStringLiteral("7a-closed-accessory-route.png")); }},
+      {0, [headphones] { headphones(true); }},
+      {600, [this] { shoot(QStringLiteral("7b-closed-accessory-ring.png")); }},
+      {0,
+       [this, headphones, &activities] {
+         headphones(false);
+         (void)app_.settings().write(settings::accessoryBatteryStyle,
+                                     AccessoryBatteryStyle::percentage);
+         activities.reset();
+       }},
       // The invented calendars (a design review with a Zoom link eight minutes away) and the
       // invented weather.
       {0,

@@ -12,6 +12,7 @@ double AccessoryNotice::duration() const {
     case Kind::connected:
       return 4;
     case Kind::disconnected:
+    case Kind::routed:
       return 3;
     case Kind::low:
       return 6;

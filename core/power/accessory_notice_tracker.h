@@ -9,6 +9,7 @@
 //   A device that connects already at or below a step is not warned again for it: its connect
 //   notice shows the level.
 // Several notices at one reading come in this order: disconnected, connected, low.
+// The `routed` notice (sound moved to an accessory) is AccessoryRouteTracker's.
 #pragma once
 
 #include <array>
@@ -23,7 +24,7 @@
 namespace tindra {
 
 struct AccessoryNotice {
-  enum class Kind { connected, disconnected, low };
+  enum class Kind { connected, disconnected, low, routed };
 
   Kind kind;
   BluetoothAccessory accessory;
@@ -40,7 +41,7 @@ struct EnumTable<AccessoryNotice::Kind> {
   using E = AccessoryNotice::Kind;
   static constexpr std::array cases{EnumCase{E::connected, "connected"},
                                     EnumCase{E::disconnected, "disconnected"},
-                                    EnumCase{E::low, "low"}};
+                                    EnumCase{E::low, "low"}, EnumCase{E::routed, "routed"}};
 };
 
 class AccessoryNoticeTracker {

@@ -8,13 +8,17 @@ namespace tindra {
 
 class FakeAccessoryBackend final : public AccessoryBackend {
  public:
-  explicit FakeAccessoryBackend(QObject* parent = nullptr) : AccessoryBackend(parent) {
+  explicit FakeAccessoryBackend(QObject* parent = nullptr)
+      : AccessoryBackend(parent), connected_{inventedBuds()} {}
+
+  // The earbuds connected from the start; the demo moves the invented sound to them.
+  static BluetoothAccessory inventedBuds() {
     BluetoothAccessory buds;
     buds.name = "Invented Buds";
     buds.address = "0a:00:00:00:00:01";
     buds.kind = BluetoothAccessoryKind::airPodsPro;
     buds.battery = {80, 76, 45, std::nullopt};
-    connected_ = {buds};
+    return buds;
   }
 
   void start() override {}

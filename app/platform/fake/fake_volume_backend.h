@@ -1,5 +1,6 @@
 // FakeVolumeBackend: an invented output at 60 % for the demo and tests, only when TINDRA_FAKE
-// names "hud". Writes take effect at once, as on a real server.
+// names "hud". Writes take effect at once, as on a real server; `routeTo` moves the sound to
+// another output, such as the invented accessories' earbuds.
 #pragma once
 
 #include "platform/volume_backend.h"
@@ -10,19 +11,18 @@ class FakeVolumeBackend final : public VolumeBackend {
  public:
   using VolumeBackend::VolumeBackend;
 
+  // Shared by the level indicator and the accessories: a second start keeps the level.
   void start() override {
-    publish(VolumeReading{"invented-output", 0.6, false, AudioTransport::builtIn, true, true});
+    if (!reading_) {
+      publish(VolumeReading{"invented-output", 0.6, false, AudioTransport::builtIn, true, true});
+    }
   }
   std::optional<VolumeReading> reading() const override { return reading_; }
   void setLevel(double level) override {
-    if (reading_)
-      publish(
-          VolumeReading{reading_->output, level, reading_->muted, reading_->transport, true, true});
+    change([level](VolumeReading& r) { r.level = level; });
   }
   void setMuted(bool muted) override {
-    if (reading_)
-      publish(
-          VolumeReading{reading_->output, reading_->level, muted, reading_->transport, true, true});
+    change([muted](VolumeReading& r) { r.muted = muted; });
   }
   void playFeedback() override { ++feedbackPlayed; }
   ServiceCheck check() const override {
@@ -37,8 +37,24 @@ class FakeVolumeBackend final : public VolumeBackend {
     reading_ = std::move(reading);
     emit readingChanged();
   }
+  // The default output becomes `output`, a Bluetooth device when `bluetoothAddress` is given.
+  void routeTo(const QString& output, std::optional<std::string> bluetoothAddress) {
+    change([&](VolumeReading& r) {
+      r.output = output;
+      r.transport = bluetoothAddress ? AudioTransport::bluetooth : AudioTransport::builtIn;
+      r.bluetoothAddress = std::move(bluetoothAddress);
+    });
+  }
 
  private:
+  template <class Edit>
+  void change(Edit edit) {
+    if (!reading_) return;
+    VolumeReading next = *reading_;
+    edit(next);
+    publish(next);
+  }
+
   std::optional<VolumeReading> reading_;
 };
 

@@ -5,6 +5,7 @@
 #include <cmath>
 
 #include "assign_if_changed.h"
+#include "power/bluetooth_address.h"
 
 namespace tindra {
 
@@ -48,6 +49,17 @@ AudioTransport PulseVolumeBackend::transportOf(const QString& bus, const QString
   return AudioTransport::other;
 }
 
+std::optional<std::string> PulseVolumeBackend::bluetoothAddressOf(const QString& bus,
+                                                                  const QString& address,
+                                                                  const QString& deviceString,
+                                                                  const QString& name) {
+  if (bus != QLatin1String("bluetooth")) return std::nullopt;
+  for (const QString& candidate : {address, deviceString, name.section(u'.', 1, 1)}) {
+    if (auto canonical = BluetoothAddress::normalized(candidate.toStdString())) return canonical;
+  }
+  return std::nullopt;
+}
+
 void PulseVolumeBackend::readDefaultSink() {
   connection_->run([this](pa_context* context) {
     // "@DEFAULT_SINK@" follows the server's current default.
@@ -71,8 +83,11 @@ void PulseVolumeBackend::readDefaultSink() {
           reading.volumeSettable = sink->volume.channels > 0;
           const QString port =
               sink->active_port ? QString::fromUtf8(sink->active_port->name) : QString();
-          reading.transport = transportOf(pulseProperty(sink->proplist, PA_PROP_DEVICE_BUS),
-                                          reading.output + u' ' + port);
+          const QString bus = pulseProperty(sink->proplist, PA_PROP_DEVICE_BUS);
+          reading.transport = transportOf(bus, reading.output + u' ' + port);
+          reading.bluetoothAddress = bluetoothAddressOf(
+              bus, pulseProperty(sink->proplist, "api.bluez5.address"),
+              pulseProperty(sink->proplist, PA_PROP_DEVICE_STRING), reading.output);
           const int channels = sink->volume.channels;
           request->answer([reading, channels](PulseVolumeBackend& backend) {
             backend.channels_ = channels;

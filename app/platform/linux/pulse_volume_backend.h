@@ -5,6 +5,8 @@
 #pragma once
 
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "platform/linux/pulse_connection.h"
 #include "platform/linux/pulse_sample.h"
@@ -30,6 +32,12 @@ class PulseVolumeBackend final : public VolumeBackend {
 
   // The transport from a sink's properties: its bus ("usb", "bluetooth") and its name or port.
   static AudioTransport transportOf(const QString& bus, const QString& nameAndPort);
+  // The Bluetooth address of a sink on the Bluetooth bus: PipeWire's api.bluez5.address, else
+  // PulseAudio's device.string, else the one its name carries ("bluez_output.AA_BB_CC_DD_EE_FF.1",
+  // "bluez_sink.AA_BB_CC_DD_EE_FF.a2dp_sink"). None for any other sink.
+  static std::optional<std::string> bluetoothAddressOf(const QString& bus, const QString& address,
+                                                       const QString& deviceString,
+                                                       const QString& name);
 
  private:
   void readDefaultSink();

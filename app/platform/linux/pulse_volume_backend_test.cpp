@@ -117,5 +117,23 @@ TEST(PulseTransportTest, BusAndNameSayHowTheOutputIsAttached) {
   EXPECT_EQ(PulseVolumeBackend::transportOf("", "tindra_test"), AudioTransport::other);
 }
 
+TEST(PulseTransportTest, BluetoothSinksNameTheirDevice) {
+  const QString bus = "bluetooth";
+  // PipeWire's property, PulseAudio's device string, then the address in the name.
+  EXPECT_EQ(PulseVolumeBackend::bluetoothAddressOf(bus, "AA:BB:CC:DD:EE:01", "", "x"),
+            "aa:bb:cc:dd:ee:01");
+  EXPECT_EQ(PulseVolumeBackend::bluetoothAddressOf(bus, "", "AA:BB:CC:DD:EE:02", "x"),
+            "aa:bb:cc:dd:ee:02");
+  EXPECT_EQ(PulseVolumeBackend::bluetoothAddressOf(bus, "", "/org/bluez/hci0/dev_AA",
+                                                   "bluez_output.AA_BB_CC_DD_EE_03.1"),
+            "aa:bb:cc:dd:ee:03");
+  EXPECT_EQ(
+      PulseVolumeBackend::bluetoothAddressOf(bus, "", "", "bluez_sink.AA_BB_CC_DD_EE_04.a2dp_sink"),
+      "aa:bb:cc:dd:ee:04");
+  EXPECT_FALSE(PulseVolumeBackend::bluetoothAddressOf(bus, "", "", "bluez_output.AA_BB_CC.1"));
+  // A USB sink whose name happens to hold twelve hexadecimal digits is no Bluetooth device.
+  EXPECT_FALSE(PulseVolumeBackend::bluetoothAddressOf("usb", "", "", "alsa.AABBCCDDEE05.x"));
+}
+
 }  // namespace
 }  // namespace tindra
