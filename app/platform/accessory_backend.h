@@ -19,6 +19,9 @@ class AccessoryBackend : public QObject {
   virtual void start() = 0;
   virtual std::vector<BluetoothAccessory> connected() const = 0;
   virtual ServiceCheck check() const = 0;
+  // Whether the first full reading is in (or it is known there is none), so that the devices
+  // connected before Tindra started are told apart from ones connecting now.
+  virtual bool ready() const { return true; }
 
  signals:
   void changed();

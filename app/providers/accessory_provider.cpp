@@ -54,6 +54,9 @@ AccessoryNoticeTracker::Settings AccessoryProvider::noticeSettings() const {
 }
 
 void AccessoryProvider::onChanged() {
+  // Until the backend has read what is there, an empty list would make every device already
+  // connected look as if it had just connected.
+  if (!backend_->ready()) return;
   const std::vector<BluetoothAccessory> connected = backend_->connected();
   viewModel_.setAccessories(connected);
   for (const AccessoryNotice& notice : tracker_.observe(connected, noticeSettings())) {

@@ -90,5 +90,22 @@ TEST_F(AccessoryProviderDesktopTest, ChoosingTheHeadsetAsOutputIsToldButNotRight
   ASSERT_EQ(bluez_->call("/", "DisconnectDevice", {"hci0", headset}, "org.bluez.Mock"), QString());
 }
 
+// Headphones connected before Tindra starts are simply there: BlueZ answers after the provider
+// has started, and its first answer is no news of a connection.
+TEST_F(AccessoryProviderDesktopTest, HeadphonesAlreadyConnectedAtStartAreNoNews) {
+  ASSERT_EQ(bluez_->call("/", "ConnectDevice", {"hci0", headset}, "org.bluez.Mock"), QString());
+  AccessoryProvider provider({activities_, settings_, diagnostics_},
+                             std::make_unique<BlueZAccessoryBackend>(QDBusConnection::systemBus()),
+                             nullptr);
+  AccessoryViewModel& view = *provider.viewModel();
+  QSignalSpy notices(&view, &AccessoryViewModel::noticeChanged);
+  provider.start();
+  ASSERT_TRUE(waitFor([&] { return view.accessories().size() == 1; }));
+  QTest::qWait(100);
+  EXPECT_EQ(notices.count(), 0);
+  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  ASSERT_EQ(bluez_->call("/", "DisconnectDevice", {"hci0", headset}, "org.bluez.Mock"), QString());
+}
+
 }  // namespace
 }  // namespace tindra

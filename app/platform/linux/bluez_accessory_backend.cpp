@@ -109,9 +109,12 @@ void BlueZAccessoryBackend::readBlueZ() {
   const QDBusMessage call = QDBusMessage::createMethodCall(
       bluezService, QStringLiteral("/"), objectManager, QStringLiteral("GetManagedObjects"));
   whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
+    const bool first = !ready_;
+    ready_ = true;
     if (answer.type() != QDBusMessage::ReplyMessage) {
       setCheck(DiagnosticsLog::Outcome::degraded,
                tr("BlueZ does not answer (%1): no accessories are shown").arg(answer.errorName()));
+      if (first) emit changed();
       return;
     }
     devices_.clear();

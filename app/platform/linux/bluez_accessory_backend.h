@@ -27,6 +27,7 @@ class BlueZAccessoryBackend final : public AccessoryBackend {
   void start() override;
   std::vector<BluetoothAccessory> connected() const override;
   ServiceCheck check() const override { return check_; }
+  bool ready() const override { return ready_; }
 
   // One BlueZ device's properties (and Battery1 percentage, if any) as an accessory.
   static BluetoothAccessory accessoryOf(const QVariantMap& device, std::optional<int> battery);
@@ -61,6 +62,7 @@ class BlueZAccessoryBackend final : public AccessoryBackend {
   std::map<QString, Device> devices_;          // by object path
   std::map<QString, Peripheral> peripherals_;  // UPower's, by object path
   ServiceCheck check_;
+  bool ready_ = false;
 };
 
 }  // namespace tindra
