@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The Focus that lasts, in the idle layout, while the indicator is kept.
 Row {
@@ -14,11 +15,12 @@ Row {
         width: 14
         height: 14
         symbol: root.model ? root.model.symbol : "moon"
+        color: Appearance.tint("#7d7aff")
     }
     Text {
         anchors.verticalCenter: parent.verticalCenter
         text: root.model ? root.model.name : ""
-        color: "#7d7aff"
+        color: Appearance.tint("#7d7aff")
         font.pixelSize: 13
     }
 }

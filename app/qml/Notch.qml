@@ -77,12 +77,24 @@ Item {
 
     // Opened: the idle layout at rest on the left, then a section for each subsystem that has
     // something to show (or is pinned). While a transient section has something (a level just
-    // changed), it stands there alone.
+    // changed), it stands there alone. A section that does not fit whole is left out rather than
+    // cut off at the edge; pinning sections chooses which come first.
     Item {
         id: panel
 
         readonly property bool transientShown: root.content.sections.some(
             section => section.transient && section.model.showing)
+        readonly property var fitting: {
+            let room = row.width - idle.width
+            const fits = []
+            for (let i = 0; i < sections.count; ++i) {
+                const loader = sections.itemAt(i)
+                const need = loader && loader.wanted ? loader.item.width + row.spacing : -1
+                fits.push(need > 0 && need <= room)
+                if (fits[i]) room -= need
+            }
+            return fits
+        }
 
         x: root.notch.shapeRect.x
         y: root.notch.notchRect.height
@@ -93,22 +105,28 @@ Item {
         visible: opacity > 0
 
         Row {
+            id: row
             anchors.fill: parent
             anchors.margins: 14
             anchors.topMargin: 6
             spacing: 14
 
             IdleLayout {
+                id: idle
                 height: parent.height
                 content: root.content
             }
             Repeater {
+                id: sections
                 model: root.content.sections
                 delegate: Loader {
                     required property var modelData
-                    height: parent.height
-                    visible: item !== null && (modelData.transient ? item.hasContent
+                    required property int index
+                    readonly property bool wanted: item !== null && (modelData.transient
+                        ? item.hasContent
                         : (modelData.pinned || item.hasContent) && !panel.transientShown)
+                    height: parent.height
+                    visible: panel.fitting[index] === true
                     Component.onCompleted: setSource(modelData.source, { model: modelData.model })
                 }
             }
