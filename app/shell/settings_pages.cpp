@@ -160,6 +160,20 @@ std::optional<SettingsNote> settingsNoteHere(std::string_view key) {
                           "button that opens the application that sent them. Nothing is stored or "
                           "sent, and nothing shows while do-not-disturb is on."),
         false}},
+      {"swipeGestures",
+       {QT_TRANSLATE_NOOP("SettingsNotes",
+                          "Scroll on the notch with two fingers or the mouse wheel, as if moving a "
+                          "page: down opens it, up closes it, sideways skips tracks."),
+        false}},
+      {"mouseDragGestures",
+       {QT_TRANSLATE_NOOP("SettingsNotes",
+                          "Drag the closed notch down to open it, or sideways to skip tracks."),
+        false}},
+      {"glassBackground",
+       {QT_TRANSLATE_NOOP("SettingsNotes",
+                          "The desktop shows through where the window manager draws windows "
+                          "translucent; elsewhere the glass is dark grey."),
+        false}},
   };
   const auto found = notes.find(key);
   return found == notes.end() ? std::nullopt : std::optional(found->second);
