@@ -25,6 +25,21 @@
     </message>
 </context>
 <context>
+    <name>AccessoryBatteryRings</name>
+    <message>
+        <source>L</source>
+        <translation type="unfinished">V</translation>
+    </message>
+    <message>
+        <source>R</source>
+        <translation type="unfinished">H</translation>
+    </message>
+    <message>
+        <source>C</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>AccessoryCompact</name>
     <message>
         <source>Left</source>
@@ -45,6 +60,10 @@
     <message>
         <source>Connected</source>
         <translation>Tilkoblet</translation>
+    </message>
+    <message>
+        <source>Playing on %1</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 <context>
@@ -694,6 +713,18 @@
     </message>
     <message>
         <source>A ringing call shows only that it rings; answer it on the desktop&apos;s notification. Messages and missed calls show who and what, with a button that opens the application that sent them. Nothing is stored or sent, and nothing shows while do-not-disturb is on.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Scroll on the notch with two fingers or the mouse wheel, as if moving a page: down opens it, up closes it, sideways skips tracks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Drag the closed notch down to open it, or sideways to skip tracks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop shows through where the window manager draws windows translucent; elsewhere the glass is dark grey.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
