@@ -28,15 +28,15 @@
     <name>AccessoryBatteryRings</name>
     <message>
         <source>L</source>
-        <translation type="unfinished">V</translation>
+        <translation>V</translation>
     </message>
     <message>
         <source>R</source>
-        <translation type="unfinished">H</translation>
+        <translation>H</translation>
     </message>
     <message>
         <source>C</source>
-        <translation type="unfinished"></translation>
+        <translation>E</translation>
     </message>
 </context>
 <context>
@@ -63,7 +63,7 @@
     </message>
     <message>
         <source>Playing on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Spilles på %1</translation>
     </message>
 </context>
 <context>
@@ -77,19 +77,19 @@
     <name>Backends</name>
     <message>
         <source>no system bus (%1): no battery is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen systembuss (%1): batteriet vises ikke</translation>
     </message>
     <message>
         <source>a Wayland session lets no program take the keys: the desktop keeps them, and the level changes it makes are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>en Wayland-økt lar ingen programmer ta tastene: skrivebordet beholder dem, og nivåendringene det gjør, vises</translation>
     </message>
     <message>
         <source>no session bus: do-not-disturb is unknown, only `tindra focus` shows a Focus</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen øktbuss: Ikke forstyrr er ukjent, bare `tindra focus` viser fokus</translation>
     </message>
     <message>
         <source>no X11 window manager to ask (%1): the notch never steps aside for full-screen windows or games</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen X11-vindusbehandler å spørre (%1): hakket viker aldri for vinduer i fullskjerm eller spill</translation>
     </message>
 </context>
 <context>
@@ -210,7 +210,7 @@
     </message>
     <message>
         <source>Volume</source>
-        <translation>Volum</translation>
+        <translation>Lydstyrke</translation>
     </message>
 </context>
 <context>
@@ -228,7 +228,7 @@
     <name>QObject</name>
     <message>
         <source>Travel times are unavailable: no routing service is available on this system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reisetider er ikke tilgjengelige: ingen rutetjeneste er tilgjengelig på dette systemet.</translation>
     </message>
     <message>
         <source>Clear</source>
@@ -370,7 +370,7 @@
     </message>
     <message>
         <source>Offer test versions when updating.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tilby testversjoner ved oppdatering.</translation>
     </message>
     <message>
         <source>Draw a notch on displays that have none.</source>
@@ -378,19 +378,19 @@
     </message>
     <message>
         <source>Which displays show the notch: all, main, built-in or one by name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hvilke skjermer som viser hakket: alle, hovedskjermen, den innebygde eller én etter navn.</translation>
     </message>
     <message>
         <source>Width in points of a drawn notch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bredden i punkter på et tegnet hakk.</translation>
     </message>
     <message>
         <source>A drawn notch takes the height of the top panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Et tegnet hakk får samme høyde som toppanelet.</translation>
     </message>
     <message>
         <source>Height in points of a drawn notch when it does not match the panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Høyden i punkter på et tegnet hakk når det ikke følger panelet.</translation>
     </message>
     <message>
         <source>How the notch opens: on hover, on click, or pressed and held.</source>
@@ -398,147 +398,147 @@
     </message>
     <message>
         <source>Seconds the pointer rests on the notch before it opens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunder pekeren hviler på hakket før det åpnes.</translation>
     </message>
     <message>
         <source>Seconds of pressing that open the notch in press-and-hold mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunder med trykk før hakket åpnes i trykk og hold-modus.</translation>
     </message>
     <message>
         <source>Panel sections pinned in the opened notch, in order (&quot;media&quot;, &quot;calendar&quot;, &quot;weather&quot;, &quot;batteries&quot;, &quot;fileTray&quot;); empty shows every section with something to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Panelseksjoner som er festet i det åpne hakket, i rekkefølge (&quot;media&quot;, &quot;calendar&quot;, &quot;weather&quot;, &quot;batteries&quot;, &quot;fileTray&quot;); tomt viser alle seksjoner som har noe å vise.</translation>
     </message>
     <message>
         <source>Where the playing track comes from: automatic, or only the player scripts, which exist on a Mac alone (on the desktop that shows nothing).</source>
-        <translation type="unfinished"></translation>
+        <translation>Hvor sporet som spilles kommer fra: automatisk, eller bare spillerskriptene, som bare finnes på Mac (på skrivebordet viser det ingenting).</translation>
     </message>
     <message>
         <source>The system version on which the basic-mode notice was last shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemversjonen der varselet om enkel modus sist ble vist.</translation>
     </message>
     <message>
         <source>Look covers up online when the player gives none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Slå opp omslag på nettet når spilleren ikke gir noe.</translation>
     </message>
     <message>
         <source>How long a paused track stays shown: short, long or until resumed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hvor lenge et spor på pause vises: kort, lenge eller til avspillingen fortsetter.</translation>
     </message>
     <message>
         <source>The progress bar in the standard colour or the cover&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fremdriftslinjen i standardfargen eller i omslagets farge.</translation>
     </message>
     <message>
         <source>Show volume changes in the notch. Option-Shift with a volume or brightness key changes it in smaller steps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis endringer i lydstyrke i hakket. Option-Shift sammen med en lydstyrke- eller lysstyrketast endrer i mindre steg.</translation>
     </message>
     <message>
         <source>Show brightness changes in the notch. Keys go to the system when the output or display cannot be controlled, or when BetterDisplay handles it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis endringer i lysstyrke i hakket. Tastene går til systemet når utgangen eller skjermen ikke kan styres, eller når BetterDisplay tar seg av det.</translation>
     </message>
     <message>
         <source>How the level is drawn: a continuous bar, segments or a ring.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hvordan nivået tegnes: en sammenhengende stolpe, en oppdelt stolpe eller en ring.</translation>
     </message>
     <message>
         <source>The level&apos;s colour: white, by level, or the accent colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fargen på nivået: hvit, etter nivå eller aksentfargen.</translation>
     </message>
     <message>
         <source>Seconds the level stays shown after a change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sekunder nivået vises etter en endring.</translation>
     </message>
     <message>
         <source>Play the volume feedback sound where the system does not. Hold Shift while pressing a volume key to do the opposite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spill av tilbakemeldingslyden for lydstyrke der systemet ikke gjør det. Hold Shift mens du trykker på en lydstyrketast for å gjøre det motsatte.</translation>
     </message>
     <message>
         <source>Tell when power is connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si fra når strømmen kobles til.</translation>
     </message>
     <message>
         <source>Tell when power is disconnected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si fra når strømmen kobles fra.</translation>
     </message>
     <message>
         <source>Warn when the battery runs low.</source>
-        <translation type="unfinished"></translation>
+        <translation>Advar når batterinivået blir lavt.</translation>
     </message>
     <message>
         <source>Percentage at which the battery counts as low.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prosentnivået der batteriet regnes som lavt.</translation>
     </message>
     <message>
         <source>Tell when a Bluetooth accessory connects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si fra når et Bluetooth-tilbehør kobles til.</translation>
     </message>
     <message>
         <source>Tell when files arrive from nearby devices.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si fra når filer kommer fra enheter i nærheten.</translation>
     </message>
     <message>
         <source>Warn when an accessory&apos;s battery runs low.</source>
-        <translation type="unfinished"></translation>
+        <translation>Advar når batteriet i et tilbehør blir lavt.</translation>
     </message>
     <message>
         <source>Percentage at which an accessory&apos;s battery counts as low.</source>
-        <translation type="unfinished"></translation>
+        <translation>Prosentnivået der batteriet i et tilbehør regnes som lavt.</translation>
     </message>
     <message>
         <source>Tell when sound moves to an accessory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si fra når lyden flyttes til et tilbehør.</translation>
     </message>
     <message>
         <source>Tell when a Bluetooth accessory disconnects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si fra når et Bluetooth-tilbehør kobles fra.</translation>
     </message>
     <message>
         <source>Accessory batteries as a percentage or a ring.</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterier i tilbehør som prosent eller ring.</translation>
     </message>
     <message>
         <source>Show the next meeting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis neste møte.</translation>
     </message>
     <message>
         <source>Minutes before a meeting that it appears.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hvor mange minutter før et møte det vises.</translation>
     </message>
     <message>
         <source>Calendars whose events are never shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalendere der hendelsene aldri vises.</translation>
     </message>
     <message>
         <source>The meeting&apos;s time as a countdown, its start time, or both.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tiden for møtet som nedtelling, starttid eller begge.</translation>
     </message>
     <message>
         <source>Hide meeting titles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Skjul møtetitler.</translation>
     </message>
     <message>
         <source>Play a sound when a meeting is about to start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spill en lyd når et møte er i ferd med å starte.</translation>
     </message>
     <message>
         <source>Meetings whose start sound has played, so it plays once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Møter der startlyden er spilt, så den bare spilles én gang.</translation>
     </message>
     <message>
         <source>Show reminders that are due.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis påminnelser når de forfaller.</translation>
     </message>
     <message>
         <source>Count travel time before meetings with a place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Regn med reisetid før møter som har et sted.</translation>
     </message>
     <message>
         <source>How you travel to meetings: by car, on foot or by transit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hvordan du reiser til møter: med bil, til fots eller kollektivt.</translation>
     </message>
     <message>
         <source>Minutes added to the travel time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutter som legges til reisetiden.</translation>
     </message>
     <message>
         <source>Show the weather.</source>
@@ -558,19 +558,19 @@
     </message>
     <message>
         <source>Swipes on the notch control playback.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sveip på hakket styrer avspillingen.</translation>
     </message>
     <message>
         <source>Sideways swipes change the track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sveip til siden bytter spor.</translation>
     </message>
     <message>
         <source>Give feedback when a swipe is recognised.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gi tilbakemelding når et sveip gjenkjennes.</translation>
     </message>
     <message>
         <source>Dragging with the mouse works like swiping.</source>
-        <translation type="unfinished"></translation>
+        <translation>Å dra med musen virker som å sveipe.</translation>
     </message>
     <message>
         <source>Hide the notch over full-screen windows.</source>
@@ -582,43 +582,43 @@
     </message>
     <message>
         <source>Applications treated as games, one per line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Programmer som behandles som spill, ett per linje.</translation>
     </message>
     <message>
         <source>Hide the notch while windows are being arranged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Skjul hakket mens vinduer ordnes.</translation>
     </message>
     <message>
         <source>Keep the notch out of screenshots and recordings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hold hakket utenfor skjermbilder og opptak.</translation>
     </message>
     <message>
         <source>A translucent opened notch instead of black.</source>
-        <translation type="unfinished"></translation>
+        <translation>Et gjennomskinnelig åpent hakk i stedet for svart.</translation>
     </message>
     <message>
         <source>The opened notch in black and white or in colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Det åpne hakket i svart-hvitt eller i farger.</translation>
     </message>
     <message>
         <source>A soft glow around the opened notch.</source>
-        <translation type="unfinished"></translation>
+        <translation>En myk glød rundt det åpne hakket.</translation>
     </message>
     <message>
         <source>A brief flash when the notch opens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Et kort blink når hakket åpnes.</translation>
     </message>
     <message>
         <source>Colourful bars in the live spectrum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fargerike stolper i sanntidsspekteret.</translation>
     </message>
     <message>
         <source>A thin coloured rim on the closed notch.</source>
-        <translation type="unfinished"></translation>
+        <translation>En tynn farget kant rundt det lukkede hakket.</translation>
     </message>
     <message>
         <source>Show a live spectrum of the playing audio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis et sanntidsspekter av lyden som spilles.</translation>
     </message>
     <message>
         <source>Show widgets on the lock screen (experimental).</source>
@@ -626,31 +626,31 @@
     </message>
     <message>
         <source>The lock-screen widgets&apos; background: clear, light frost or frosted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bakgrunnen til modulene på låseskjermen: klar, lett frostet eller frostet.</translation>
     </message>
     <message>
         <source>Vertical offset in points of the lock-screen widgets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Loddrett forskyvning i punkter for modulene på låseskjermen.</translation>
     </message>
     <message>
         <source>Keep the notch on the lock screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Behold hakket på låseskjermen.</translation>
     </message>
     <message>
         <source>The last lock-screen notice, kept to show it once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Det siste varselet på låseskjermen, lagret så det bare vises én gang.</translation>
     </message>
     <message>
         <source>The last lock-screen notch notice, kept to show it once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Det siste hakkvarselet på låseskjermen, lagret så det bare vises én gang.</translation>
     </message>
     <message>
         <source>Show keyboard backlight changes (experimental).</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis endringer i tastaturbelysning (eksperimentelt).</translation>
     </message>
     <message>
         <source>The system version on which no keyboard backlight was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Systemversjonen der ingen tastaturbelysning ble funnet.</translation>
     </message>
     <message>
         <source>Show incoming calls (experimental).</source>
@@ -670,38 +670,38 @@
     </message>
     <message>
         <source>Where the playing track comes from: automatic (the desktop&apos;s players), or only the player scripts of a Mac, which show nothing here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hvor sporet som spilles kommer fra: automatisk (skrivebordets spillere), eller bare spillerskriptene på en Mac, som ikke viser noe her.</translation>
     </message>
     <message>
         <source>Show volume changes in the notch. Alt-Shift with a volume or brightness key changes it in smaller steps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis endringer i lydstyrke i hakket. Alt-Shift sammen med en lydstyrke- eller lysstyrketast endrer i mindre steg.</translation>
     </message>
     <message>
         <source>Show brightness changes in the notch. Keys go to the desktop when the output or display cannot be controlled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vis endringer i lysstyrke i hakket. Tastene går til skrivebordet når utgangen eller skjermen ikke kan styres.</translation>
     </message>
     <message>
         <source>Play the volume feedback sound where the desktop does not. Hold Shift while pressing a volume key to do the opposite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Spill av tilbakemeldingslyden for lydstyrke der skrivebordet ikke gjør det. Hold Shift mens du trykker på en lydstyrketast for å gjøre det motsatte.</translation>
     </message>
     <message>
         <source>The Focus filter&apos;s last state, as `tindra focus` wrote it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fokusfilterets siste tilstand, slik `tindra focus` skrev den.</translation>
     </message>
 </context>
 <context>
     <name>SettingsNotes</name>
     <message>
         <source>No window can be drawn above the screen locker of a Linux desktop, so there are no lock-screen widgets here; the notch hides while the screen is locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ingen vinduer kan tegnes over skjermlåsen på et Linux-skrivebord, så det finnes ingen moduler på låseskjermen her; hakket skjules mens skjermen er låst.</translation>
     </message>
     <message>
         <source>If this computer ignores Tindra&apos;s changes, the keys go back to the desktop and the notch only shows the level.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hvis denne datamaskinen overser endringene fra Tindra, går tastene tilbake til skrivebordet, og hakket viser bare nivået.</translation>
     </message>
     <message>
         <source>The warning appears once when the battery reaches this level, and again only after charging.</source>
-        <translation type="unfinished"></translation>
+        <translation>Advarselen vises én gang når batteriet når dette nivået, og igjen først etter lading.</translation>
     </message>
     <message>
         <source>Up to 20 items. Copies take up to 2 GB in total.</source>
@@ -709,23 +709,23 @@
     </message>
     <message>
         <source>Links: Tindra remembers where they are; nothing is copied. Copies: Tindra keeps a copy, so they stay usable if the originals go; removing it from the tray deletes the copy, never the original.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lenker: Tindra husker hvor filene ligger; ingenting kopieres. Kopier: Tindra tar vare på en kopi, så filene kan brukes selv om originalene forsvinner; fjerner du den fra brettet, slettes kopien, aldri originalen.</translation>
     </message>
     <message>
         <source>A ringing call shows only that it rings; answer it on the desktop&apos;s notification. Messages and missed calls show who and what, with a button that opens the application that sent them. Nothing is stored or sent, and nothing shows while do-not-disturb is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Et anrop som ringer, viser bare at det ringer; svar på det i varslingen på skrivebordet. Meldinger og tapte anrop viser hvem og hva, med en knapp som åpner programmet som sendte dem. Ingenting lagres eller sendes, og ingenting vises mens Ikke forstyrr er på.</translation>
     </message>
     <message>
         <source>Scroll on the notch with two fingers or the mouse wheel, as if moving a page: down opens it, up closes it, sideways skips tracks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rull på hakket med to fingre eller musehjulet, som om du flytter en side: ned åpner det, opp lukker det, til siden bytter spor.</translation>
     </message>
     <message>
         <source>Drag the closed notch down to open it, or sideways to skip tracks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dra det lukkede hakket ned for å åpne det, eller til siden for å bytte spor.</translation>
     </message>
     <message>
         <source>The desktop shows through where the window manager draws windows translucent; elsewhere the glass is dark grey.</source>
-        <translation type="unfinished"></translation>
+        <translation>Skrivebordet skinner gjennom der vindusbehandleren tegner vinduer gjennomskinnelige; ellers er glasset mørkegrått.</translation>
     </message>
 </context>
 <context>
@@ -764,7 +764,7 @@
     </message>
     <message>
         <source>white</source>
-        <translation type="unfinished"></translation>
+        <translation>hvit</translation>
     </message>
     <message>
         <source>countdown</source>
@@ -812,47 +812,47 @@
     </message>
     <message>
         <source>level</source>
-        <translation type="unfinished"></translation>
+        <translation>etter nivå</translation>
     </message>
     <message>
         <source>accent</source>
-        <translation type="unfinished"></translation>
+        <translation>aksentfarge</translation>
     </message>
     <message>
         <source>clear</source>
-        <translation type="unfinished"></translation>
+        <translation>klar</translation>
     </message>
     <message>
         <source>lightFrost</source>
-        <translation type="unfinished"></translation>
+        <translation>lett frostet</translation>
     </message>
     <message>
         <source>frosted</source>
-        <translation type="unfinished"></translation>
+        <translation>frostet</translation>
     </message>
     <message>
         <source>untilResumed</source>
-        <translation type="unfinished"></translation>
+        <translation>til avspillingen fortsetter</translation>
     </message>
     <message>
         <source>standard</source>
-        <translation type="unfinished"></translation>
+        <translation>standard</translation>
     </message>
     <message>
         <source>artwork</source>
-        <translation type="unfinished"></translation>
+        <translation>omslag</translation>
     </message>
     <message>
         <source>automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>automatisk</translation>
     </message>
     <message>
         <source>appleScriptOnly</source>
-        <translation type="unfinished"></translation>
+        <translation>bare AppleScript</translation>
     </message>
     <message>
         <source>percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>prosent</translation>
     </message>
 </context>
 <context>
@@ -905,49 +905,49 @@
     <name>tindra::AdapterCheck</name>
     <message>
         <source>nothing playing</source>
-        <translation type="unfinished"></translation>
+        <translation>ingenting spilles</translation>
     </message>
     <message>
         <source>Stream gave %1 update(s) and %2 unreadable line(s) in %3 s: %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strømmen ga %1 oppdatering(er) og %2 uleselig(e) linje(r) på %3 s: %4.</translation>
     </message>
     <message>
         <source>Stream skipped because the self-test failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Strømmen ble hoppet over fordi selvtesten mislyktes.</translation>
     </message>
     <message>
         <source>Could not launch stream: </source>
-        <translation type="unfinished"></translation>
+        <translation>Kunne ikke starte strømmen: </translation>
     </message>
 </context>
 <context>
     <name>tindra::AdapterNowPlayingSource</name>
     <message>
         <source>Adapter stream exited with status %1; restarting in %2 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Adapterstrømmen avsluttet med status %1; starter på nytt om %2 s</translation>
     </message>
 </context>
 <context>
     <name>tindra::AdapterProbe</name>
     <message>
         <source>The adapter&apos;s self-test did not finish within %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selvtesten til adapteren ble ikke ferdig innen %1 s.</translation>
     </message>
     <message>
         <source>Could not launch %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Kunne ikke starte %1: %2</translation>
     </message>
     <message>
         <source>The adapter&apos;s self-test passed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selvtesten til adapteren besto.</translation>
     </message>
     <message>
         <source>The adapter&apos;s self-test failed with exit status %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Selvtesten til adapteren mislyktes med avslutningsstatus %1.</translation>
     </message>
     <message>
         <source>Adapter not bundled; missing: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Adapteren følger ikke med; mangler: %1 %2</translation>
     </message>
 </context>
 <context>
@@ -961,44 +961,44 @@
     <name>tindra::BlueZAccessoryBackend</name>
     <message>
         <source>asking BlueZ for the accessories</source>
-        <translation type="unfinished"></translation>
+        <translation>spør BlueZ om tilbehøret</translation>
     </message>
     <message>
         <source>BlueZ went away: no accessories are shown until it returns</source>
-        <translation type="unfinished"></translation>
+        <translation>BlueZ forsvant: ikke noe tilbehør vises før den kommer tilbake</translation>
     </message>
     <message>
         <source>BlueZ does not answer (%1): no accessories are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>BlueZ svarer ikke (%1): ikke noe tilbehør vises</translation>
     </message>
     <message>
         <source>following BlueZ: %1 Bluetooth devices known</source>
-        <translation type="unfinished"></translation>
+        <translation>følger BlueZ: %1 kjente Bluetooth-enheter</translation>
     </message>
 </context>
 <context>
     <name>tindra::CalendarFeed</name>
     <message>
         <source>not read yet</source>
-        <translation type="unfinished"></translation>
+        <translation>ikke lest ennå</translation>
     </message>
     <message numerus="yes">
         <source>%n document(s) could not be read (%1)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n dokument kunne ikke leses (%1)</numerusform>
+            <numerusform>%n dokumenter kunne ikke leses (%1)</numerusform>
         </translation>
     </message>
     <message>
         <source>, %1 to-dos</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 gjøremål</translation>
     </message>
 </context>
 <context>
     <name>tindra::CalendarListEditor</name>
     <message>
         <source>A file, a folder, or an https:// or webcal:// address</source>
-        <translation type="unfinished"></translation>
+        <translation>En fil, en mappe eller en https://- eller webcal://-adresse</translation>
     </message>
     <message>
         <source>Add</source>
@@ -1014,15 +1014,15 @@
     </message>
     <message>
         <source>iCalendar (*.ics);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>iCalendar (*.ics);;Alle filer (*)</translation>
     </message>
     <message>
         <source>Your mail addresses, separated by commas</source>
-        <translation type="unfinished"></translation>
+        <translation>E-postadressene dine, skilt med komma</translation>
     </message>
     <message>
         <source>Invitations you declined at these addresses are not shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Invitasjoner du har avslått på disse adressene, vises ikke.</translation>
     </message>
     <message>
         <source>No calendars yet.</source>
@@ -1037,7 +1037,7 @@
     <name>tindra::CalendarProvider</name>
     <message>
         <source>the calendar is off in Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>kalenderen er slått av i Innstillinger</translation>
     </message>
     <message>
         <source>Event</source>
@@ -1099,23 +1099,23 @@
     <name>tindra::DBusNotificationMonitor</name>
     <message>
         <source>calls and messages are off: notifications are not read</source>
-        <translation type="unfinished"></translation>
+        <translation>anrop og meldinger er slått av: varslinger leses ikke</translation>
     </message>
     <message>
         <source>the session bus does not let Tindra read notifications (%1): no calls or messages are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>øktbussen lar ikke Tindra lese varslinger (%1): ingen anrop eller meldinger vises</translation>
     </message>
     <message>
         <source>no notification server runs on the session bus: calls and messages show once one starts</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen varslingstjener kjører på øktbussen: anrop og meldinger vises når en starter</translation>
     </message>
     <message>
         <source>reading notification banners for calls and messages</source>
-        <translation type="unfinished"></translation>
+        <translation>leser varselbannere for anrop og meldinger</translation>
     </message>
     <message>
         <source>the session bus closed the notification monitor: no calls or messages are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>øktbussen lukket varslingsovervåkingen: ingen anrop eller meldinger vises</translation>
     </message>
 </context>
 <context>
@@ -1133,29 +1133,29 @@
     <name>tindra::FakeBatteryBackend</name>
     <message>
         <source>invented readings (TINDRA_FAKE asks for them)</source>
-        <translation type="unfinished"></translation>
+        <translation>oppdiktede målinger (TINDRA_FAKE ber om dem)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeCalendarBackend</name>
     <message>
         <source>invented</source>
-        <translation type="unfinished"></translation>
+        <translation>oppdiktet</translation>
     </message>
     <message>
         <source>invented calendars (TINDRA_FAKE)</source>
-        <translation type="unfinished"></translation>
+        <translation>oppdiktede kalendere (TINDRA_FAKE)</translation>
     </message>
     <message>
         <source>The invented calendars take no additions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Det kan ikke legges til noe i de oppdiktede kalenderne.</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeLocationSource</name>
     <message>
         <source>an invented position (TINDRA_FAKE)</source>
-        <translation type="unfinished"></translation>
+        <translation>en oppdiktet posisjon (TINDRA_FAKE)</translation>
     </message>
 </context>
 <context>
@@ -1201,27 +1201,27 @@
     </message>
     <message>
         <source>keeping the file tray in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>lagrer filbrettet i %1</translation>
     </message>
     <message>
         <source>some items of the saved file tray could not be read and were left out; the list as it was is kept as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>noen elementer i det lagrede filbrettet kunne ikke leses og ble utelatt; listen slik den var, er tatt vare på som %1</translation>
     </message>
     <message>
         <source>the saved file tray %1; it is kept as %2 and the tray starts empty</source>
-        <translation type="unfinished"></translation>
+        <translation>det lagrede filbrettet %1; det er tatt vare på som %2, og brettet starter tomt</translation>
     </message>
     <message>
         <source>was written by a newer Tindra</source>
-        <translation type="unfinished"></translation>
+        <translation>ble skrevet av en nyere Tindra</translation>
     </message>
     <message>
         <source>could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>kunne ikke leses</translation>
     </message>
     <message>
         <source>the file tray is not saved: an unreadable list could not be moved aside</source>
-        <translation type="unfinished"></translation>
+        <translation>filbrettet lagres ikke: en uleselig liste kunne ikke flyttes til side</translation>
     </message>
 </context>
 <context>
@@ -1235,155 +1235,155 @@
     <name>tindra::GSettingsFocusSource</name>
     <message>
         <source>GNOME&apos;s notification settings are not installed: do-not-disturb is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>varslingsinnstillingene til GNOME er ikke installert: Ikke forstyrr er ukjent</translation>
     </message>
     <message>
         <source>reading do-not-disturb from GNOME&apos;s settings (show-banners)</source>
-        <translation type="unfinished"></translation>
+        <translation>leser Ikke forstyrr fra innstillingene til GNOME (show-banners)</translation>
     </message>
 </context>
 <context>
     <name>tindra::GeoClueLocationSource</name>
     <message>
         <source>asking GeoClue for the position</source>
-        <translation type="unfinished"></translation>
+        <translation>spør GeoClue om posisjonen</translation>
     </message>
     <message>
         <source>no system bus: GeoClue cannot be asked</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen systembuss: GeoClue kan ikke spørres</translation>
     </message>
     <message>
         <source>GeoClue is not available (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>GeoClue er ikke tilgjengelig (%1)</translation>
     </message>
     <message>
         <source>GeoClue refused the position (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>GeoClue nektet å gi posisjonen (%1)</translation>
     </message>
     <message>
         <source>GeoClue gives the position, at city accuracy</source>
-        <translation type="unfinished"></translation>
+        <translation>GeoClue gir posisjonen, med nøyaktighet på bynivå</translation>
     </message>
 </context>
 <context>
     <name>tindra::HudProvider</name>
     <message>
         <source>keyboard light</source>
-        <translation type="unfinished"></translation>
+        <translation>tastaturlys</translation>
     </message>
     <message>
         <source>Key routing: volume %1, brightness %2, keyboard %3</source>
-        <translation type="unfinished"></translation>
+        <translation>Tastruting: lydstyrke %1, lysstyrke %2, tastatur %3</translation>
     </message>
     <message>
         <source>holds %1</source>
-        <translation type="unfinished"></translation>
+        <translation>holder %1</translation>
     </message>
     <message>
         <source>only watches the level for %1 (another program holds them)</source>
-        <translation type="unfinished"></translation>
+        <translation>følger bare nivået for %1 (et annet program holder dem)</translation>
     </message>
     <message>
         <source>leaves %1 to the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>overlater %1 til skrivebordet</translation>
     </message>
 </context>
 <context>
     <name>tindra::ICalendarBackend</name>
     <message>
         <source>the calendar list was not readable and was set aside as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>kalenderlisten kunne ikke leses og ble lagt til side som %1</translation>
     </message>
     <message>
         <source>not read while the calendar is off</source>
-        <translation type="unfinished"></translation>
+        <translation>leses ikke mens kalenderen er slått av</translation>
     </message>
     <message>
         <source>Give a file, a folder or an address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Oppgi en fil, en mappe eller en adresse.</translation>
     </message>
     <message>
         <source>Use an https:// or webcal:// address: a calendar fetched over plain http can be read by anyone on the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bruk en https://- eller webcal://-adresse: en kalender som hentes over vanlig http, kan leses av hvem som helst underveis.</translation>
     </message>
     <message>
         <source>This calendar is already in the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Denne kalenderen er allerede i listen.</translation>
     </message>
     <message numerus="yes">
         <source>reading %n iCalendar calendar(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>leser %n iCalendar-kalender</numerusform>
+            <numerusform>leser %n iCalendar-kalendere</numerusform>
         </translation>
     </message>
     <message>
         <source>no calendars: add an iCalendar file, folder or address in Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen kalendere: legg til en iCalendar-fil, -mappe eller -adresse i Innstillinger</translation>
     </message>
 </context>
 <context>
     <name>tindra::LocalCalendarFeed</name>
     <message>
         <source>%1 is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 finnes ikke</translation>
     </message>
     <message>
         <source>%1 cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kan ikke leses</translation>
     </message>
 </context>
 <context>
     <name>tindra::LogindLockSource</name>
     <message>
         <source>asking logind for the session</source>
-        <translation type="unfinished"></translation>
+        <translation>spør logind om økten</translation>
     </message>
     <message>
         <source>logind does not know this session (%1): the screen lock is not followed</source>
-        <translation type="unfinished"></translation>
+        <translation>logind kjenner ikke denne økten (%1): skjermlåsen følges ikke</translation>
     </message>
     <message>
         <source>logind does not answer (%1): the screen lock is not followed</source>
-        <translation type="unfinished"></translation>
+        <translation>logind svarer ikke (%1): skjermlåsen følges ikke</translation>
     </message>
     <message>
         <source>following the screen lock of logind&apos;s session %1</source>
-        <translation type="unfinished"></translation>
+        <translation>følger skjermlåsen for logind-økt %1</translation>
     </message>
 </context>
 <context>
     <name>tindra::NotificationServerFocusSource</name>
     <message>
         <source>reading do-not-disturb from the notification server (Inhibited)</source>
-        <translation type="unfinished"></translation>
+        <translation>leser Ikke forstyrr fra varslingstjeneren (Inhibited)</translation>
     </message>
     <message>
         <source>asking the notification server for do-not-disturb</source>
-        <translation type="unfinished"></translation>
+        <translation>spør varslingstjeneren om Ikke forstyrr</translation>
     </message>
     <message>
         <source>the notification server went away: do-not-disturb is unknown until it returns</source>
-        <translation type="unfinished"></translation>
+        <translation>varslingstjeneren forsvant: Ikke forstyrr er ukjent til den kommer tilbake</translation>
     </message>
     <message>
         <source>no notification server runs: do-not-disturb is unknown until one starts</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen varslingstjener kjører: Ikke forstyrr er ukjent til en starter</translation>
     </message>
     <message>
         <source>the notification server does not report do-not-disturb (no Inhibited property): only `tindra focus` shows a Focus</source>
-        <translation type="unfinished"></translation>
+        <translation>varslingstjeneren rapporterer ikke Ikke forstyrr (ingen Inhibited-egenskap): bare `tindra focus` viser fokus</translation>
     </message>
 </context>
 <context>
     <name>tindra::NowPlayingProvider</name>
     <message>
         <source>Settings ask for the player scripts, which this desktop does not have: nothing is shown as playing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Innstillingene ber om spillerskriptene, som dette skrivebordet ikke har: ingenting vises under Spilles nå.</translation>
     </message>
     <message>
         <source>testing the now-playing adapter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tester Spilles nå-adapteren %1</translation>
     </message>
 </context>
 <context>
@@ -1394,7 +1394,7 @@
     </message>
     <message>
         <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ in use, – waiting or limited, ✗ not available, and what that means):&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Velkommen til Tindra&lt;/h2&gt;&lt;p&gt;Stripen øverst på skjermen er nå en liten, levende visning. Lukket viser den én ting om gangen: hva som spilles, et lydstyrke- eller lysstyrkenivå, et batteri- eller hodetelefonvarsel, neste møte, et anrop eller en melding. Hvil pekeren på den, så åpnes den til et panel med kontrollene, kalenderen, været, batteriene og et filbrett. Alt blir på denne datamaskinen.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Hva Tindra fant her&lt;/b&gt; (✓ i bruk, – venter eller begrenset, ✗ ikke tilgjengelig, og hva det betyr):&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;The notch opens&lt;/b&gt;</source>
@@ -1425,53 +1425,53 @@
     <name>tindra::PulseProcessTapSession</name>
     <message>
         <source>no sound server to listen to</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen lydtjener å lytte til</translation>
     </message>
     <message>
         <source>the player&apos;s own stream (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>spillerens egen strøm (%1)</translation>
     </message>
     <message>
         <source>the default output</source>
-        <translation type="unfinished"></translation>
+        <translation>standardutgangen</translation>
     </message>
     <message>
         <source>the sound server has no output to listen to</source>
-        <translation type="unfinished"></translation>
+        <translation>lydtjeneren har ingen utgang å lytte til</translation>
     </message>
     <message>
         <source> on </source>
-        <translation type="unfinished"></translation>
+        <translation> på </translation>
     </message>
     <message>
         <source>the sound server refused a capture stream</source>
-        <translation type="unfinished"></translation>
+        <translation>lydtjeneren avviste en opptaksstrøm</translation>
     </message>
 </context>
 <context>
     <name>tindra::PulseVolumeBackend</name>
     <message>
         <source>following the sound server&apos;s default output</source>
-        <translation type="unfinished"></translation>
+        <translation>følger standardutgangen til lydtjeneren</translation>
     </message>
     <message>
         <source>the sound server went away: no volume until it returns</source>
-        <translation type="unfinished"></translation>
+        <translation>lydtjeneren forsvant: ingen lydstyrke før den kommer tilbake</translation>
     </message>
 </context>
 <context>
     <name>tindra::RemoteCalendarFeed</name>
     <message>
         <source>%1 is not an https address</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 er ikke en https-adresse</translation>
     </message>
     <message>
         <source>HTTP %1</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP %1</translation>
     </message>
     <message>
         <source>could not fetch %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>kunne ikke hente %1 (%2)</translation>
     </message>
 </context>
 <context>
@@ -1529,7 +1529,7 @@
     </message>
     <message>
         <source>Each service Tindra uses says here whether it answers, and every change since Tindra started is in the log. The report has the versions, the session and the log, for a bug report; it names none of your files, events or messages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Her ser du om hver tjeneste Tindra bruker svarer, og hver endring siden Tindra startet står i loggen. Rapporten inneholder versjonene, økten og loggen, til en feilrapport; den nevner ingen av filene, hendelsene eller meldingene dine.</translation>
     </message>
     <message>
         <source>Copy report</source>
@@ -1540,7 +1540,7 @@
     <name>tindra::SysfsBacklightBackend</name>
     <message>
         <source>no display backlight in %1: the brightness keys stay with the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen skjermbelysning i %1: lysstyrketastene blir hos skrivebordet</translation>
     </message>
 </context>
 <context>
@@ -1554,88 +1554,88 @@
     <name>tindra::UPowerBatteryBackend</name>
     <message>
         <source>asking UPower for the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>spør UPower om batteriet</translation>
     </message>
     <message>
         <source>UPower does not answer (%1): no battery is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>UPower svarer ikke (%1): batteriet vises ikke</translation>
     </message>
     <message>
         <source>reading the battery from UPower</source>
-        <translation type="unfinished"></translation>
+        <translation>leser batteriet fra UPower</translation>
     </message>
     <message>
         <source>UPower answers and reports no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>UPower svarer, men rapporterer ikke noe batteri</translation>
     </message>
     <message>
         <source>UPower went away: no battery is shown until it returns</source>
-        <translation type="unfinished"></translation>
+        <translation>UPower forsvant: batteriet vises ikke før den kommer tilbake</translation>
     </message>
 </context>
 <context>
     <name>tindra::UPowerKeyboardBacklightBackend</name>
     <message>
         <source>UPower went away: the keyboard light keys stay with the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>UPower forsvant: tastene for tastaturlys blir hos skrivebordet</translation>
     </message>
     <message>
         <source>UPower reports no keyboard backlight (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>UPower rapporterer ingen tastaturbelysning (%1)</translation>
     </message>
     <message>
         <source>no levels</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen nivåer</translation>
     </message>
     <message>
         <source>keyboard backlight through UPower, %1 levels</source>
-        <translation type="unfinished"></translation>
+        <translation>tastaturbelysning gjennom UPower, %1 nivåer</translation>
     </message>
     <message>
         <source>the keyboard backlight level cannot be read (%1 of %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>nivået for tastaturbelysningen kan ikke leses (%1 av %2)</translation>
     </message>
 </context>
 <context>
     <name>tindra::VisibilityMonitor</name>
     <message>
         <source>the notch steps aside: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>hakket viker: %1</translation>
     </message>
     <message>
         <source>the notch shows</source>
-        <translation type="unfinished"></translation>
+        <translation>hakket vises</translation>
     </message>
 </context>
 <context>
     <name>tindra::WeatherProvider</name>
     <message>
         <source>the weather is off in Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>været er slått av i Innstillinger</translation>
     </message>
     <message>
         <source>position: %1; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>posisjon: %1; %2</translation>
     </message>
     <message>
         <source>none yet</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen ennå</translation>
     </message>
     <message>
         <source>; the last request failed (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>; den siste forespørselen mislyktes (%1)</translation>
     </message>
     <message>
         <source>set in Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>angitt i Innstillinger</translation>
     </message>
     <message>
         <source>GeoClue</source>
-        <translation type="unfinished"></translation>
+        <translation>GeoClue</translation>
     </message>
     <message>
         <source>the time zone %1</source>
-        <translation type="unfinished"></translation>
+        <translation>tidssonen %1</translation>
     </message>
     <message>
         <source>The weather is unavailable right now.</source>
@@ -1678,7 +1678,7 @@
     </message>
     <message>
         <source>An e-mail address MET Norway may reach you at (optional)</source>
-        <translation type="unfinished"></translation>
+        <translation>En e-postadresse Meteorologisk institutt kan nå deg på (valgfritt)</translation>
     </message>
     <message>
         <source>Contact:</source>
@@ -1716,34 +1716,34 @@
     <name>tindra::X11MediaKeySource</name>
     <message>
         <source>no X display: the keys stay with the desktop, and the level changes it makes are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen X-skjerm: tastene blir hos skrivebordet, og nivåendringene det gjør, vises</translation>
     </message>
     <message>
         <source>holding no keys</source>
-        <translation type="unfinished"></translation>
+        <translation>holder ingen taster</translation>
     </message>
     <message>
         <source>holding %1 key combinations, %2 held by another program</source>
-        <translation type="unfinished"></translation>
+        <translation>holder %1 tastekombinasjoner, %2 holdt av et annet program</translation>
     </message>
     <message>
         <source>the X server closed the connection: the keys stay with the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>X-tjeneren lukket tilkoblingen: tastene blir hos skrivebordet</translation>
     </message>
 </context>
 <context>
     <name>tindra::X11VisibilitySource</name>
     <message>
         <source>no X display: the notch never steps aside for full-screen windows or games</source>
-        <translation type="unfinished"></translation>
+        <translation>ingen X-skjerm: hakket viker aldri for vinduer i fullskjerm eller spill</translation>
     </message>
     <message>
         <source>following the active window and full-screen state from the window manager (EWMH)</source>
-        <translation type="unfinished"></translation>
+        <translation>følger det aktive vinduet og fullskjermtilstanden fra vindusbehandleren (EWMH)</translation>
     </message>
     <message>
         <source>the X server closed the connection: the notch no longer steps aside</source>
-        <translation type="unfinished"></translation>
+        <translation>X-tjeneren lukket tilkoblingen: hakket viker ikke lenger</translation>
     </message>
 </context>
 </TS>
