@@ -1,5 +1,8 @@
 #include "platform/linux/x11_visibility_source.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+
 #include <algorithm>
 #include <cstring>
 #include <vector>
@@ -133,10 +136,25 @@ X11VisibilitySource::Window X11VisibilitySource::read(xcb_window_t window) {
   const XcbReply<xcb_translate_coordinates_reply_t> origin(xcb_translate_coordinates_reply(
       connection_, xcb_translate_coordinates(connection_, window, root_, 0, 0), nullptr));
   if (geometry && origin) {
-    read.frame = Rect{static_cast<double>(origin->dst_x), static_cast<double>(origin->dst_y),
-                      static_cast<double>(geometry->width), static_cast<double>(geometry->height)};
+    read.frame = logicalFrame(
+        Rect{static_cast<double>(origin->dst_x), static_cast<double>(origin->dst_y),
+             static_cast<double>(geometry->width), static_cast<double>(geometry->height)},
+        screens_);
   }
   return read;
+}
+
+Rect X11VisibilitySource::logicalFrame(const Rect& native, std::span<const ScreenScale> screens) {
+  const Point centre{native.midX(), native.midY()};
+  for (const ScreenScale& screen : screens) {
+    const Rect covered{screen.origin.x, screen.origin.y, screen.size.width * screen.ratio,
+                       screen.size.height * screen.ratio};
+    if (!covered.contains(centre) || screen.ratio <= 0) continue;
+    return Rect{screen.origin.x + (native.x - screen.origin.x) / screen.ratio,
+                screen.origin.y + (native.y - screen.origin.y) / screen.ratio,
+                native.width / screen.ratio, native.height / screen.ratio};
+  }
+  return native;
 }
 
 X11VisibilitySource::Identity X11VisibilitySource::identify(xcb_window_t window) {
@@ -166,6 +184,13 @@ void X11VisibilitySource::follow(xcb_window_t active) {
 }
 
 void X11VisibilitySource::reread() {
+  screens_.clear();
+  for (const QScreen* screen : QGuiApplication::screens()) {
+    const QRect frame = screen->geometry();
+    screens_.push_back({{static_cast<double>(frame.x()), static_cast<double>(frame.y())},
+                        {static_cast<double>(frame.width()), static_cast<double>(frame.height())},
+                        screen->devicePixelRatio()});
+  }
   const std::vector<std::uint32_t> active =
       items(connection_, root_, atoms_->activeWindow, XCB_ATOM_WINDOW);
   const xcb_window_t activeWindow = active.empty() ? 0 : active[0];

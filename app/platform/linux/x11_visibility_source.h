@@ -12,6 +12,7 @@
 #include <QSocketNotifier>
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 
 #include "platform/visibility_source.h"
@@ -36,6 +37,17 @@ class X11VisibilitySource final : public VisibilitySource {
   std::vector<WindowSnapshot> windows() const override { return windows_; }
   ServiceCheck check() const override { return check_; }
 
+  // A display as Qt sees it: its origin (the same in X's pixels and in Qt's), its size in Qt's
+  // device-independent pixels, and how many of X's pixels make one of those.
+  struct ScreenScale {
+    Point origin;
+    Size size;
+    double ratio = 1;
+  };
+  // A window's frame in X's pixels as Qt places it, by the display its centre is on, so that it
+  // compares with QScreen's geometry when Qt scales (QT_SCALE_FACTOR, high-DPI displays).
+  static Rect logicalFrame(const Rect& native, std::span<const ScreenScale> screens);
+
  private:
   struct Atoms;
   struct Window;
@@ -57,6 +69,7 @@ class X11VisibilitySource final : public VisibilitySource {
   xcb_window_t followed_ = 0;
   std::optional<FrontmostApp> frontmost_;
   std::vector<WindowSnapshot> windows_;
+  std::vector<ScreenScale> screens_;  // as of the last reread
   ServiceCheck check_;
 };
 

@@ -79,6 +79,22 @@ class X11VisibilityTest : public ::testing::Test {
   QRect screen() const { return QGuiApplication::primaryScreen()->geometry(); }
 };
 
+// Where Qt scales, X's pixels are not Qt's: a window's frame is brought to Qt's by the display
+// its centre is on, each display keeping its origin.
+TEST(X11PixelsTest, FramesAreScaledByTheirDisplay) {
+  const std::vector<X11VisibilitySource::ScreenScale> screens{{{0, 0}, {1280, 800}, 2},
+                                                              {{2560, 0}, {1920, 1080}, 1}};
+  EXPECT_EQ(X11VisibilitySource::logicalFrame({0, 0, 2560, 1600}, screens),
+            (Rect{0, 0, 1280, 800}));
+  EXPECT_EQ(X11VisibilitySource::logicalFrame({200, 100, 400, 300}, screens),
+            (Rect{100, 50, 200, 150}));
+  EXPECT_EQ(X11VisibilitySource::logicalFrame({2600, 10, 300, 200}, screens),
+            (Rect{2600, 10, 300, 200}));
+  // Off every display (a window parked far away): left as it is.
+  EXPECT_EQ(X11VisibilitySource::logicalFrame({-5000, 0, 10, 10}, screens),
+            (Rect{-5000, 0, 10, 10}));
+}
+
 TEST_F(X11VisibilityTest, GamesAreKnownByTheirDesktopEntry) {
   EXPECT_TRUE(isGameApplication("", "XFontSel"));
   EXPECT_FALSE(isGameApplication("", "Xmessage"));
