@@ -76,11 +76,13 @@ Column {
     Repeater {
         model: root.model ? root.model.agenda : []
         delegate: Row {
+            id: agendaRow
             required property var modelData
             spacing: 6
             opacity: modelData.status === "ended" ? 0.45 : 1
 
             Rectangle {
+                id: agendaBar
                 anchors.verticalCenter: parent.verticalCenter
                 width: 3
                 height: 12
@@ -88,14 +90,17 @@ Column {
                 color: modelData.color
             }
             Text {
+                id: agendaTime
                 width: 74
                 anchors.verticalCenter: parent.verticalCenter
                 text: modelData.time
                 color: modelData.status === "now" ? "#30d158" : "#a1a1a6"
                 font.pixelSize: 11
             }
+            // The title takes what the button (its words differ by language) leaves.
             Text {
-                width: modelData.joinService !== "" && modelData.status !== "ended" ? 100 : 140
+                width: root.width - agendaBar.width - agendaTime.width - 2 * agendaRow.spacing
+                    - (agendaJoin.visible ? agendaJoin.width + agendaRow.spacing : 0)
                 anchors.verticalCenter: parent.verticalCenter
                 elide: Text.ElideRight
                 text: modelData.title
@@ -104,6 +109,7 @@ Column {
                 font.weight: modelData.status === "now" ? Font.DemiBold : Font.Normal
             }
             JoinButton {
+                id: agendaJoin
                 anchors.verticalCenter: parent.verticalCenter
                 visible: modelData.joinService !== "" && modelData.status !== "ended"
                 compact: true

@@ -78,20 +78,31 @@ Item {
     // Opened: the idle layout at rest on the left, then a section for each subsystem that has
     // something to show (or is pinned). While a transient section has something (a level just
     // changed), it stands there alone. A section that does not fit whole is left out rather than
-    // cut off at the edge; pinning sections chooses which come first.
+    // cut off at the edge; the activity's own section comes first, then pinned order.
     Item {
         id: panel
 
         readonly property bool transientShown: root.content.sections.some(
             section => section.transient && section.model.showing)
+        // Which sections are drawn: the one of the activity on show first, if it fits, then
+        // the others in their order while there is room.
         readonly property var fitting: {
             let room = row.width - idle.width
-            const fits = []
+            const need = []
             for (let i = 0; i < sections.count; ++i) {
                 const loader = sections.itemAt(i)
-                const need = loader && loader.wanted ? loader.item.width + row.spacing : -1
-                fits.push(need > 0 && need <= room)
-                if (fits[i]) room -= need
+                need.push(loader && loader.wanted ? loader.item.width + row.spacing : -1)
+            }
+            const fits = need.map(() => false)
+            const take = i => {
+                fits[i] = need[i] > 0 && need[i] <= room
+                if (fits[i]) room -= need[i]
+            }
+            const current = root.content.sections.findIndex(
+                section => section.model === root.content.compactModel)
+            if (current >= 0 && current < need.length) take(current)
+            for (let i = 0; i < need.length; ++i) {
+                if (i !== current) take(i)
             }
             return fits
         }

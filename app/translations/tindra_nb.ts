@@ -225,6 +225,45 @@
     </message>
 </context>
 <context>
+    <name>Notch</name>
+    <message>
+        <source>Now Playing</source>
+        <translation>Spilles nå</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Focus</source>
+        <translation>Fokus</translation>
+    </message>
+    <message>
+        <source>AirDrop</source>
+        <translation>AirDrop</translation>
+    </message>
+    <message>
+        <source>Message</source>
+        <translation>Melding</translation>
+    </message>
+    <message>
+        <source>Accessory</source>
+        <translation>Tilbehør</translation>
+    </message>
+    <message>
+        <source>Battery</source>
+        <translation>Batteri</translation>
+    </message>
+    <message>
+        <source>Level</source>
+        <translation>Nivå</translation>
+    </message>
+    <message>
+        <source>Call</source>
+        <translation>Anrop</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Travel times are unavailable: no routing service is available on this system.</source>
@@ -860,45 +899,6 @@
     <message>
         <source>Weather</source>
         <translation>Vær</translation>
-    </message>
-</context>
-<context>
-    <name>tindra::ActivityPresentation</name>
-    <message>
-        <source>Now Playing</source>
-        <translation>Spilles nå</translation>
-    </message>
-    <message>
-        <source>Calendar</source>
-        <translation>Kalender</translation>
-    </message>
-    <message>
-        <source>Focus</source>
-        <translation>Fokus</translation>
-    </message>
-    <message>
-        <source>AirDrop</source>
-        <translation>AirDrop</translation>
-    </message>
-    <message>
-        <source>Message</source>
-        <translation>Melding</translation>
-    </message>
-    <message>
-        <source>Accessory</source>
-        <translation>Tilbehør</translation>
-    </message>
-    <message>
-        <source>Battery</source>
-        <translation>Batteri</translation>
-    </message>
-    <message>
-        <source>Level</source>
-        <translation>Nivå</translation>
-    </message>
-    <message>
-        <source>Call</source>
-        <translation>Anrop</translation>
     </message>
 </context>
 <context>
