@@ -1,6 +1,6 @@
 // Written by scripts/settings-texts from core/settings/settings_keys.h; run it again rather than
-// editing. The settings' descriptions and the choices they offer, marked for translation in the
-// contexts "SettingsKeys" and "SettingsValues".
+// editing. The settings' descriptions and the choices they offer (by stored value, in words),
+// marked for translation in the contexts "SettingsKeys" and "SettingsValues".
 #include "shell/settings_key_texts.h"
 
 #include <QtGlobal>
@@ -117,39 +117,39 @@ const std::vector<const char*>& settingsKeyTexts() {
   return texts;
 }
 
-const std::vector<const char*>& settingsValueTexts() {
-  static const std::vector<const char*> texts{
-      QT_TRANSLATE_NOOP("SettingsValues", "monochrome"),
-      QT_TRANSLATE_NOOP("SettingsValues", "colorful"),
-      QT_TRANSLATE_NOOP("SettingsValues", "hover"),
-      QT_TRANSLATE_NOOP("SettingsValues", "click"),
-      QT_TRANSLATE_NOOP("SettingsValues", "pressAndHold"),
-      QT_TRANSLATE_NOOP("SettingsValues", "short"),
-      QT_TRANSLATE_NOOP("SettingsValues", "medium"),
-      QT_TRANSLATE_NOOP("SettingsValues", "long"),
-      QT_TRANSLATE_NOOP("SettingsValues", "white"),
-      QT_TRANSLATE_NOOP("SettingsValues", "countdown"),
-      QT_TRANSLATE_NOOP("SettingsValues", "startTime"),
-      QT_TRANSLATE_NOOP("SettingsValues", "both"),
-      QT_TRANSLATE_NOOP("SettingsValues", "automobile"),
-      QT_TRANSLATE_NOOP("SettingsValues", "walking"),
-      QT_TRANSLATE_NOOP("SettingsValues", "transit"),
-      QT_TRANSLATE_NOOP("SettingsValues", "link"),
-      QT_TRANSLATE_NOOP("SettingsValues", "copy"),
-      QT_TRANSLATE_NOOP("SettingsValues", "continuous"),
-      QT_TRANSLATE_NOOP("SettingsValues", "segmented"),
-      QT_TRANSLATE_NOOP("SettingsValues", "ring"),
-      QT_TRANSLATE_NOOP("SettingsValues", "level"),
-      QT_TRANSLATE_NOOP("SettingsValues", "accent"),
-      QT_TRANSLATE_NOOP("SettingsValues", "clear"),
-      QT_TRANSLATE_NOOP("SettingsValues", "lightFrost"),
-      QT_TRANSLATE_NOOP("SettingsValues", "frosted"),
-      QT_TRANSLATE_NOOP("SettingsValues", "untilResumed"),
-      QT_TRANSLATE_NOOP("SettingsValues", "standard"),
-      QT_TRANSLATE_NOOP("SettingsValues", "artwork"),
-      QT_TRANSLATE_NOOP("SettingsValues", "automatic"),
-      QT_TRANSLATE_NOOP("SettingsValues", "appleScriptOnly"),
-      QT_TRANSLATE_NOOP("SettingsValues", "percentage"),
+const std::map<std::string_view, const char*>& settingsValueTexts() {
+  static const std::map<std::string_view, const char*> texts{
+      {"monochrome", QT_TRANSLATE_NOOP("SettingsValues", "monochrome")},
+      {"colorful", QT_TRANSLATE_NOOP("SettingsValues", "colorful")},
+      {"hover", QT_TRANSLATE_NOOP("SettingsValues", "hover")},
+      {"click", QT_TRANSLATE_NOOP("SettingsValues", "click")},
+      {"pressAndHold", QT_TRANSLATE_NOOP("SettingsValues", "press and hold")},
+      {"short", QT_TRANSLATE_NOOP("SettingsValues", "short")},
+      {"medium", QT_TRANSLATE_NOOP("SettingsValues", "medium")},
+      {"long", QT_TRANSLATE_NOOP("SettingsValues", "long")},
+      {"white", QT_TRANSLATE_NOOP("SettingsValues", "white")},
+      {"countdown", QT_TRANSLATE_NOOP("SettingsValues", "countdown")},
+      {"startTime", QT_TRANSLATE_NOOP("SettingsValues", "start time")},
+      {"both", QT_TRANSLATE_NOOP("SettingsValues", "both")},
+      {"automobile", QT_TRANSLATE_NOOP("SettingsValues", "automobile")},
+      {"walking", QT_TRANSLATE_NOOP("SettingsValues", "walking")},
+      {"transit", QT_TRANSLATE_NOOP("SettingsValues", "transit")},
+      {"link", QT_TRANSLATE_NOOP("SettingsValues", "link")},
+      {"copy", QT_TRANSLATE_NOOP("SettingsValues", "copy")},
+      {"continuous", QT_TRANSLATE_NOOP("SettingsValues", "continuous")},
+      {"segmented", QT_TRANSLATE_NOOP("SettingsValues", "segmented")},
+      {"ring", QT_TRANSLATE_NOOP("SettingsValues", "ring")},
+      {"level", QT_TRANSLATE_NOOP("SettingsValues", "level")},
+      {"accent", QT_TRANSLATE_NOOP("SettingsValues", "accent")},
+      {"clear", QT_TRANSLATE_NOOP("SettingsValues", "clear")},
+      {"lightFrost", QT_TRANSLATE_NOOP("SettingsValues", "light frost")},
+      {"frosted", QT_TRANSLATE_NOOP("SettingsValues", "frosted")},
+      {"untilResumed", QT_TRANSLATE_NOOP("SettingsValues", "until resumed")},
+      {"standard", QT_TRANSLATE_NOOP("SettingsValues", "standard")},
+      {"artwork", QT_TRANSLATE_NOOP("SettingsValues", "artwork")},
+      {"automatic", QT_TRANSLATE_NOOP("SettingsValues", "automatic")},
+      {"appleScriptOnly", QT_TRANSLATE_NOOP("SettingsValues", "AppleScript only")},
+      {"percentage", QT_TRANSLATE_NOOP("SettingsValues", "percentage")},
   };
   return texts;
 }

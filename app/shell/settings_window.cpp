@@ -18,6 +18,7 @@
 #include "base/json_reader.h"
 #include "base/json_writer.h"
 #include "qt_text.h"
+#include "shell/settings_key_texts.h"
 #include "shell/settings_pages.h"
 
 namespace tindra {
@@ -194,8 +195,9 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
       // Each choice in the desktop's language, its stored value beside it.
       auto* box = new QComboBox;
       for (std::string_view c : key.cases) {
-        box->addItem(QCoreApplication::translate("SettingsValues", std::string(c).c_str()),
-                     toQString(c));
+        const auto words = settingsValueTexts().find(c);
+        const std::string text(words != settingsValueTexts().end() ? words->second : c);
+        box->addItem(QCoreApplication::translate("SettingsValues", text.c_str()), toQString(c));
       }
       connect(box, &QComboBox::activated, this, [this, name, box](int index) {
         write(name, box->itemData(index).toString().toStdString());

@@ -786,10 +786,6 @@
         <translation>ved klikk</translation>
     </message>
     <message>
-        <source>pressAndHold</source>
-        <translation>trykk og hold</translation>
-    </message>
-    <message>
         <source>short</source>
         <translation>kort</translation>
     </message>
@@ -808,10 +804,6 @@
     <message>
         <source>countdown</source>
         <translation>nedtelling</translation>
-    </message>
-    <message>
-        <source>startTime</source>
-        <translation>starttid</translation>
     </message>
     <message>
         <source>both</source>
@@ -862,16 +854,8 @@
         <translation>klar</translation>
     </message>
     <message>
-        <source>lightFrost</source>
-        <translation>lett frostet</translation>
-    </message>
-    <message>
         <source>frosted</source>
         <translation>frostet</translation>
-    </message>
-    <message>
-        <source>untilResumed</source>
-        <translation>til avspillingen fortsetter</translation>
     </message>
     <message>
         <source>standard</source>
@@ -886,12 +870,28 @@
         <translation>automatisk</translation>
     </message>
     <message>
-        <source>appleScriptOnly</source>
-        <translation>bare AppleScript</translation>
-    </message>
-    <message>
         <source>percentage</source>
         <translation>prosent</translation>
+    </message>
+    <message>
+        <source>press and hold</source>
+        <translation>trykk og hold</translation>
+    </message>
+    <message>
+        <source>start time</source>
+        <translation>starttid</translation>
+    </message>
+    <message>
+        <source>light frost</source>
+        <translation>lett frostet</translation>
+    </message>
+    <message>
+        <source>until resumed</source>
+        <translation>til avspillingen fortsetter</translation>
+    </message>
+    <message>
+        <source>AppleScript only</source>
+        <translation>bare AppleScript</translation>
     </message>
 </context>
 <context>
