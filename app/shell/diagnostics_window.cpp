@@ -33,11 +33,15 @@ DiagnosticsWindow::DiagnosticsWindow(DiagnosticsLog& log, std::vector<Check> che
     buttons->addWidget(button);
   }
   buttons->addStretch();
-  auto* copy = new QPushButton(tr("Copy report"));
-  connect(copy, &QPushButton::clicked, this,
-          [&log] { QGuiApplication::clipboard()->setText(diagnosticsReport(log)); });
-  buttons->addWidget(copy);
+  buttons->addWidget(copyReportButton(log));
   layout->addLayout(buttons);
+}
+
+QPushButton* DiagnosticsWindow::copyReportButton(const DiagnosticsLog& log) {
+  auto* copy = new QPushButton(tr("Copy report"));
+  connect(copy, &QPushButton::clicked, copy,
+          [&log] { QGuiApplication::clipboard()->setText(diagnosticsReport(log)); });
+  return copy;
 }
 
 }  // namespace tindra

@@ -10,6 +10,8 @@
 
 #include "diagnostics/diagnostics_log.h"
 
+class QPushButton;
+
 namespace tindra {
 
 class DiagnosticsWindow : public QWidget {
@@ -25,6 +27,9 @@ class DiagnosticsWindow : public QWidget {
   DiagnosticsWindow(DiagnosticsLog& log, std::vector<Check> checks, QWidget* parent = nullptr);
 
   QString text() const { return view_.toPlainText(); }
+
+  // "Copy report": puts the report of `log` on the clipboard, for a bug report.
+  static QPushButton* copyReportButton(const DiagnosticsLog& log);
 
  private:
   QPlainTextEdit view_;

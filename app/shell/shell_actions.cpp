@@ -1,17 +1,15 @@
 #include "shell/shell_actions.h"
 
-#include <QClipboard>
 #include <QCoreApplication>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "diagnostics/diagnostics_report.h"
 #include "logging_categories.h"
 #include "settings/settings_keys.h"
 #include "shell/calendar_list_editor.h"
+#include "shell/diagnostics_window.h"
 #include "shell/settings_pages.h"
 #include "shell/settings_window.h"
 #include "shell/weather_settings_editor.h"
@@ -58,11 +56,8 @@ QWidget* ShellActions::diagnosticsPanel() {
   auto* buttons = new QHBoxLayout;
   auto* open = new QPushButton(tr("Diagnostics…"));
   connect(open, &QPushButton::clicked, this, &ShellActions::openDiagnostics);
-  auto* copy = new QPushButton(tr("Copy report"));
-  connect(copy, &QPushButton::clicked, this,
-          [this] { QGuiApplication::clipboard()->setText(diagnosticsReport(diagnostics_)); });
   buttons->addWidget(open);
-  buttons->addWidget(copy);
+  buttons->addWidget(DiagnosticsWindow::copyReportButton(diagnostics_));
   buttons->addStretch();
   layout->addLayout(buttons);
   return panel;
