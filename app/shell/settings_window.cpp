@@ -81,7 +81,9 @@ void SettingsWindow::addPage(const QString& title) {
   page.top = new QVBoxLayout;
   column->addLayout(page.top);
   page.grid = new QGridLayout;
-  page.grid->setColumnStretch(1, 1);
+  // The words get more room than the controls, which need little.
+  page.grid->setColumnStretch(0, 3);
+  page.grid->setColumnStretch(1, 2);
   column->addLayout(page.grid, 1);
   if (!settingsPages()[static_cast<std::size_t>(index)].keys.empty()) {
     auto* resetAll = new QPushButton(tr("Reset Page"));
@@ -130,13 +132,15 @@ void SettingsWindow::addRow(int page, int line, const settings::SettingsKeyDescr
   const char* here = settingsDescriptionHere(key.name);
   const QString description = QCoreApplication::translate(
       "SettingsKeys", here != nullptr ? here : std::string(key.description).c_str());
-  // The key's name, and below it in grey what it is for.
+  // What it is for, in words, and below it in grey the key's name, which the preferences file,
+  // scripts and bug reports use.
   auto* label =
       new QLabel(QStringLiteral("%1<br><small style=\"color: gray\">%2</small>")
-                     .arg(toQString(key.name).toHtmlEscaped(), description.toHtmlEscaped()));
+                     .arg(description.toHtmlEscaped(), toQString(key.name).toHtmlEscaped()));
   label->setWordWrap(true);
-  label->setToolTip(description);
+  label->setToolTip(toQString(key.name));
   row.label = label;
+  row.about = toQString(key.name) + QLatin1Char(' ') + description;
   auto* reset = new QToolButton;
   reset->setText(tr("Reset"));
   reset->setToolTip(tr("Use the default value"));
@@ -303,10 +307,9 @@ void SettingsWindow::filter(const QString& text) {
   const QStringList words = text.split(QLatin1Char(' '), Qt::SkipEmptyParts);
   std::vector<const Row*> firstFound(pages_.size(), nullptr);
   for (const auto& [name, row] : rows_) {
-    const QString about = toQString(name) + QLatin1Char(' ') + row.label->toolTip();
     const bool match =
         (!hidden_ || !hidden_(name)) && std::ranges::all_of(words, [&](const QString& word) {
-          return about.contains(word, Qt::CaseInsensitive);
+          return row.about.contains(word, Qt::CaseInsensitive);
         });
     row.label->setVisible(match);
     row.editor->setVisible(match);

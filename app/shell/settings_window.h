@@ -65,6 +65,7 @@ class SettingsWindow : public QWidget {
     QWidget* reset = nullptr;
     QWidget* extra = nullptr;
     int line = 0;
+    QString about;  // what the search looks in: the key's name and its description
     std::function<void(const JSONValue&)> show;  // puts a value in the editor
   };
 
