@@ -105,6 +105,10 @@ const char* settingsDescriptionHere(std::string_view key) {
       {"focusFilterState",
        QT_TRANSLATE_NOOP("SettingsKeys",
                          "The Focus filter's last state, as `tindra focus` wrote it.")},
+      {"pinnedWidgets",
+       QT_TRANSLATE_NOOP("SettingsKeys",
+                         "Sections pinned in the opened notch: tick them and drag them into "
+                         "order. With none ticked, every section with something to show appears.")},
   };
   const auto found = here.find(key);
   return found == here.end() ? nullptr : found->second;

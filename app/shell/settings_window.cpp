@@ -18,6 +18,8 @@
 #include "base/json_reader.h"
 #include "base/json_writer.h"
 #include "qt_text.h"
+#include "settings/settings_keys.h"
+#include "shell/pinned_sections_editor.h"
 #include "shell/settings_key_texts.h"
 #include "shell/settings_pages.h"
 
@@ -233,6 +235,26 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
       break;
     }
     case Type::list:
+      if (key.name == settings::pinnedWidgets.name) {
+        auto* list = new PinnedSectionsEditor;
+        connect(list, &PinnedSectionsEditor::edited, this, [this, list, name] {
+          JSONValue::Array names;
+          for (const std::string& section : list->pinned()) names.emplace_back(section);
+          write(name, JSONValue(std::move(names)));
+        });
+        row.editor = list;
+        row.show = [list](const JSONValue& v) {
+          std::vector<std::string> names;
+          if (const JSONValue::Array* array = v.asArray()) {
+            for (const JSONValue& item : *array) {
+              if (item.asString() != nullptr) names.push_back(*item.asString());
+            }
+          }
+          list->setPinned(names);
+        };
+        break;
+      }
+      [[fallthrough]];
     case Type::dictionary: {
       // Lists and dictionaries are edited as JSON text; text that does not read is not written.
       auto* edit = new QLineEdit;

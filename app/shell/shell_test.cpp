@@ -30,6 +30,7 @@
 #include "settings/settings_store.h"
 #include "shell/autostart_entry.h"
 #include "shell/onboarding_window.h"
+#include "shell/pinned_sections_editor.h"
 #include "shell/settings_key_texts.h"
 #include "shell/settings_pages.h"
 #include "shell/settings_window.h"
@@ -183,6 +184,23 @@ TEST_F(SettingsWindowTest, EveryKeyIsOnExactlyOnePage) {
   EXPECT_EQ(settingsPages().size(), 10u);
 }
 
+// Pinned sections are ticked and dragged into order; what the file says shows the same way.
+TEST_F(SettingsWindowTest, PinnedSectionsAreTickedAndOrdered) {
+  SettingsWindow window(store_);
+  auto* list = qobject_cast<PinnedSectionsEditor*>(window.editorFor(settings::pinnedWidgets.name));
+  ASSERT_NE(list, nullptr);
+  ASSERT_EQ(list->count(), 5);                // the five that stay while the notch is open
+  list->item(1)->setCheckState(Qt::Checked);  // calendar
+  list->item(0)->setCheckState(Qt::Checked);  // media
+  EXPECT_EQ(store_.read(settings::pinnedWidgets), (std::vector<std::string>{"media", "calendar"}));
+  list->model()->moveRow(QModelIndex(), 1, QModelIndex(), 0);
+  EXPECT_EQ(store_.read(settings::pinnedWidgets), (std::vector<std::string>{"calendar", "media"}));
+
+  ASSERT_TRUE(store_.write(settings::pinnedWidgets, std::vector<std::string>{"weather", "hud"}));
+  EXPECT_EQ(list->pinned(), std::vector<std::string>{"weather"});
+  EXPECT_EQ(list->item(0)->data(Qt::UserRole).toString(), "weather");
+}
+
 TEST_F(SettingsWindowTest, EveryDescriptionAndChoiceIsMarkedForTranslation) {
   std::set<std::string_view> marked(settingsKeyTexts().begin(), settingsKeyTexts().end());
   for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
@@ -300,15 +318,16 @@ TEST_F(SettingsWindowTest, EditsGoThroughTheStoreAndOutsideChangesShow) {
   EXPECT_EQ(store_.read(settings::notchOpeningMode), NotchOpeningMode::click);
 
   // A list edited as JSON text: only a JSON array is written.
-  auto* pinned = qobject_cast<QLineEdit*>(window.editorFor(settings::pinnedWidgets.name));
-  ASSERT_NE(pinned, nullptr);
-  EXPECT_EQ(pinned->text(), QStringLiteral("[]"));
-  pinned->setText(QStringLiteral("{\"not\": \"a list\"}"));
-  emit pinned->editingFinished();
-  EXPECT_EQ(store_.stored(settings::pinnedWidgets.name), nullptr);
-  pinned->setText(QStringLiteral("[\"weather\", \"battery\"]"));
-  emit pinned->editingFinished();
-  EXPECT_EQ(store_.read(settings::pinnedWidgets), (std::vector<std::string>{"weather", "battery"}));
+  const auto list = settings::calendarExcludedIdentifiers;
+  auto* excluded = qobject_cast<QLineEdit*>(window.editorFor(list.name));
+  ASSERT_NE(excluded, nullptr);
+  EXPECT_EQ(excluded->text(), QStringLiteral("[]"));
+  excluded->setText(QStringLiteral("{\"not\": \"a list\"}"));
+  emit excluded->editingFinished();
+  EXPECT_EQ(store_.stored(list.name), nullptr);
+  excluded->setText(QStringLiteral("[\"work\", \"home\"]"));
+  emit excluded->editingFinished();
+  EXPECT_EQ(store_.read(list), (std::vector<std::string>{"work", "home"}));
 }
 
 TEST(SettingsWindowFailureTest, AFailedWriteIsSaidUntilAWriteSucceeds) {

@@ -727,6 +727,10 @@
         <source>The Focus filter&apos;s last state, as `tindra focus` wrote it.</source>
         <translation>Fokusfilterets siste tilstand, slik `tindra focus` skrev den.</translation>
     </message>
+    <message>
+        <source>Sections pinned in the opened notch: tick them and drag them into order. With none ticked, every section with something to show appears.</source>
+        <translation>Deler som er festet i det åpne hakket: kryss dem av og dra dem i rekkefølge. Med ingen avkrysset vises alle deler som har noe å vise.</translation>
+    </message>
 </context>
 <context>
     <name>SettingsNotes</name>
@@ -1422,6 +1426,33 @@
     </message>
 </context>
 <context>
+    <name>tindra::PinnedSectionsEditor</name>
+    <message>
+        <source>Now Playing</source>
+        <translation>Spilles nå</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Vær</translation>
+    </message>
+    <message>
+        <source>File Tray</source>
+        <translation>Filbrett</translation>
+    </message>
+    <message>
+        <source>Batteries</source>
+        <translation>Batterier</translation>
+    </message>
+    <message>
+        <source>Tick the sections to pin and drag them into order</source>
+        <translation>Kryss av delene som skal festes, og dra dem i rekkefølge</translation>
+    </message>
+</context>
+<context>
     <name>tindra::PulseProcessTapSession</name>
     <message>
         <source>no sound server to listen to</source>
@@ -1530,10 +1561,6 @@
     <message>
         <source>Each service Tindra uses says here whether it answers, and every change since Tindra started is in the log. The report has the versions, the session and the log, for a bug report; it names none of your files, events or messages.</source>
         <translation>Her ser du om hver tjeneste Tindra bruker svarer, og hver endring siden Tindra startet står i loggen. Rapporten inneholder versjonene, økten og loggen, til en feilrapport; den nevner ingen av filene, hendelsene eller meldingene dine.</translation>
-    </message>
-    <message>
-        <source>Copy report</source>
-        <translation>Kopier rapport</translation>
     </message>
 </context>
 <context>
