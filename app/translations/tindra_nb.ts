@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>Sections pinned in the opened notch: tick them and drag them into order. With none ticked, every section with something to show appears.</source>
-        <translation>Deler som er festet i det åpne hakket: kryss dem av og dra dem i rekkefølge. Med ingen avkrysset vises alle deler som har noe å vise.</translation>
+        <translation>Seksjoner som er festet i det åpne hakket: kryss dem av og dra dem i rekkefølge. Med ingen avkrysset vises alle seksjoner som har noe å vise.</translation>
     </message>
 </context>
 <context>
@@ -1449,7 +1449,7 @@
     </message>
     <message>
         <source>Tick the sections to pin and drag them into order</source>
-        <translation>Kryss av delene som skal festes, og dra dem i rekkefølge</translation>
+        <translation>Kryss av seksjonene som skal festes, og dra dem i rekkefølge</translation>
     </message>
 </context>
 <context>
