@@ -85,6 +85,8 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, No
   Q_UNUSED(typesKnown);
   engine()->addImportPath(QStringLiteral("qrc:/"));
   content_.appearance().attach(*engine());
+  connect(&content_.appearance(), &NotchAppearance::changed, this, &NotchWindow::followGlass);
+  followGlass();
   setInitialProperties({{QStringLiteral("notch"), QVariant::fromValue(this)},
                         {QStringLiteral("content"), QVariant::fromValue(&content_)}});
   setSource(QUrl(QStringLiteral("qrc:/Tindra/qml/Notch.qml")));
@@ -104,6 +106,14 @@ void NotchWindow::place(const NotchGeometry& geometry, const ScreenCoordinates& 
   setGeometry(layout_.windowRect);
   emit placementChanged();
   updateShape();
+}
+
+// Glass is blurred behind where the compositor can; nothing is asked of it until glass is on.
+void NotchWindow::followGlass() {
+  const bool glass = content_.appearance().glass();
+  if (glass == blurBehind_) return;
+  blurBehind_ = glass;
+  setBlurBehind(*this, glass);
 }
 
 void NotchWindow::readSettings() {

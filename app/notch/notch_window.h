@@ -92,6 +92,7 @@ class NotchWindow : public QQuickView {
 
  private:
   void readSettings();
+  void followGlass();
   void sample();
   void showPresentation();
   void animate(QVariantAnimation& animation, double from, double to, int ms,
@@ -117,6 +118,7 @@ class NotchWindow : public QQuickView {
   SwipeRecognizer swipes_;
   bool swipeGestures_ = true;
   bool mouseDragGestures_ = false;
+  bool blurBehind_ = false;
   QPointer<QMenu> contextMenu_;
 
   bool animated_ = true;

@@ -3,6 +3,7 @@
 #include "notch/notch_window.h"
 
 #include <gtest/gtest.h>
+#include <xcb/xcb.h>
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -13,6 +14,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 #include <QWidget>
+#include <cstring>
 
 #include "activity_center.h"
 #include "notch/notch_screen_manager.h"
@@ -138,6 +140,20 @@ TEST(NotchWindowOnDisplayTest, DrawnWhereItsGeometrySaysClosedAndOpened) {
   expectDrawnAt(grabDisplay(), closed.adjusted(-ears, 0, ears, 0), "closed again");
 }
 
+// Whether the compositor is asked to blur behind `window` (KWin's property).
+bool blursBehind(QWindow& window) {
+  xcb_connection_t* x = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
+  constexpr const char* name = "_KDE_NET_WM_BLUR_BEHIND_REGION";
+  xcb_intern_atom_reply_t* atom =
+      xcb_intern_atom_reply(x, xcb_intern_atom(x, 0, std::strlen(name), name), nullptr);
+  xcb_get_property_reply_t* property = xcb_get_property_reply(
+      x, xcb_get_property(x, 0, window.winId(), atom->atom, XCB_ATOM_CARDINAL, 0, 16), nullptr);
+  const bool set = property != nullptr && property->type == XCB_ATOM_CARDINAL;
+  std::free(property);
+  std::free(atom);
+  return set;
+}
+
 // The aura takes the activity's colour just inside the outline, and glass lightens the opened
 // notch; each only while its setting is on.
 TEST(NotchWindowOnDisplayTest, TheAuraAndTheGlassFollowTheirSettings) {
@@ -170,10 +186,13 @@ TEST(NotchWindowOnDisplayTest, TheAuraAndTheGlassFollowTheirSettings) {
   ASSERT_TRUE(settings.write(settings::auraGlowWhenOpen, false));
   ASSERT_TRUE(settings.write(settings::glassBackground, true));
   QTest::qWait(100);
+  EXPECT_TRUE(blursBehind(window));
   const QImage glass = grabDisplay();
   keepScreenshot(glass.copy(top), QStringLiteral("notch-glass"));
   EXPECT_FALSE(isAccent(glass.pixelColor(edge())));
   EXPECT_GT(qGray(glass.pixel(inside)), 10);
+  ASSERT_TRUE(settings.write(settings::glassBackground, false));
+  EXPECT_FALSE(blursBehind(window));
 }
 
 TEST(NotchWindowOnDisplayTest, OpensWhenThePointerRestsAndClosesWhenItLeaves) {

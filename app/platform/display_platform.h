@@ -3,6 +3,8 @@
 
 #include <Qt>
 
+class QWindow;
+
 namespace tindra {
 
 // Picks the Qt platform plugin the notch needs when the user has not chosen one (on Linux:
@@ -15,5 +17,10 @@ bool hasGraphicalSession();
 // Flags for the notch window: no frame, above other windows, never focused, not in the task bar,
 // and free to sit over the desktop's top panel.
 Qt::WindowFlags notchWindowFlags();
+
+// Asks the compositor to blur what lies behind `window` where it is translucent, or to stop. On
+// X11 this is KWin's _KDE_NET_WM_BLUR_BEHIND_REGION (also read by picom); compositors that do not
+// know it draw the window unblurred.
+void setBlurBehind(QWindow& window, bool on);
 
 }  // namespace tindra

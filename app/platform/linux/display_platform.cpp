@@ -1,6 +1,13 @@
 #include "platform/display_platform.h"
 
+#include <xcb/xcb.h>
+
+#include <QGuiApplication>
+#include <QWindow>
 #include <cstdlib>
+#include <cstring>
+
+#include "platform/linux/xcb_reply.h"
 
 namespace tindra {
 
@@ -23,6 +30,25 @@ Qt::WindowFlags notchWindowFlags() {
   // such a window is never focused and never listed in a task bar.
   return Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::WindowDoesNotAcceptFocus |
          Qt::X11BypassWindowManagerHint | Qt::Tool;
+}
+
+void setBlurBehind(QWindow& window, bool on) {
+  auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+  if (x11 == nullptr) return;
+  xcb_connection_t* connection = x11->connection();
+  constexpr const char* name = "_KDE_NET_WM_BLUR_BEHIND_REGION";
+  const XcbReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
+      connection, xcb_intern_atom(connection, 0, std::strlen(name), name), nullptr));
+  if (!atom) return;
+  const auto id = static_cast<xcb_window_t>(window.winId());
+  // An empty region means the whole window; its shape keeps the blur to the notch.
+  if (on) {
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, id, atom->atom, XCB_ATOM_CARDINAL, 32, 0,
+                        nullptr);
+  } else {
+    xcb_delete_property(connection, id, atom->atom);
+  }
+  xcb_flush(connection);
 }
 
 }  // namespace tindra
