@@ -10,6 +10,7 @@
 #include <QImage>
 #include <QMimeData>
 #include <QPainter>
+#include <QQuickItem>
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
@@ -20,6 +21,7 @@
 #include "notch/notch_screen_manager.h"
 #include "platform/screen_source_factory.h"
 #include "settings/settings_keys.h"
+#include "testing/sample_view_models.h"
 #include "testing/view_shot.h"
 #include "views/notch_content.h"
 
@@ -193,6 +195,45 @@ TEST(NotchWindowOnDisplayTest, TheAuraAndTheGlassFollowTheirSettings) {
   EXPECT_GT(qGray(glass.pixel(inside)), 10);
   ASSERT_TRUE(settings.write(settings::glassBackground, false));
   EXPECT_FALSE(blursBehind(window));
+}
+
+// The sections the opened notch draws, by their views' file names: every one of them whole.
+QStringList drawnSections(NotchWindow& window) {
+  auto* row = window.rootObject()->findChild<QQuickItem*>(QStringLiteral("sectionRow"));
+  QStringList drawn;
+  for (QQuickItem* child : row->childItems()) {
+    const QUrl source = child->property("source").toUrl();
+    if (!child->isVisible() || source.isEmpty()) continue;
+    EXPECT_LE(child->x() + child->width(), row->width()) << source.toString().toStdString();
+    drawn << source.fileName();
+  }
+  return drawn;
+}
+
+// More sections than the panel holds: those that do not fit whole are left out, and the one of
+// the activity on show gets its room first.
+TEST(NotchWindowOnDisplayTest, SectionsThatDoNotFitWholeAreLeftOutTheActivitysFirst) {
+  Displays displays;
+  SampleViewModels samples;
+  for (const auto& [provider, model] : samples.byProvider()) {
+    if (provider != "hud" && provider != "banners") displays.views_.setModel(provider, model);
+  }
+  displays.content_.refresh();
+  NotchWindow& window = *displays.manager_->windows().front();
+  window.open();
+
+  displays.activities_.offer(ActivityEvent::began(ActivityKind::nowPlaying));
+  QTest::qWait(150);
+  const QStringList playing = drawnSections(window);
+  EXPECT_TRUE(playing.contains("MediaPanel.qml")) << playing.join(' ').toStdString();
+  EXPECT_LT(playing.size(), 6);  // six have something to show; they cannot all fit
+
+  displays.activities_.offer(ActivityEvent::began(ActivityKind::upcomingEvent));
+  QTest::qWait(150);
+  const QStringList meeting = drawnSections(window);
+  EXPECT_TRUE(meeting.contains("CalendarPanel.qml")) << meeting.join(' ').toStdString();
+  keepScreenshot(grabDisplay().copy(0, 0, grabDisplay().width(), 220),
+                 QStringLiteral("notch-sections"));
 }
 
 TEST(NotchWindowOnDisplayTest, OpensWhenThePointerRestsAndClosesWhenItLeaves) {

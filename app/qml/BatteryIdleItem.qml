@@ -6,7 +6,8 @@ Row {
 
     property var model
 
-    visible: root.model !== undefined && root.model.available
+    readonly property bool shown: root.model !== undefined && root.model.available
+    visible: shown
     spacing: 6
 
     BatteryGlyph {

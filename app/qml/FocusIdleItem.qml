@@ -7,7 +7,8 @@ Row {
 
     property var model
 
-    visible: root.model !== undefined && root.model.indicator
+    readonly property bool shown: root.model !== undefined && root.model.indicator
+    visible: shown
     spacing: 5
 
     FocusGlyph {

@@ -2,7 +2,7 @@ import QtQuick
 import Tindra
 
 // The opened notch at rest: the time and date, the current activity named above them, and the
-// small status items of the providers (the battery) below.
+// small status items of the providers (battery, weather, Focus) below.
 Column {
     id: root
 
@@ -30,13 +30,18 @@ Column {
         color: "#a1a1a6"
         font.pixelSize: 12
     }
-    Row {
+    // Wrapped onto a second line rather than running into the section beside it.
+    Flow {
+        width: root.width
         topPadding: 8
         spacing: 10
         Repeater {
             model: root.content.idleItems
             delegate: Loader {
                 required property var modelData
+                // An item with nothing to show takes no room (its own `shown`: an item inside a
+                // hidden loader is never visible itself).
+                visible: item !== null && item.shown
                 Component.onCompleted: setSource(modelData.source, { model: modelData.model })
             }
         }

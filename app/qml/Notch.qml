@@ -117,6 +117,7 @@ Item {
 
         Row {
             id: row
+            objectName: "sectionRow"
             anchors.fill: parent
             anchors.margins: 14
             anchors.topMargin: 6

@@ -7,7 +7,8 @@ Row {
 
     property var model
 
-    visible: root.model !== undefined && root.model.available
+    readonly property bool shown: root.model !== undefined && root.model.available
+    visible: shown
     spacing: 4
 
     WeatherSymbol {

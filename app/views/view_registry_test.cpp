@@ -7,15 +7,7 @@
 #include <memory>
 
 #include "activity/activity_kind.h"
-#include "providers/accessory_view_model.h"
-#include "providers/banner_view_model.h"
-#include "providers/battery_view_model.h"
-#include "providers/calendar_view_model.h"
-#include "providers/file_tray_view_model.h"
-#include "providers/focus_view_model.h"
-#include "providers/hud_view_model.h"
-#include "providers/now_playing_view_model.h"
-#include "providers/weather_view_model.h"
+#include "testing/sample_view_models.h"
 
 void qml_register_types_Tindra();
 
@@ -32,62 +24,8 @@ TEST(ViewRegistryTest, EveryViewLoadsOnItsProvidersModelWithoutWarnings) {
   QObject::connect(&engine, &QQmlEngine::warnings,
                    [&](const QList<QQmlError>& more) { warnings += more; });
 
-  NowPlayingViewModel media([](const NowPlayingCommand&) {});
-  BatteryViewModel battery;
-  AccessoryViewModel accessories;
-  BluetoothAccessory buds;
-  buds.name = "Buds";
-  buds.kind = BluetoothAccessoryKind::airPodsPro;
-  buds.battery = {80, 70, 40, std::nullopt};
-  accessories.setAccessories({buds});
-  accessories.setNotice({AccessoryNotice::Kind::connected, buds, std::nullopt});
-  HudViewModel hud;
-  hud.show(HUDState(HUDKind::volume, 0.5), HUDBarMotion::settle(), HUDBarStyle::ring,
-           HUDTint::level);
-  CalendarViewModel calendar([](const QString&) { return false; });
-  CalendarViewModel::State meeting;
-  meeting.enabled = meeting.featured = true;
-  meeting.title = "Review";
-  meeting.earText = "8 min";
-  meeting.joinService = "Zoom";
-  meeting.agenda = {QVariantMap{{"id", "a"},
-                                {"title", "Review"},
-                                {"time", "10:08–10:38"},
-                                {"status", "upcoming"},
-                                {"color", QColor(Qt::blue)},
-                                {"joinService", "Zoom"}}};
-  meeting.reminders = {
-      QVariantMap{{"title", "Slides"}, {"due", ""}, {"done", false}, {"color", QColor(Qt::blue)}}};
-  calendar.setState(meeting);
-  WeatherViewModel weather;
-  weather.setState({true, true, "7 °C", "Partly cloudy", "cloud.sun.rain.fill",
-                    "10 % chance of precipitation", "High 9 °C · Low 2 °C", "Sunset 16:42",
-                    "GeoClue", ""});
-  FocusViewModel focus;
-  focus.set(FocusPresentation::Shown{"Deep Work", FocusSymbol::book},
-            FocusPresentation::Shown{"Deep Work", FocusSymbol::book});
-  BannerViewModel banners([] {});
-  banners.setMessage(BannerViewModel::Message{"Chat", "Ana", "Hi", false, "Open Chat"});
-  banners.setRinging(true, "Phone");
-  FileTrayViewModel files({[](const QString&) {}, [](const QString&) {}, [] {}, [] {}});
-  files.set(true,
-            {QVariantMap{{"id", "1"},
-                         {"name", "a.txt"},
-                         {"url", "file:///a.txt"},
-                         {"missing", false},
-                         {"copy", false}},
-             QVariantMap{{"id", "2"},
-                         {"name", "b.txt"},
-                         {"url", "file:///b.txt"},
-                         {"missing", true},
-                         {"copy", true}}},
-            "Already in the tray: a.txt.");
-  files.setProgress(true, 0.4, "Copying 1 item into the tray…");
-  const std::map<QString, QObject*> models{{"media", &media},       {"battery", &battery},
-                                           {"hud", &hud},           {"accessories", &accessories},
-                                           {"calendar", &calendar}, {"weather", &weather},
-                                           {"focus", &focus},       {"banners", &banners},
-                                           {"files", &files}};
+  SampleViewModels samples;
+  const std::map<QString, QObject*> models = samples.byProvider();
 
   std::vector<ViewRegistry::View> views = ViewRegistry::idleItems();
   for (const auto& section : ViewRegistry::sections()) {
