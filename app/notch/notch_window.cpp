@@ -210,7 +210,9 @@ void NotchWindow::handleWheel(const QWheelEvent& wheel) {
   if (wheel.phase() == Qt::ScrollEnd || wheel.phase() == Qt::ScrollBegin) swipes_.end();
   const QPointF motion =
       wheel.pixelDelta().isNull() ? QPointF(wheel.angleDelta()) / 2 : QPointF(wheel.pixelDelta());
-  if (auto direction = swipes_.scroll(motion.x(), motion.y(), activities_.now())) {
+  // The device's own time, so that a busy moment here neither joins two strokes nor splits one.
+  const double now = wheel.timestamp() != 0 ? wheel.timestamp() / 1000.0 : activities_.now();
+  if (auto direction = swipes_.scroll(motion.x(), motion.y(), now)) {
     swipe(*direction);
   }
 }

@@ -70,7 +70,7 @@ TEST_F(AccessoryProviderDesktopTest, ChoosingTheHeadsetAsOutputIsToldButNotRight
                              output);
   provider.start();
   ASSERT_TRUE(waitFor([&] { return output->reading().has_value(); }));
-  QTest::qWait(300);  // BlueZ's first answer
+  ASSERT_TRUE(waitFor([&] { return provider.backend().ready(); }));  // BlueZ has answered
   AccessoryViewModel& view = *provider.viewModel();
   QSignalSpy notices(&view, &AccessoryViewModel::noticeChanged);
 
