@@ -114,7 +114,8 @@ bool contains(const std::vector<std::uint32_t>& list, std::uint32_t value) {
 
 }  // namespace
 
-X11VisibilitySource::Window X11VisibilitySource::read(xcb_window_t window) {
+X11VisibilitySource::Window X11VisibilitySource::read(xcb_window_t window,
+                                                      std::span<const ScreenScale> screens) {
   Window read;
   const std::vector<std::uint32_t> pid =
       items(connection_, window, atoms_->wmPid, XCB_ATOM_CARDINAL);
@@ -139,7 +140,7 @@ X11VisibilitySource::Window X11VisibilitySource::read(xcb_window_t window) {
     read.frame = logicalFrame(
         Rect{static_cast<double>(origin->dst_x), static_cast<double>(origin->dst_y),
              static_cast<double>(geometry->width), static_cast<double>(geometry->height)},
-        screens_);
+        screens);
   }
   return read;
 }
@@ -184,12 +185,12 @@ void X11VisibilitySource::follow(xcb_window_t active) {
 }
 
 void X11VisibilitySource::reread() {
-  screens_.clear();
+  std::vector<ScreenScale> screens;
   for (const QScreen* screen : QGuiApplication::screens()) {
     const QRect frame = screen->geometry();
-    screens_.push_back({{static_cast<double>(frame.x()), static_cast<double>(frame.y())},
-                        {static_cast<double>(frame.width()), static_cast<double>(frame.height())},
-                        screen->devicePixelRatio()});
+    screens.push_back({{static_cast<double>(frame.x()), static_cast<double>(frame.y())},
+                       {static_cast<double>(frame.width()), static_cast<double>(frame.height())},
+                       screen->devicePixelRatio()});
   }
   const std::vector<std::uint32_t> active =
       items(connection_, root_, atoms_->activeWindow, XCB_ATOM_WINDOW);
@@ -200,7 +201,7 @@ void X11VisibilitySource::reread() {
   std::optional<FrontmostApp> frontmost;
   for (const std::uint32_t window :
        items(connection_, root_, atoms_->clientListStacking, XCB_ATOM_WINDOW)) {
-    const Window seen = read(window);
+    const Window seen = read(window, screens);
     if (seen.hidden) continue;
     windows.push_back({seen.owner, seen.dock ? 1 : 0, seen.frame, seen.alpha});
     if (window != activeWindow) continue;

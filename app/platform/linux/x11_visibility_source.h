@@ -56,7 +56,8 @@ class X11VisibilitySource final : public VisibilitySource {
   void readEvents();
   bool takeEvents();
   void reread();
-  Window read(xcb_window_t window);
+  // `screens` as they are now, to bring the frame to Qt's pixels.
+  Window read(xcb_window_t window, std::span<const ScreenScale> screens);
   Identity identify(xcb_window_t window);
   void follow(xcb_window_t active);
   void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
@@ -69,7 +70,6 @@ class X11VisibilitySource final : public VisibilitySource {
   xcb_window_t followed_ = 0;
   std::optional<FrontmostApp> frontmost_;
   std::vector<WindowSnapshot> windows_;
-  std::vector<ScreenScale> screens_;  // as of the last reread
   ServiceCheck check_;
 };
 
