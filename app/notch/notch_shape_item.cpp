@@ -44,30 +44,6 @@ void NotchShapeItem::paintAura(QPainter& painter, const QPainterPath& path) cons
   painter.restore();
 }
 
-void NotchShapeItem::setBody(const QRectF& body) {
-  if (body == shape_.body) return;
-  shape_.body = body;
-  changed();
-}
-
-void NotchShapeItem::setBottomRadius(double radius) {
-  if (radius == shape_.bottomRadius) return;
-  shape_.bottomRadius = radius;
-  changed();
-}
-
-void NotchShapeItem::setFlareRadius(double radius) {
-  if (radius == shape_.flareRadius) return;
-  shape_.flareRadius = radius;
-  changed();
-}
-
-void NotchShapeItem::setColor(const QColor& color) {
-  if (color == color_) return;
-  color_ = color;
-  changed();
-}
-
 void NotchShapeItem::changed() {
   emit shapeChanged();
   update();

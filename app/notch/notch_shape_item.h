@@ -29,13 +29,13 @@ class NotchShapeItem : public QQuickPaintedItem {
   void paint(QPainter* painter) override;
 
   QRectF body() const { return shape_.body; }
-  void setBody(const QRectF& body);
+  void setBody(const QRectF& body) { set(shape_.body, body); }
   double bottomRadius() const { return shape_.bottomRadius; }
-  void setBottomRadius(double radius);
+  void setBottomRadius(double radius) { set(shape_.bottomRadius, radius); }
   double flareRadius() const { return shape_.flareRadius; }
-  void setFlareRadius(double radius);
+  void setFlareRadius(double radius) { set(shape_.flareRadius, radius); }
   QColor color() const { return color_; }
-  void setColor(const QColor& color);
+  void setColor(const QColor& color) { set(color_, color); }
   void setRimColor(const QColor& color) { set(rimColor_, color); }
   void setRimWidth(double width) { set(rimWidth_, width); }
   void setGlowColor(const QColor& color) { set(glowColor_, color); }
