@@ -237,20 +237,13 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
     case Type::list:
       if (key.name == settings::pinnedWidgets.name) {
         auto* list = new PinnedSectionsEditor;
-        connect(list, &PinnedSectionsEditor::edited, this, [this, list, name] {
-          JSONValue::Array names;
-          for (const std::string& section : list->pinned()) names.emplace_back(section);
-          write(name, JSONValue(std::move(names)));
-        });
+        using Codec = SettingsCodec<std::vector<std::string>>;
+        connect(list, &PinnedSectionsEditor::edited, this,
+                [this, list, name] { write(name, Codec::encode(list->pinned())); });
         row.editor = list;
+        // A stored value of the wrong type counts as none, as it does for the notch.
         row.show = [list](const JSONValue& v) {
-          std::vector<std::string> names;
-          if (const JSONValue::Array* array = v.asArray()) {
-            for (const JSONValue& item : *array) {
-              if (item.asString() != nullptr) names.push_back(*item.asString());
-            }
-          }
-          list->setPinned(names);
+          list->setPinned(Codec::decode(v).value_or(std::vector<std::string>{}));
         };
         break;
       }
