@@ -1,7 +1,6 @@
 #include "shell/pinned_sections_editor.h"
 
 #include <QSignalBlocker>
-#include <algorithm>
 
 #include "views/view_registry.h"
 
@@ -9,16 +8,7 @@ namespace tindra {
 
 namespace {
 
-// The sections a person can pin: those that stay while the notch is open. A level or a banner
-// comes and goes by itself.
-QStringList pinnable() {
-  QStringList names;
-  for (const ViewRegistry::Section& section : ViewRegistry::sections()) {
-    if (!section.transient) names << section.name;
-  }
-  return names;
-}
-
+// A section as the list names it.
 QString title(const QString& name) {
   if (name == QLatin1String("media")) return PinnedSectionsEditor::tr("Now Playing");
   if (name == QLatin1String("calendar")) return PinnedSectionsEditor::tr("Calendar");
@@ -43,13 +33,9 @@ void PinnedSectionsEditor::setPinned(const std::vector<std::string>& pinned) {
   if (count() > 0 && pinned == this->pinned()) return;
   const QSignalBlocker quiet(this);
   clear();
-  QStringList order;
-  for (const std::string& name : pinned) {
-    const QString candidate = QString::fromStdString(name);
-    if (pinnable().contains(candidate) && !order.contains(candidate)) order << candidate;
-  }
+  QStringList order = ViewRegistry::pinned(pinned);
   const qsizetype ticked = order.size();
-  for (const QString& name : pinnable()) {
+  for (const QString& name : ViewRegistry::pinnable()) {
     if (!order.contains(name)) order << name;
   }
   for (qsizetype i = 0; i < order.size(); ++i) {

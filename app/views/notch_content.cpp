@@ -42,17 +42,11 @@ QStringList NotchContent::shownSections(const std::vector<std::string>& pinned) 
   for (const ViewRegistry::Section& section : ViewRegistry::sections()) {
     if (section.transient) transient << section.name;
   }
-  QStringList shown;
-  for (const std::string& name : pinned) {
-    const QString candidate = QString::fromStdString(name);
-    const bool known = std::ranges::any_of(ViewRegistry::sections(), [&](const auto& section) {
-      return section.name == candidate && !section.transient;
-    });
-    if (known && !shown.contains(candidate)) shown << candidate;
-  }
+  const QStringList shown = ViewRegistry::pinned(pinned);
   if (!shown.isEmpty()) return transient + shown;
-  for (const ViewRegistry::Section& section : ViewRegistry::sections()) shown << section.name;
-  return shown;
+  QStringList all;
+  for (const ViewRegistry::Section& section : ViewRegistry::sections()) all << section.name;
+  return all;
 }
 
 void NotchContent::refresh() {

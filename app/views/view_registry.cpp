@@ -25,6 +25,24 @@ const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
   return all;
 }
 
+QStringList ViewRegistry::pinnable() {
+  QStringList names;
+  for (const Section& section : sections()) {
+    if (!section.transient) names << section.name;
+  }
+  return names;
+}
+
+QStringList ViewRegistry::pinned(const std::vector<std::string>& pinned) {
+  const QStringList known = pinnable();
+  QStringList names;
+  for (const std::string& name : pinned) {
+    const QString candidate = QString::fromStdString(name);
+    if (known.contains(candidate) && !names.contains(candidate)) names << candidate;
+  }
+  return names;
+}
+
 const std::vector<ViewRegistry::View>& ViewRegistry::idleItems() {
   static const std::vector<View> all{{QStringLiteral("battery"), view("BatteryIdleItem.qml")},
                                      {QStringLiteral("weather"), view("WeatherIdleItem.qml")},

@@ -8,8 +8,10 @@
 #include <QObject>
 #include <QPointer>
 #include <QString>
+#include <QStringList>
 #include <QUrl>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "activity/activity_kind.h"
@@ -31,6 +33,10 @@ class ViewRegistry {
 
   // Every panel section in the panel's default order.
   static const std::vector<Section>& sections();
+  // The names of the sections a person can pin (all but the transient ones), in that order.
+  static QStringList pinnable();
+  // The sections of `pinned` that can be pinned, in its order, each once.
+  static QStringList pinned(const std::vector<std::string>& pinned);
   // The idle layout's small items, in order.
   static const std::vector<View>& idleItems();
   // The compact view of `kind`, if a provider draws its own.
