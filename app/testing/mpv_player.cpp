@@ -25,8 +25,10 @@ QString MpvPlayer::missing() {
 
 MpvPlayer::MpvPlayer(const QStringList& tracks) {
   QStringList arguments{QStringLiteral("--no-config"), QStringLiteral("--script=") + mprisPlugin,
-                        QStringLiteral("--ao=null"), QStringLiteral("--vo=null"),
-                        QStringLiteral("--really-quiet")};
+                        qEnvironmentVariableIsSet("TINDRA_SOUND_SERVER")
+                            ? QStringLiteral("--ao=pulse")
+                            : QStringLiteral("--ao=null"),
+                        QStringLiteral("--vo=null"), QStringLiteral("--really-quiet")};
   int pitch = 440;
   for (const QString& track : tracks) {
     const QString file = folder_.filePath(track + QStringLiteral(".wav"));

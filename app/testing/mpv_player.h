@@ -1,5 +1,6 @@
 // MpvPlayer: a real player for tests: mpv with its MPRIS plug-in on the session bus, playing
-// tones made by sox in turn, into nothing. Tests skip when mpv, the plug-in or sox is missing.
+// tones made by sox in turn into the session's sound server (TINDRA_SOUND_SERVER), or into
+// nothing where the session has none. Tests skip when mpv, the plug-in or sox is missing.
 #pragma once
 
 #include <QProcess>
@@ -19,6 +20,7 @@ class MpvPlayer {
   ~MpvPlayer();
 
   bool onBus() const { return onBus_; }
+  qint64 processId() const { return process_.processId(); }
 
  private:
   QTemporaryDir folder_;

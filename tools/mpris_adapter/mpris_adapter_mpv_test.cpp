@@ -5,63 +5,29 @@
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
-#include <QDBusConnection>
-#include <QDBusConnectionInterface>
-#include <QFileInfo>
 #include <QProcess>
-#include <QStandardPaths>
-#include <QTemporaryDir>
 #include <QTest>
 #include <memory>
 
 #include "nowplaying/adapter_message_parser.h"
+#include "testing/mpv_player.h"
 
 namespace tindra {
 namespace {
 
-const QString mprisPlugin = QStringLiteral("/usr/lib/mpv-mpris/mpris.so");
-
 class MprisAdapterWithMpvTest : public ::testing::Test {
  protected:
-  static void SetUpTestSuite() {
-    if (QStandardPaths::findExecutable("mpv").isEmpty() || !QFileInfo::exists(mprisPlugin) ||
-        QStandardPaths::findExecutable("sox").isEmpty()) {
-      missing_ = "mpv, mpv-mpris and sox are needed (scripts/install-deps installs them)";
-      return;
-    }
-    folder_ = std::make_unique<QTemporaryDir>();
-    for (const auto& [name, pitch] : {std::pair{"first.wav", "440"}, {"second.wav", "660"}}) {
-      QProcess::execute("sox", {"-n", "-r", "8000", "-c", "1", folder_->filePath(name), "synth",
-                                "60", "sine", pitch});
-    }
-  }
-  static void TearDownTestSuite() { folder_.reset(); }
-
   void SetUp() override {
-    if (!missing_.empty()) GTEST_SKIP() << missing_;
+    if (const QString missing = MpvPlayer::missing(); !missing.isEmpty()) {
+      GTEST_SKIP() << missing.toStdString();
+    }
   }
 
-  // A player on the bus, playing both tones in turn into the session's sound server (its null
-  // sink), or into nothing where the session has none.
-  static std::unique_ptr<QProcess> startPlayer() {
-    const QString output =
-        qEnvironmentVariableIsSet("TINDRA_SOUND_SERVER") ? "--ao=pulse" : "--ao=null";
-    auto player = std::make_unique<QProcess>();
-    player->start("mpv",
-                  {"--no-config", "--script=" + mprisPlugin, output, "--vo=null", "--really-quiet",
-                   folder_->filePath("first.wav"), folder_->filePath("second.wav")});
-    const bool onBus = QTest::qWaitFor(
-        [] {
-          return QDBusConnection::sessionBus().interface()->isServiceRegistered(
-              "org.mpris.MediaPlayer2.mpv");
-        },
-        10000);
-    EXPECT_TRUE(onBus) << "mpv did not appear on the bus";
+  // A player on the bus, playing both tones in turn.
+  static std::unique_ptr<MpvPlayer> startPlayer() {
+    auto player = std::make_unique<MpvPlayer>(QStringList{"first", "second"});
+    EXPECT_TRUE(player->onBus()) << "mpv did not appear on the bus";
     return player;
-  }
-  static void stopPlayer(QProcess& player) {
-    player.terminate();
-    player.waitForFinished(5000);
   }
   static int runAdapter(const QStringList& words) {
     return QProcess::execute(TINDRA_ADAPTER, words);
@@ -93,13 +59,10 @@ class MprisAdapterWithMpvTest : public ::testing::Test {
       return QTest::qWaitFor([&] { return messages > 0 && seen(latest); }, 10000);
     }
   };
-
-  static inline std::string missing_;
-  static inline std::unique_ptr<QTemporaryDir> folder_;
 };
 
 TEST_F(MprisAdapterWithMpvTest, StreamFollowsThePlayerAndCommandsReachIt) {
-  std::unique_ptr<QProcess> player = startPlayer();
+  std::unique_ptr<MpvPlayer> player = startPlayer();
   Stream stream;
   // The player names the file first and its length once it has read it.
   ASSERT_TRUE(stream.waitFor(
@@ -134,11 +97,10 @@ TEST_F(MprisAdapterWithMpvTest, StreamFollowsThePlayerAndCommandsReachIt) {
       stream.waitFor([](const auto& s) { return s && s->repeatMode == RepeatMode::track; }));
 
   // The player quits: nothing plays; it comes back: it is followed again.
-  stopPlayer(*player);
+  player.reset();
   ASSERT_TRUE(stream.waitFor([](const auto& s) { return !s.has_value(); }));
   player = startPlayer();
   ASSERT_TRUE(stream.waitFor([](const auto& s) { return s && s->title == "first.wav"; }));
-  stopPlayer(*player);
 }
 
 TEST_F(MprisAdapterWithMpvTest, SelfTestAndCommandsWithoutAPlayerOrABus) {
