@@ -16,6 +16,7 @@
 #include "diagnostics/first_frame_report.h"
 #include "diagnostics/key_latency_report.h"
 #include "diagnostics/notice_latency_report.h"
+#include "diagnostics/stall_report.h"
 #include "platform/display_platform.h"
 #include "providers/hud_view_model.h"
 #include "providers/provider.h"
@@ -78,6 +79,7 @@ int main(int argc, char* argv[]) {
   tindra::TindraApp tindra({.animated = true, .welcome = !options.isSet(demo)});
   tindra::reportFirstFrameIfAsked();
   tindra::reportNoticeLatencyIfAsked(tindra.activities());
+  tindra::reportStallsIfAsked();
   if (auto* hud = tindra.provider(QStringLiteral("hud"))) {
     tindra::reportKeyLatencyIfAsked(*static_cast<tindra::HudViewModel*>(hud->viewModel()));
   }
