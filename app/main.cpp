@@ -13,13 +13,13 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "base/provider.h"
 #include "diagnostics/first_frame_report.h"
 #include "diagnostics/key_latency_report.h"
 #include "diagnostics/notice_latency_report.h"
 #include "diagnostics/stall_report.h"
-#include "platform/display_platform.h"
-#include "providers/hud_view_model.h"
-#include "providers/provider.h"
+#include "levels/hud_view_model.h"
+#include "notch/display_platform.h"
 #include "settings/settings_store.h"
 #include "shell/demo_tour.h"
 #include "shell/focus_command.h"

@@ -4,7 +4,7 @@
 #include <QScreen>
 #include <QSysInfo>
 
-#include "diagnostics/diagnostics_log.h"
+#include "base/diagnostics_log.h"
 
 namespace tindra {
 

@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "diagnostics/frame_swaps.h"
-#include "providers/hud_view_model.h"
+#include "levels/hud_view_model.h"
 
 namespace tindra {
 

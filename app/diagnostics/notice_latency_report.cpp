@@ -5,7 +5,7 @@
 #include <cstdio>
 #include <memory>
 
-#include "activity_center.h"
+#include "base/activity_center.h"
 #include "diagnostics/frame_swaps.h"
 
 namespace tindra {

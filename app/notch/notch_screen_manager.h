@@ -11,7 +11,7 @@
 #include <memory>
 #include <vector>
 
-#include "platform/screen_source.h"
+#include "notch/screen_source.h"
 #include "settings/settings_store.h"
 
 namespace tindra {

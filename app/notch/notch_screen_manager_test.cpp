@@ -5,7 +5,7 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "activity_center.h"
+#include "base/activity_center.h"
 #include "notch/notch_window.h"
 #include "settings/settings_keys.h"
 #include "views/notch_content.h"

@@ -1,12 +1,13 @@
+// Runs in: private-session --xvfb
 // Swipes on the notch with the real pointer (XTest wheel buttons and drags on Xvfb) and a real
 // player (mpv on the session bus, through the now-playing adapter).
 #include <gtest/gtest.h>
 
 #include <QTest>
 
+#include "media/now_playing_provider.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
-#include "providers/now_playing_provider.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/mpv_player.h"

@@ -10,8 +10,8 @@
 #include <QSurfaceFormat>
 #include <algorithm>
 
-#include "activity_center.h"
-#include "platform/display_platform.h"
+#include "base/activity_center.h"
+#include "notch/display_platform.h"
 #include "settings/settings_keys.h"
 #include "views/notch_content.h"
 

@@ -8,7 +8,7 @@
 #include <QSizeF>
 
 #include "activity/notch_geometry.h"
-#include "platform/screen_source.h"
+#include "notch/screen_source.h"
 
 namespace tindra {
 

@@ -1,3 +1,4 @@
+// Runs in: private-session --xvfb
 // The notch on real X displays (Xvfb): drawn where its geometry says, closed and opened, cut out
 // around its outline so the desktop shows through, and opened by the pointer resting on it.
 #include "notch/notch_window.h"
@@ -18,101 +19,17 @@
 #include <cstring>
 #include <functional>
 
-#include "activity_center.h"
+#include "base/activity_center.h"
 #include "notch/notch_screen_manager.h"
-#include "platform/screen_source_factory.h"
+#include "notch/screen_source_factory.h"
 #include "settings/settings_keys.h"
+#include "testing/notch_displays.h"
 #include "testing/sample_view_models.h"
 #include "testing/view_shot.h"
 #include "views/notch_content.h"
 
 namespace tindra {
 namespace {
-
-const QColor desktop(0x20, 0x60, 0xc0);
-
-// A plain desktop colour behind the notch, so what is cut away is easy to tell from the notch.
-std::vector<std::unique_ptr<QWidget>> showDesktops() {
-  std::vector<std::unique_ptr<QWidget>> result;
-  for (QScreen* screen : QGuiApplication::screens()) {
-    auto widget = std::make_unique<QWidget>();
-    widget->setWindowFlags(Qt::FramelessWindowHint | Qt::WindowStaysOnBottomHint);
-    widget->setAutoFillBackground(true);
-    widget->setPalette(QPalette(desktop));
-    widget->setScreen(screen);
-    widget->setGeometry(screen->geometry());
-    widget->show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(widget.get()));
-    result.push_back(std::move(widget));
-  }
-  return result;
-}
-
-// What the X server shows on `screen`, root window and all.
-QImage grabDisplay(QScreen* screen = QGuiApplication::primaryScreen()) {
-  return screen->grabWindow(0).toImage();
-}
-
-bool isDesktop(const QImage& image, QPoint p) {
-  const QColor c = image.pixelColor(p);
-  return std::abs(c.red() - desktop.red()) + std::abs(c.green() - desktop.green()) +
-             std::abs(c.blue() - desktop.blue()) <
-         12;
-}
-// The notch's content is drawn inside it, so whatever is not desktop belongs to the notch.
-bool isNotch(const QImage& image, QPoint p) {
-  return !isDesktop(image, p);
-}
-
-// The notch's run through `row` around `x`: its first and one-past-last columns.
-std::pair<int, int> blackRun(const QImage& image, int row, int x) {
-  int left = x;
-  int right = x;
-  while (left > 0 && isNotch(image, {left - 1, row})) --left;
-  while (right < image.width() && isNotch(image, {right, row})) ++right;
-  return {left, right};
-}
-
-class Displays {
- public:
-  Displays() {
-    screens_ = makePlatformScreenSource();
-    manager_ = std::make_unique<NotchScreenManager>(
-        *screens_, store_, activities_, content_,
-        [](NotchWindow& window) { window.setAnimated(false); });
-    desktops_ = showDesktops();
-    for (NotchWindow* window : manager_->windows()) {
-      EXPECT_TRUE(QTest::qWaitForWindowExposed(window));
-      window->raise();
-    }
-    QTest::qWait(200);
-  }
-
-  QTemporaryDir dir_;
-  SettingsStore store_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
-  ActivityCenter activities_{store_};
-  ViewRegistry views_;
-  NotchContent content_{activities_, store_, views_};
-  std::unique_ptr<ScreenSource> screens_;
-  std::unique_ptr<NotchScreenManager> manager_;
-  std::vector<std::unique_ptr<QWidget>> desktops_;
-};
-
-// Checks the black outline on the display against the window's idea of the notch.
-void expectDrawnAt(const QImage& image, const QRect& expected, const char* what) {
-  SCOPED_TRACE(what);
-  const int middleRow = expected.top() + expected.height() / 2;
-  const auto [left, right] = blackRun(image, middleRow, expected.center().x());
-  EXPECT_NEAR(left, expected.left(), 1);
-  EXPECT_NEAR(right, expected.left() + expected.width(), 1);
-  int bottom = expected.top();
-  while (bottom < image.height() && isNotch(image, {expected.center().x(), bottom})) ++bottom;
-  EXPECT_NEAR(bottom, expected.top() + expected.height(), 1);
-  // Around the outline the desktop shows through.
-  EXPECT_TRUE(isDesktop(image, {expected.center().x(), bottom + 3}));
-  EXPECT_TRUE(isDesktop(image, {left - 12, middleRow}));
-  EXPECT_TRUE(isDesktop(image, {right + 12, middleRow}));
-}
 
 TEST(NotchWindowOnDisplayTest, DrawnWhereItsGeometrySaysClosedAndOpened) {
   Displays displays;
@@ -289,25 +206,6 @@ TEST(NotchWindowOnDisplayTest, StretchesWhilePulledAndOpensForAFileDragInAnyMode
   QDragLeaveEvent leave;
   QCoreApplication::sendEvent(&window, &leave);
   EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isExpanded(); }, 3000));
-}
-
-// Xvfb offers two displays of different sizes as two X screens, each with its own origin.
-TEST(TwoDisplaysTest, EachDisplayGetsItsNotchAtItsOwnTop) {
-  Displays displays;
-  ASSERT_EQ(QGuiApplication::screens().size(), 2);
-  ASSERT_EQ(displays.manager_->windows().size(), 2u);
-  for (NotchWindow* window : displays.manager_->windows()) {
-    const QImage image = grabDisplay(window->screen());
-    const QRect screen = window->screen()->geometry();
-    const QRect notch(screen.center().x() + 1 - 95, screen.top(), 190, 24);
-    EXPECT_EQ(window->notchRect().translated(window->geometry().topLeft()).toRect(), notch);
-    EXPECT_TRUE(screen.contains(window->geometry()));
-    expectDrawnAt(image, notch, qPrintable(window->screen()->name()));
-  }
-
-  ASSERT_TRUE(displays.store_.write(settings::displaySelection, std::string("main")));
-  EXPECT_TRUE(QTest::qWaitFor([&] { return displays.manager_->windows().size() == 1; }, 1000));
-  EXPECT_EQ(displays.manager_->windows().front()->screen(), QGuiApplication::primaryScreen());
 }
 
 }  // namespace

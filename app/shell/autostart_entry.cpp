@@ -4,7 +4,7 @@
 #include <QFile>
 #include <QStandardPaths>
 
-#include "qt_text.h"
+#include "base/qt_text.h"
 #include "settings/durable_file.h"
 
 namespace tindra {

@@ -9,7 +9,7 @@
 #include <QVBoxLayout>
 #include <QWidget>
 
-#include "platform/calendar_backend.h"
+#include "calendar/calendar_backend.h"
 #include "settings/settings_store.h"
 
 namespace tindra {

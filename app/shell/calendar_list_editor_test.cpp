@@ -7,7 +7,7 @@
 #include <QFile>
 #include <QTemporaryDir>
 
-#include "platform/linux/icalendar_backend.h"
+#include "calendar/linux/icalendar_backend.h"
 #include "settings/settings_keys.h"
 #include "testing/view_shot.h"
 

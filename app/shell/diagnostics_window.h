@@ -8,7 +8,7 @@
 #include <functional>
 #include <vector>
 
-#include "diagnostics/diagnostics_log.h"
+#include "base/diagnostics_log.h"
 
 class QPushButton;
 

@@ -3,7 +3,7 @@
 #include <QCommandLineParser>
 
 #include "focus/focus_filter_state.h"
-#include "qt_text.h"
+#include "base/qt_text.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 

@@ -6,7 +6,7 @@
 #include <QVBoxLayout>
 #include <map>
 
-#include "logging_categories.h"
+#include "base/logging_categories.h"
 #include "settings/settings_keys.h"
 
 namespace tindra {

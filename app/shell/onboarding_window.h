@@ -9,7 +9,7 @@
 #include <QLabel>
 #include <QWidget>
 
-#include "diagnostics/diagnostics_log.h"
+#include "base/diagnostics_log.h"
 #include "settings/settings_store.h"
 #include "shell/autostart_entry.h"
 

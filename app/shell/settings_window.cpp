@@ -17,7 +17,7 @@
 
 #include "base/json_reader.h"
 #include "base/json_writer.h"
-#include "qt_text.h"
+#include "base/qt_text.h"
 #include "settings/settings_keys.h"
 #include "shell/pinned_sections_editor.h"
 #include "shell/settings_key_texts.h"

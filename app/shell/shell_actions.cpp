@@ -6,7 +6,7 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "logging_categories.h"
+#include "base/logging_categories.h"
 #include "settings/settings_keys.h"
 #include "shell/calendar_list_editor.h"
 #include "shell/diagnostics_window.h"

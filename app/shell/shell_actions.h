@@ -7,7 +7,7 @@
 #include <QObject>
 #include <QPointer>
 
-#include "platform/calendar_backend.h"
+#include "calendar/calendar_backend.h"
 #include "settings/settings_keys.h"
 #include "shell/autostart_entry.h"
 #include "shell/diagnostics_window.h"

@@ -5,7 +5,7 @@
 #include <QHBoxLayout>
 #include <QPushButton>
 
-#include "qt_text.h"
+#include "base/qt_text.h"
 
 namespace tindra {
 

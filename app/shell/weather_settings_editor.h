@@ -10,7 +10,7 @@
 #include <QLineEdit>
 #include <QWidget>
 
-#include "providers/weather_provider.h"
+#include "weather/weather_provider.h"
 
 namespace tindra {
 

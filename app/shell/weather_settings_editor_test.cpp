@@ -4,8 +4,8 @@
 
 #include <QTemporaryDir>
 
-#include "activity_center.h"
-#include "platform/fake/fake_weather.h"
+#include "base/activity_center.h"
+#include "weather/fake_weather.h"
 #include "settings/settings_keys.h"
 #include "testing/view_shot.h"
 

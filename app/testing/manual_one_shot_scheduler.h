@@ -4,7 +4,7 @@
 
 #include <optional>
 
-#include "one_shot_scheduler.h"
+#include "base/one_shot_scheduler.h"
 
 namespace tindra {
 

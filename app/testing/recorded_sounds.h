@@ -4,7 +4,7 @@
 
 #include <QStringList>
 
-#include "platform/sound_player.h"
+#include "base/sound_player.h"
 
 namespace tindra {
 

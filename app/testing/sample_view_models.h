@@ -6,15 +6,15 @@
 #include <QString>
 #include <map>
 
-#include "providers/accessory_view_model.h"
-#include "providers/banner_view_model.h"
-#include "providers/battery_view_model.h"
-#include "providers/calendar_view_model.h"
-#include "providers/file_tray_view_model.h"
-#include "providers/focus_view_model.h"
-#include "providers/hud_view_model.h"
-#include "providers/now_playing_view_model.h"
-#include "providers/weather_view_model.h"
+#include "power/accessory_view_model.h"
+#include "banners/banner_view_model.h"
+#include "power/battery_view_model.h"
+#include "calendar/calendar_view_model.h"
+#include "files/file_tray_view_model.h"
+#include "focus/focus_view_model.h"
+#include "levels/hud_view_model.h"
+#include "media/now_playing_view_model.h"
+#include "weather/weather_view_model.h"
 
 namespace tindra {
 

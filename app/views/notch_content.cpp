@@ -1,7 +1,7 @@
 #include "views/notch_content.h"
 
-#include "activity_center.h"
-#include "notch/activity_presentation.h"
+#include "base/activity_center.h"
+#include "views/activity_presentation.h"
 #include "settings/settings_keys.h"
 
 namespace tindra {

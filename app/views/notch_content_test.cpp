@@ -5,7 +5,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
-#include "activity_center.h"
+#include "base/activity_center.h"
 #include "settings/settings_keys.h"
 
 namespace tindra {

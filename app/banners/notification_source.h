@@ -1,0 +1,34 @@
+// NotificationSource: the notifications programs send to the desktop, as they are sent, and
+// their closing. A source only watches: it never takes the notification server's place and never
+// hides, answers or closes anyone's notification. It runs only between start() and stop().
+#pragma once
+
+#include <QObject>
+
+#include "focus/desktop_notification.h"
+#include "base/service_check.h"
+
+namespace tindra {
+
+class NotificationSource : public QObject {
+  Q_OBJECT
+
+ public:
+  using QObject::QObject;
+
+  virtual void start() = 0;
+  virtual void stop() = 0;
+  virtual ServiceCheck check() const = 0;
+
+ signals:
+  // A notification the server accepted, with the number it gave it (also one that replaces an
+  // earlier one with the same number).
+  void notified(const tindra::DesktopNotification& notification);
+  // The server closed notification `id`: it expired, was dismissed or its sender withdrew it.
+  void closed(quint32 id);
+  // The server went away, and every notification with it.
+  void serverGone();
+  void checkChanged();
+};
+
+}  // namespace tindra

@@ -1,0 +1,23 @@
+#include "base/linux/pulse_sound_player.h"
+
+#include <QFile>
+
+namespace tindra {
+
+PulseSoundPlayer::PulseSoundPlayer(std::shared_ptr<PulseConnection> connection,
+                                   const QStringList& names)
+    : connection_(std::move(connection)) {
+  for (const QString& name : names) {
+    QFile file(QStringLiteral(":/sounds/%1.wav").arg(name));
+    std::optional<PulseSample::Sound> sound;
+    if (file.open(QIODevice::ReadOnly)) sound = PulseSample::fromWav(file.readAll());
+    samples_.emplace(name, std::make_unique<PulseSample>(*connection_, name.toUtf8(), sound));
+  }
+  connection_->start();
+}
+
+void PulseSoundPlayer::play(const QString& name) {
+  if (const auto sample = samples_.find(name); sample != samples_.end()) sample->second->play({});
+}
+
+}  // namespace tindra

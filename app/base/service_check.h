@@ -1,0 +1,19 @@
+// ServiceCheck: how a backend's service answers, in one sentence for a person: "reading the
+// battery from UPower", "UPower is not running: no battery is shown". Providers copy every
+// change into the diagnostics log.
+#pragma once
+
+#include <QString>
+
+#include "base/diagnostics_log.h"
+
+namespace tindra {
+
+struct ServiceCheck {
+  DiagnosticsLog::Outcome outcome = DiagnosticsLog::Outcome::ok;
+  QString text;
+
+  friend bool operator==(const ServiceCheck&, const ServiceCheck&) = default;
+};
+
+}  // namespace tindra

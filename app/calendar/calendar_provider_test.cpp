@@ -1,0 +1,209 @@
+#include "calendar/calendar_provider.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "base/activity_center.h"
+#include "calendar/upcoming_event_sound_log.h"
+#include "calendar/fake_calendar_backend.h"
+#include "settings/settings_keys.h"
+#include "testing/recorded_sounds.h"
+#include "testing/view_shot.h"
+#include "views/view_registry.h"
+
+namespace tindra {
+namespace {
+
+// Answers every question with the same trip, at once.
+struct FixedTravelTime final : TravelTimeEstimator {
+  bool available() const override { return true; }
+  QString unavailableReason() const override { return {}; }
+  void estimate(std::optional<CalendarEventInfo::Coordinate>, const QString& destination,
+                TravelTransport, Answer answer) override {
+    asked << destination;
+    answer(20 * 60);
+  }
+  QStringList asked;
+};
+
+// 10:00 on a Monday, local time, so the fake day (breakfast at 8, review at 10:08, lunch at
+// 12:30) stays inside one day whatever zone the tests run in.
+double tenOClock() {
+  return static_cast<double>(QDateTime(QDate(2026, 10, 26), QTime(10, 0)).toMSecsSinceEpoch()) /
+         1000.0;
+}
+
+class CalendarProviderTest : public ::testing::Test {
+ protected:
+  explicit CalendarProviderTest(
+      std::unique_ptr<TravelTimeEstimator> travel = std::make_unique<NullTravelTimeEstimator>()) {
+    auto backend = std::make_unique<FakeCalendarBackend>(tenOClock());
+    backend_ = backend.get();
+    provider_ = std::make_unique<CalendarProvider>(
+        ProviderContext{activities_, settings_, diagnostics_}, std::move(backend),
+        std::move(travel), sounds_, [this] { return now_; },
+        [this](const QUrl& url) {
+          opened_ << url;
+          return true;
+        });
+  }
+
+  void enable() {
+    (void)settings_.write(settings::calendarEnabled, true);
+    QCoreApplication::processEvents();
+  }
+  void advanceTo(double now) {
+    now_ = now;
+    provider_->update();
+  }
+
+  QTemporaryDir dir_;
+  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
+  ActivityCenter activities_{settings_};
+  DiagnosticsLog diagnostics_;
+  FakeCalendarBackend* backend_ = nullptr;
+  std::shared_ptr<RecordedSounds> sounds_ = std::make_shared<RecordedSounds>();
+  QList<QUrl> opened_;
+  double now_ = tenOClock();
+  std::unique_ptr<CalendarProvider> provider_;
+};
+
+TEST_F(CalendarProviderTest, FeaturesTheNextMeetingFromItsLeadTimeUntilItHasRunAWhile) {
+  provider_->start();
+  CalendarViewModel& view = *provider_->viewModel();
+  EXPECT_FALSE(view.enabled()) << "nothing is read while the calendar is off";
+  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+
+  enable();
+  ASSERT_TRUE(view.featured());
+  EXPECT_EQ(view.title(), "Design review");
+  EXPECT_EQ(view.earText(), "8 min");
+  EXPECT_EQ(view.countdown(), "in 8 min");
+  EXPECT_EQ(view.joinService(), "Zoom");
+  EXPECT_EQ(activities_.current(), ActivityKind::upcomingEvent);
+  // The next change shown is the countdown's next minute, 60 s on.
+  EXPECT_EQ(provider_->nextUpdate(), now_ + 60);
+
+  advanceTo(tenOClock() + 8 * 60 + 90);
+  EXPECT_EQ(view.earText(), "Now");
+  EXPECT_EQ(view.countdown(), "29 min left");
+  EXPECT_TRUE(view.started());
+
+  // Five minutes after its start it lets go; the agenda marks it under way.
+  advanceTo(tenOClock() + 13 * 60);
+  EXPECT_FALSE(view.featured());
+  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  const QVariantList agenda = view.agenda();
+  ASSERT_EQ(agenda.size(), 4) << "the declined sync is left out";
+  EXPECT_EQ(agenda[0].toMap()["title"], "Ada's birthday") << "all-day events first";
+  EXPECT_EQ(agenda[1].toMap()["status"], "ended");
+  EXPECT_EQ(agenda[2].toMap()["status"], "now");
+  EXPECT_EQ(agenda[2].toMap()["joinService"], "Zoom");
+}
+
+TEST_F(CalendarProviderTest, SettingsShapeWhatIsShown) {
+  provider_->start();
+  enable();
+  CalendarViewModel& view = *provider_->viewModel();
+  (void)settings_.write(settings::calendarTimeFormat, EventTimeFormat::both);
+  EXPECT_TRUE(view.earText().startsWith("8 min · "));
+  (void)settings_.write(settings::calendarPrivacyMode, true);
+  EXPECT_EQ(view.title(), "Event");
+  EXPECT_EQ(view.joinService(), "Zoom") << "the Join button stays in privacy mode";
+  EXPECT_TRUE(view.reminders().isEmpty());
+  (void)settings_.write(settings::remindersEnabled, true);
+  ASSERT_EQ(view.reminders().size(), 2);
+  EXPECT_EQ(view.reminders()[0].toMap()["title"], "Reminder");
+  EXPECT_FALSE(view.reminders()[0].toMap()["done"].toBool()) << "open to-dos first";
+  (void)settings_.write(settings::calendarExcludedIdentifiers, {"work"});
+  EXPECT_FALSE(view.featured());
+  EXPECT_TRUE(view.agenda().isEmpty());
+  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+}
+
+TEST_F(CalendarProviderTest, TheStartSoundPlaysOncePerMeetingAcrossRestarts) {
+  (void)settings_.write(settings::calendarEventSound, true);
+  provider_->start();
+  enable();
+  advanceTo(now_ + 60);
+  EXPECT_EQ(sounds_->played, QStringList{"tindra-event"});
+  const auto log =
+      UpcomingEventSoundLog::fromJSON(JSONValue(settings_.read(settings::calendarEventSoundLog)));
+  EXPECT_EQ(log.played.size(), 1U);
+
+  // A new provider, as after a restart, finds the log and stays quiet.
+  auto restarted = std::make_unique<CalendarProvider>(
+      ProviderContext{activities_, settings_, diagnostics_},
+      std::make_unique<FakeCalendarBackend>(tenOClock()),
+      std::make_unique<NullTravelTimeEstimator>(), sounds_, [this] { return now_; },
+      [](const QUrl&) { return true; });
+  restarted->start();
+  EXPECT_EQ(sounds_->played.size(), 1);
+}
+
+TEST_F(CalendarProviderTest, JoinOpensTheMeetingLinkWithTheDesktop) {
+  provider_->start();
+  enable();
+  CalendarViewModel& view = *provider_->viewModel();
+  EXPECT_TRUE(view.join(view.featuredID()));
+  ASSERT_EQ(opened_.size(), 1);
+  EXPECT_EQ(opened_[0], QUrl("https://example.zoom.us/j/5551234567"));
+  EXPECT_FALSE(view.join("work:lunch")) << "an event without a link opens nothing";
+}
+
+TEST_F(CalendarProviderTest, NoDepartureTimeIsShownWithoutATravelTimeSource) {
+  (void)settings_.write(settings::travelTimeEnabled, true);
+  provider_->start();
+  enable();
+  advanceTo(tenOClock() + 40 * 60);  // the review is over; lunch at 12:30 is next
+  EXPECT_TRUE(provider_->viewModel()->departure().isEmpty());
+}
+
+class CalendarProviderTravelTest : public CalendarProviderTest {
+ protected:
+  CalendarProviderTravelTest() : CalendarProviderTest(std::make_unique<FixedTravelTime>()) {}
+  const FixedTravelTime& travel() const {
+    return static_cast<const FixedTravelTime&>(provider_->travel());
+  }
+};
+
+TEST_F(CalendarProviderTravelTest, ADepartureTimeFollowsTheTripAndTheBuffer) {
+  (void)settings_.write(settings::travelTimeEnabled, true);
+  provider_->start();
+  enable();
+  advanceTo(tenOClock() + 40 * 60);
+  // Lunch at 12:30, 20 minutes away, 5 minutes to spare: leave at 12:05, in 1 h 25 min.
+  EXPECT_EQ(provider_->viewModel()->departure(), "Leave in 1 h 25 min");
+  EXPECT_EQ(travel().asked, QStringList{"Café Nero, Storgata 5"});
+}
+
+TEST_F(CalendarProviderTest, ViewsDrawTheMeetingItsJoinButtonAndTheAgenda) {
+  (void)settings_.write(settings::remindersEnabled, true);
+  provider_->start();
+  enable();
+  CalendarViewModel* view = provider_->viewModel();
+  const QImage compact = viewShot(ViewRegistry::compact(ActivityKind::upcomingEvent)->source, view,
+                                  {260, 32}, "calendar-compact");
+  ASSERT_FALSE(compact.isNull());
+  const QImage panel =
+      viewShot(QUrl("qrc:/Tindra/qml/CalendarPanel.qml"), view, {240, 156}, "calendar-panel");
+  ASSERT_FALSE(panel.isNull());
+  // The Join button's blue is there.
+  int blue = 0;
+  for (int y = 0; y < panel.height(); ++y) {
+    for (int x = 0; x < panel.width(); ++x) {
+      const QColor c = panel.pixelColor(x, y);
+      if (c.blue() > 200 && c.red() < 60) ++blue;
+    }
+  }
+  EXPECT_GT(blue, 100);
+  advanceTo(tenOClock() + 9 * 60);
+  EXPECT_FALSE(viewShot(ViewRegistry::compact(ActivityKind::upcomingEvent)->source, view, {260, 32},
+                        "calendar-compact-started")
+                   .isNull());
+}
+
+}  // namespace
+}  // namespace tindra

@@ -1,0 +1,90 @@
+#include "calendar/calendar_texts.h"
+
+#include <QCoreApplication>
+#include <QDateTime>
+
+namespace tindra::CalendarTexts {
+
+namespace {
+
+QString tr(const char* text) {
+  return QCoreApplication::translate("CalendarTexts", text);
+}
+
+QString minutesText(std::int64_t minutes) {
+  const HoursAndMinutes parts = hoursAndMinutes(minutes);
+  if (parts.hours == 0) return tr("%1 min").arg(parts.minutes);
+  if (parts.minutes == 0) return tr("%1 h").arg(parts.hours);
+  return tr("%1 h %2 min").arg(parts.hours).arg(parts.minutes);
+}
+
+}  // namespace
+
+QString clockTime(double date, const QLocale& locale) {
+  const QDateTime time = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(date * 1000));
+  // Some locales' short format (C's among them) carries seconds, which a meeting never has.
+  QString format = locale.timeFormat(QLocale::ShortFormat);
+  format.remove(QLatin1String(":ss"));
+  return locale.toString(time.time(), format);
+}
+
+QString ear(const EarText& ear, const QLocale& locale) {
+  switch (ear.earCase()) {
+    case EarText::Case::minutes:
+      return tr("%1 min").arg(ear.count());
+    case EarText::Case::hours:
+      return tr("%1 h").arg(ear.count());
+    case EarText::Case::startTime:
+      return clockTime(ear.date(), locale);
+    case EarText::Case::now:
+      return tr("Now");
+  }
+  return {};
+}
+
+QString countdown(const EventCountdown& countdown) {
+  switch (countdown.countdownCase()) {
+    case EventCountdown::Case::startsIn:
+      return tr("in %1").arg(minutesText(countdown.minutes()));
+    case EventCountdown::Case::underWay:
+      return tr("%1 left").arg(minutesText(countdown.minutesLeft()));
+    case EventCountdown::Case::ended:
+      return tr("Ended");
+  }
+  return {};
+}
+
+QString departure(const DepartureAdvice& advice) {
+  switch (advice.adviceCase()) {
+    case DepartureAdvice::Case::leaveIn:
+      return tr("Leave in %1").arg(minutesText(advice.minutes()));
+    case DepartureAdvice::Case::late:
+      return tr("%1 late").arg(minutesText(advice.minutes()));
+    case DepartureAdvice::Case::leaveNow:
+      return tr("Leave now");
+  }
+  return {};
+}
+
+QString timeRange(double start, double end, bool allDay, const QLocale& locale) {
+  if (allDay) return tr("All day");
+  return clockTime(start, locale) + QStringLiteral("–") + clockTime(end, locale);
+}
+
+QString serviceName(MeetingService service) {
+  switch (service) {
+    case MeetingService::zoom:
+      return QStringLiteral("Zoom");
+    case MeetingService::googleMeet:
+      return QStringLiteral("Google Meet");
+    case MeetingService::microsoftTeams:
+      return QStringLiteral("Microsoft Teams");
+    case MeetingService::webex:
+      return QStringLiteral("Webex");
+    case MeetingService::faceTime:
+      return QStringLiteral("FaceTime");
+  }
+  return {};
+}
+
+}  // namespace tindra::CalendarTexts

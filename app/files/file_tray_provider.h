@@ -1,0 +1,87 @@
+// FileTrayProvider ("files"): with `experimentalFileTray` on, files and folders dropped on the
+// notch are kept in the tray section: as links (the path and the file's device and inode, so a
+// file moved away or replaced shows as missing instead of opening something else) or, as
+// `fileTrayMode` says, as the tray's own copies in the "file-tray" folder of Tindra's data
+// folder, made off the main thread with their progress shown and a way to stop them. The list is
+// saved through DurableFile; a list that cannot be read is kept aside and said so. Each drop's
+// refusals (not a file, already there, the 20 items, the 2 GB of copies) are told in a status
+// line. The folders holding linked items are watched, so a missing file is seen when it goes.
+#pragma once
+
+#include <QFileSystemWatcher>
+#include <QFutureWatcher>
+#include <QTimer>
+#include <QUrl>
+#include <atomic>
+#include <filesystem>
+#include <functional>
+#include <memory>
+
+#include "files/file_tray.h"
+#include "files/file_tray_storage.h"
+#include "files/file_tray_copier.h"
+#include "files/file_tray_view_model.h"
+#include "base/provider.h"
+#include "settings/settings_store.h"
+
+namespace tindra {
+
+class FileTrayProvider final : public Provider {
+  Q_OBJECT
+
+ public:
+  // `now` gives seconds since 1970; `openUrl` opens a file with the desktop's handler.
+  FileTrayProvider(ProviderContext context, std::filesystem::path dataFolder,
+                   std::function<double()> now, std::function<bool(const QUrl&)> openUrl,
+                   QObject* parent = nullptr);
+  ~FileTrayProvider() override;
+
+  // Tindra's data folder: "$XDG_DATA_HOME/tindra".
+  static std::filesystem::path defaultDataFolder();
+
+  QString name() const override { return QStringLiteral("files"); }
+  void start() override;
+  FileTrayViewModel* viewModel() override { return &viewModel_; }
+
+  // Takes a drop on the notch; false (the drop is refused) while the tray is off.
+  bool drop(const QList<QUrl>& urls);
+  const FileTray& tray() const { return tray_; }
+  bool copying() const { return copy_ != nullptr; }
+
+ private:
+  struct Copy;
+
+  void open(const QString& id);
+  void remove(const QString& id);
+  void removeAll();
+  void cancelCopy();
+  void addLinks(const std::vector<std::string>& paths, QStringList& status);
+  // `status` says what the drop refused before measuring.
+  void measured(const std::vector<FileTrayCopyRequest>& requests, QStringList status);
+  void startCopy();
+  void copied(const TrayCopyResult& result);
+  // Takes the item out of the tray, deleting the tray's copy; false for an unknown one.
+  bool takeOut(const UUID& id);
+  void setStatus(QStringList parts);
+  void itemsChanged();
+  void save();
+  void publish();
+  void publishProgress();
+  void watchFolders();
+  bool missing(const FileTrayItem& item) const;
+
+  FileTrayStorage storage_;
+  std::function<double()> now_;
+  std::function<bool(const QUrl&)> openUrl_;
+  FileTray tray_;
+  QString status_;
+  SettingsObservation observation_;
+  QFileSystemWatcher folders_;
+  std::vector<FileTrayCopyRequest> pending_;  // admitted, being copied or waiting to be
+  std::vector<FileTrayCopyRequest> waiting_;  // admitted while another copy ran
+  std::unique_ptr<Copy> copy_;
+  QTimer progressTimer_;
+  FileTrayViewModel viewModel_;
+};
+
+}  // namespace tindra

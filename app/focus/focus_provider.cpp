@@ -1,0 +1,55 @@
+#include "focus/focus_provider.h"
+
+#include "base/activity_center.h"
+#include "base/diagnostics_log.h"
+#include "base/logging_categories.h"
+#include "settings/settings_keys.h"
+
+namespace tindra {
+
+FocusProvider::FocusProvider(ProviderContext context, std::shared_ptr<FocusStatusSource> status,
+                             QObject* parent)
+    : Provider(context, parent), status_(std::move(status)) {
+  connect(status_.get(), &FocusStatusSource::focusedChanged, this, &FocusProvider::update);
+  connect(status_.get(), &FocusStatusSource::checkChanged, this, &FocusProvider::recordCheck);
+}
+
+void FocusProvider::start() {
+  // `tindra focus` writes from another process; the settings watcher reloads and tells us.
+  observation_ = settings().observe(
+      {std::string(settings::focusFilterState.name), std::string(settings::focusShown.name),
+       std::string(settings::focusKeepsIndicator.name)},
+      [this](std::string_view) { update(); });
+  recordCheck();
+  status_->start();
+  update();
+}
+
+void FocusProvider::recordCheck() {
+  const ServiceCheck check = status_->check();
+  diagnostics().record(lcFocus(), name(), check.outcome, check.text);
+}
+
+void FocusProvider::update() {
+  const FocusFilterState filter =
+      FocusFilterState::decode(settings().read(settings::focusFilterState));
+  std::optional<FocusPresentation::Shown> next;
+  if (settings().read(settings::focusShown)) {
+    next = FocusPresentation::shown(filter, status_->focused().value_or(false));
+  }
+  viewModel_.set(
+      next, FocusPresentation::indicator(next, settings().read(settings::focusKeepsIndicator)));
+  if (next == shown_) return;
+  if (shown_ && !next) lastTurnedOff_ = shown_;
+  shown_ = next;
+  if (shown_) {
+    qCInfo(lcFocus).noquote() << "Focus on:" << viewModel_.name() << viewModel_.symbol();
+    activities().offer(
+        ActivityEvent::began(ActivityKind::focus, FocusPresentation::noticeDuration));
+  } else {
+    qCInfo(lcFocus) << "Focus off";
+    activities().offer(ActivityEvent::ended(ActivityKind::focus));
+  }
+}
+
+}  // namespace tindra

@@ -1,0 +1,45 @@
+// FocusProvider ("focus"): a Focus turning on or changing shows in the notch for 2.5 seconds with
+// its name and symbol, and with `focusKeepsIndicator` a mark stays while it lasts. The name and
+// symbol come from the Focus filter state that `tindra focus` writes to `focusFilterState`; the
+// desktop's do-not-disturb, from the status source, is an unnamed Focus. `focusShown` off shows
+// nothing.
+#pragma once
+
+#include <memory>
+#include <optional>
+
+#include "focus/focus_presentation.h"
+#include "focus/focus_status_source.h"
+#include "focus/focus_view_model.h"
+#include "base/provider.h"
+#include "settings/settings_store.h"
+
+namespace tindra {
+
+class FocusProvider final : public Provider {
+  Q_OBJECT
+
+ public:
+  // `status` may be shared with the banner provider, which keeps quiet while a Focus is on.
+  FocusProvider(ProviderContext context, std::shared_ptr<FocusStatusSource> status,
+                QObject* parent = nullptr);
+
+  QString name() const override { return QStringLiteral("focus"); }
+  void start() override;
+  FocusViewModel* viewModel() override { return &viewModel_; }
+
+  const std::optional<FocusPresentation::Shown>& shown() const { return shown_; }
+  const std::optional<FocusPresentation::Shown>& lastTurnedOff() const { return lastTurnedOff_; }
+
+ private:
+  void recordCheck();
+  void update();
+
+  std::shared_ptr<FocusStatusSource> status_;
+  SettingsObservation observation_;
+  std::optional<FocusPresentation::Shown> shown_;
+  std::optional<FocusPresentation::Shown> lastTurnedOff_;
+  FocusViewModel viewModel_;
+};
+
+}  // namespace tindra

@@ -1,0 +1,106 @@
+#include "focus/focus_provider.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryDir>
+
+#include "base/activity_center.h"
+#include "focus/fake_focus_status_source.h"
+#include "settings/settings_keys.h"
+#include "settings/settings_store.h"
+#include "shell/focus_command.h"
+#include "testing/view_shot.h"
+#include "views/view_registry.h"
+
+namespace tindra {
+namespace {
+
+class FocusProviderTest : public ::testing::Test {
+ protected:
+  FocusProviderTest() {
+    provider_ = std::make_unique<FocusProvider>(
+        ProviderContext{activities_, settings_, diagnostics_}, status_);
+  }
+
+  // `tindra focus ...`, as a shortcut would run it; its exit status.
+  int focusCommand(const QStringList& arguments) {
+    QString output;
+    QTextStream out(&output);
+    QTextStream err(&errors_);
+    return FocusCommand::run(arguments, settings_, 1000.0, out, err);
+  }
+
+  QTemporaryDir dir_;
+  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
+  ActivityCenter activities_{settings_};
+  DiagnosticsLog diagnostics_;
+  std::shared_ptr<FakeFocusStatusSource> status_ = std::make_shared<FakeFocusStatusSource>();
+  std::unique_ptr<FocusProvider> provider_;
+  QString errors_;
+};
+
+TEST_F(FocusProviderTest, TheCommandNamesTheFocusAndTheDesktopsOwnIsAnUnnamedMoon) {
+  provider_->start();
+  EXPECT_FALSE(provider_->shown());
+  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+
+  ASSERT_EQ(focusCommand({"on", "--name", "Deep\nWork\n", "--symbol", "book"}), 0);
+  using Shown = FocusPresentation::Shown;
+  EXPECT_EQ(provider_->shown(), (Shown{"Deep Work", FocusSymbol::book}));
+  EXPECT_EQ(activities_.current(), ActivityKind::focus);
+  EXPECT_TRUE(provider_->viewModel()->indicator());
+
+  // The desktop's do-not-disturb under a named Focus changes nothing shown.
+  status_->setFocused(true);
+  EXPECT_EQ(provider_->shown(), (Shown{"Deep Work", FocusSymbol::book}));
+
+  ASSERT_EQ(focusCommand({"off"}), 0);
+  EXPECT_EQ(provider_->shown(), (Shown{std::nullopt, FocusSymbol::moon}));
+  status_->setFocused(false);
+  EXPECT_FALSE(provider_->shown());
+  EXPECT_EQ(provider_->lastTurnedOff(), (Shown{std::nullopt, FocusSymbol::moon}));
+  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_FALSE(provider_->viewModel()->indicator());
+}
+
+TEST_F(FocusProviderTest, SettingsSilenceTheNoticeOrTheIndicator) {
+  provider_->start();
+  ASSERT_TRUE(settings_.write(settings::focusKeepsIndicator, false));
+  status_->setFocused(true);
+  EXPECT_TRUE(provider_->shown());
+  EXPECT_FALSE(provider_->viewModel()->indicator());
+
+  ASSERT_TRUE(settings_.write(settings::focusShown, false));
+  EXPECT_FALSE(provider_->shown());
+  EXPECT_FALSE(provider_->viewModel()->shown());
+}
+
+TEST_F(FocusProviderTest, TheCommandRefusesWhatItCannotWrite) {
+  EXPECT_EQ(focusCommand({"on", "--symbol", "rocket"}), 2);
+  EXPECT_TRUE(errors_.contains("unknown symbol \"rocket\"")) << errors_.toStdString();
+  EXPECT_TRUE(errors_.contains("moon, person, briefcase, bed, car, book, gamecontroller, figure"));
+  EXPECT_EQ(focusCommand({"sideways"}), 2);
+  EXPECT_EQ(focusCommand({"off", "--name", "x"}), 2);
+  EXPECT_EQ(focusCommand({}), 2);
+  EXPECT_EQ(settings_.read(settings::focusFilterState), "");
+}
+
+TEST_F(FocusProviderTest, TheNoticeShowsTheSymbolAndName) {
+  provider_->start();
+  ASSERT_EQ(focusCommand({"on", "--name", "Deep Work", "--symbol", "book"}), 0);
+  const QImage shot = viewShot(ViewRegistry::compact(ActivityKind::focus)->source,
+                               provider_->viewModel(), {260, 32}, "focus-notice");
+  ASSERT_FALSE(shot.isNull());
+  // The symbol is drawn in the Focus colour on the left ear.
+  bool symbolDrawn = false;
+  for (int x = 10; x < 40 && !symbolDrawn; ++x) {
+    for (int y = 0; y < shot.height(); ++y) symbolDrawn |= qBlue(shot.pixel(x, y)) > 200;
+  }
+  EXPECT_TRUE(symbolDrawn);
+  EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/qml/FocusIdleItem.qml"), provider_->viewModel(),
+                        {140, 20}, "focus-indicator")
+                   .isNull());
+}
+
+}  // namespace
+}  // namespace tindra

@@ -1,0 +1,39 @@
+// NotificationServerFocusSource: do-not-disturb as the desktop's notification server reports it,
+// in the `Inhibited` property of org.freedesktop.Notifications (KDE Plasma and other servers).
+// It reads the property when the server appears and follows PropertiesChanged; a server without
+// the property, or none at all, leaves the state unknown and the check says why.
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusServiceWatcher>
+#include <QVariantMap>
+
+#include "focus/focus_status_source.h"
+
+namespace tindra {
+
+class NotificationServerFocusSource final : public FocusStatusSource {
+  Q_OBJECT
+
+ public:
+  explicit NotificationServerFocusSource(QDBusConnection bus, QObject* parent = nullptr);
+
+  void start() override;
+  std::optional<bool> focused() const override { return focused_; }
+  ServiceCheck check() const override { return check_; }
+
+ private slots:
+  void onPropertiesChanged(const QString& interface, const QVariantMap& changed,
+                           const QStringList& invalidated);
+
+ private:
+  void read();
+  void publish(std::optional<bool> focused, ServiceCheck check);
+
+  QDBusConnection bus_;
+  QDBusServiceWatcher watcher_;
+  std::optional<bool> focused_;
+  ServiceCheck check_;
+};
+
+}  // namespace tindra

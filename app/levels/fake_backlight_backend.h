@@ -1,0 +1,35 @@
+// FakeBacklightBackend: an invented light for the demo and tests, only when TINDRA_FAKE names
+// "hud". Writes take effect at once unless the test makes the light ignore them.
+#pragma once
+
+#include "levels/backlight_backend.h"
+
+namespace tindra {
+
+class FakeBacklightBackend final : public BacklightBackend {
+ public:
+  FakeBacklightBackend(QString device, double level, QObject* parent = nullptr)
+      : BacklightBackend(parent), device_(std::move(device)), level_(level) {}
+
+  void start() override {
+    setAccess(BrightnessAccess::readWrite, DiagnosticsLog::Outcome::degraded,
+              QStringLiteral("invented readings (TINDRA_FAKE asks for them)"));
+    change(level_);
+  }
+  void setLevel(double level) override {
+    if (!ignoresWrites) change(level);
+    emit writeFinished(level, reading() ? reading()->level : 0);
+  }
+
+  // What the system or another program does to the light.
+  void change(double level) { publish(BacklightReading{device_, level, false}); }
+  using BacklightBackend::setAccess;
+
+  bool ignoresWrites = false;
+
+ private:
+  QString device_;
+  double level_;
+};
+
+}  // namespace tindra

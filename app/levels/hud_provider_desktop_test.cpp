@@ -1,0 +1,166 @@
+// Runs in: private-session --xvfb --sound-server --system-bus
+// The indicator on a real desktop: a private PulseAudio, an Xvfb display where xdotool presses
+// the keys, a backlight folder and logind on a private system bus.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "base/activity_center.h"
+#include "base/diagnostics_log.h"
+#include "levels/linux/pulse_volume_backend.h"
+#include "levels/linux/sysfs_backlight_backend.h"
+#include "levels/linux/upower_keyboard_backlight_backend.h"
+#include "levels/linux/x11_media_key_source.h"
+#include "levels/hud_provider.h"
+#include "settings/settings_store.h"
+#include "testing/dbus_mock_service.h"
+
+namespace tindra {
+namespace {
+
+using Key = SystemDefinedKeyEvent::Key;
+
+QString run(const QString& program, const QStringList& arguments) {
+  QProcess process;
+  process.start(program, arguments);
+  process.waitForFinished(5000);
+  return QString::fromUtf8(process.readAllStandardOutput()).trimmed();
+}
+QString pactl(const QStringList& arguments) {
+  return run("pactl", arguments);
+}
+void press(const QString& key) {
+  run("xdotool", {"key", key});
+}
+bool waitFor(const std::function<bool()>& condition) {
+  return QTest::qWaitFor(condition, 5000);
+}
+
+class HudProviderDesktopTest : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    if (!qEnvironmentVariableIsSet("TINDRA_SOUND_SERVER") ||
+        qEnvironmentVariableIsEmpty("DISPLAY")) {
+      return;
+    }
+    pactl({"load-module", "module-null-sink", "sink_name=second"});
+    folder_ = std::make_unique<QTemporaryDir>();
+    QDir().mkpath(folder_->filePath("panel"));
+    for (const auto& [name, value] :
+         {std::pair{"max_brightness", "16"}, {"brightness", "8"}, {"actual_brightness", "8"}}) {
+      QFile file(folder_->filePath(QStringLiteral("panel/") + name));
+      if (file.open(QIODevice::WriteOnly)) file.write(value);
+    }
+    logind_ = std::make_unique<DBusMockService>(
+        QDBusConnection::systemBus(), QStringLiteral("org.freedesktop.login1"),
+        QStringList{"--template", TINDRA_SOURCE_DIR "/app/testing/logind_brightness.py",
+                    "--parameters", QStringLiteral("{\"folder\": \"%1\"}").arg(folder_->path())});
+    QString error;
+    if (!logind_->start(&error)) logind_.reset();
+  }
+  static void TearDownTestSuite() {
+    logind_.reset();
+    folder_.reset();
+  }
+
+  void SetUp() override {
+    if (!logind_)
+      GTEST_SKIP() << "needs scripts/private-session --xvfb --sound-server --system-bus";
+    pactl({"set-default-sink", "tindra_test"});
+    pactl({"set-sink-volume", "tindra_test", "50%"});
+    pactl({"set-sink-mute", "tindra_test", "0"});
+    auto keys = std::make_unique<X11MediaKeySource>();
+    keys_ = keys.get();
+    provider_ = std::make_unique<HudProvider>(
+        ProviderContext{activities_, settings_, diagnostics_},
+        HudBackends{
+            std::make_unique<PulseVolumeBackend>(),
+            std::make_unique<SysfsBacklightBackend>(folder_->path(), QDBusConnection::systemBus()),
+            std::make_unique<UPowerKeyboardBacklightBackend>(QDBusConnection::systemBus()),
+            std::move(keys)});
+    provider_->start();
+    ASSERT_TRUE(waitFor([&] { return provider_->keyContext().volumeControllable; }));
+  }
+
+  HudViewModel& view() { return *provider_->viewModel(); }
+  QString keysDiagnostic() const {
+    QString text;
+    for (const auto& entry : diagnostics_.entries()) {
+      if (entry.source == "keys") text = entry.text;
+    }
+    return text;
+  }
+
+  static inline std::unique_ptr<QTemporaryDir> folder_;
+  static inline std::unique_ptr<DBusMockService> logind_;
+  QTemporaryDir dir_;
+  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
+  ActivityCenter activities_{settings_};
+  DiagnosticsLog diagnostics_;
+  X11MediaKeySource* keys_ = nullptr;
+  std::unique_ptr<HudProvider> provider_;
+};
+
+TEST_F(HudProviderDesktopTest, VolumeKeysChangeTheServerAndShowOnce) {
+  QSignalSpy shows(&view(), &HudViewModel::changed);
+  press("XF86AudioRaiseVolume");
+  ASSERT_TRUE(waitFor([] { return pactl({"get-sink-volume", "tindra_test"}).contains("56%"); }));
+  EXPECT_EQ(view().percent(), 56);
+  EXPECT_EQ(activities_.current(), ActivityKind::hud);
+  QTest::qWait(300);  // the server's report of the write has come and gone
+  EXPECT_EQ(shows.count(), 1);
+
+  press("XF86AudioMute");
+  ASSERT_TRUE(waitFor([] { return pactl({"get-sink-mute", "tindra_test"}).contains("yes"); }));
+  EXPECT_EQ(view().symbol(), "speaker.slash.fill");
+
+  // A new default output (headphones plugged in) takes the keys' writes from then on.
+  pactl({"set-sink-volume", "second", "50%"});
+  pactl({"set-default-sink", "second"});
+  QTest::qWait(300);
+  press("XF86AudioLowerVolume");  // a fresh start on the new output: not muted, from 50 %
+  ASSERT_TRUE(waitFor([] { return pactl({"get-sink-volume", "second"}).contains("44%"); }));
+  EXPECT_EQ(pactl({"get-sink-mute", "second"}), "Mute: no");
+  pactl({"set-sink-volume", "second", "25%"});
+  ASSERT_TRUE(waitFor([&] { return view().percent() == 25; }));  // shown: changed elsewhere
+}
+
+TEST_F(HudProviderDesktopTest, AKeyAnotherProgramHoldsIsOnlyWatched) {
+  provider_.reset();  // let the other program take the mute key first
+  X11MediaKeySource other;
+  other.setWanted({{Key::mute, {}}});
+  SetUp();
+  EXPECT_TRUE(keysDiagnostic().contains("only watches the level for XF86AudioMute"))
+      << keysDiagnostic().toStdString();
+  pactl({"set-sink-mute", "tindra_test", "1"});  // what that program does with the key
+  ASSERT_TRUE(waitFor([&] { return view().muted(); }));
+  EXPECT_EQ(activities_.current(), ActivityKind::hud);
+}
+
+TEST_F(HudProviderDesktopTest, BrightnessKeysWriteThroughLogind) {
+  press("XF86MonBrightnessUp");  // 8/16 on to 9/16
+  ASSERT_TRUE(waitFor([&] {
+    QFile file(folder_->filePath("panel/brightness"));
+    return file.open(QIODevice::ReadOnly) && file.readAll().trimmed() == "9";
+  }));
+  EXPECT_EQ(view().kind(), "brightness");
+  EXPECT_EQ(view().percent(), 56);
+}
+
+// Runs last: it leaves the server without outputs.
+TEST_F(HudProviderDesktopTest, WithoutAnOutputTheVolumeKeysGoBackToTheDesktop) {
+  pactl({"unload-module", "module-null-sink"});
+  ASSERT_TRUE(waitFor([&] { return !provider_->keyContext().volumeControllable; }));
+  EXPECT_TRUE(keysDiagnostic().contains("leaves XF86AudioRaiseVolume"));
+  X11MediaKeySource desktop;  // the desktop can take the key now
+  desktop.setWanted({{Key::soundUp, {}}});
+  EXPECT_TRUE(desktop.refused().empty());
+}
+
+}  // namespace
+}  // namespace tindra

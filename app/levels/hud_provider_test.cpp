@@ -1,0 +1,167 @@
+#include "levels/hud_provider.h"
+
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include "base/activity_center.h"
+#include "base/diagnostics_log.h"
+#include "levels/fake_backlight_backend.h"
+#include "levels/fake_volume_backend.h"
+#include "settings/settings_keys.h"
+#include "settings/settings_store.h"
+#include "levels/fake_media_key_source.h"
+#include "testing/manual_one_shot_scheduler.h"
+
+namespace tindra {
+namespace {
+
+using Key = SystemDefinedKeyEvent::Key;
+
+// The provider on fakes, with a clock the test moves.
+class HudProviderTest : public ::testing::Test {
+ protected:
+  HudProviderTest()
+      : settings_(dir_.filePath("settings.json").toStdString(), [] { return 0.0; }),
+        activities_(
+            settings_, [this] { return now_; },
+            std::unique_ptr<OneShotScheduler>(new ManualOneShotScheduler)) {
+    auto volume = std::make_unique<FakeVolumeBackend>();
+    auto display = std::make_unique<FakeBacklightBackend>("panel", 0.5);
+    auto keyboard = std::make_unique<FakeBacklightBackend>("keyboard", 0.5);
+    auto keys = std::make_unique<FakeMediaKeySource>();
+    volume_ = volume.get();
+    display_ = display.get();
+    keyboard_ = keyboard.get();
+    keys_ = keys.get();
+    provider_ = std::make_unique<HudProvider>(
+        ProviderContext{activities_, settings_, diagnostics_},
+        HudBackends{std::move(volume), std::move(display), std::move(keyboard), std::move(keys)});
+  }
+
+  HudViewModel& view() { return *provider_->viewModel(); }
+  QString lastDiagnostic(const QString& source) const {
+    QString text;
+    for (const auto& entry : diagnostics_.entries()) {
+      if (entry.source == source) text = entry.text;
+    }
+    return text;
+  }
+
+  QTemporaryDir dir_;
+  double now_ = 100;
+  SettingsStore settings_;
+  ActivityCenter activities_;
+  DiagnosticsLog diagnostics_;
+  FakeVolumeBackend* volume_;
+  FakeBacklightBackend* display_;
+  FakeBacklightBackend* keyboard_;
+  FakeMediaKeySource* keys_;
+  std::unique_ptr<HudProvider> provider_;
+};
+
+TEST_F(HudProviderTest, VolumeKeysStepFromWhatWasWrittenAndShowItOnce) {
+  provider_->start();
+  QSignalSpy changes(&view(), &HudViewModel::changed);
+  EXPECT_EQ(activities_.current(), ActivityKind::idle);  // the first reading shows nothing
+  EXPECT_TRUE(keys_->holds(Key::soundUp));
+  EXPECT_TRUE(keys_->holds(Key::soundUp, KeyModifiers::option() | KeyModifiers::shift()));
+  EXPECT_FALSE(keys_->holds(Key::soundUp, KeyModifiers::option()));  // Option alone stays
+
+  keys_->tap(Key::soundUp);  // 0.6 lies between grid points: on to 10/16
+  EXPECT_EQ(volume_->reading()->level, 0.625);
+  EXPECT_EQ(view().percent(), 63);
+  EXPECT_EQ(activities_.current(), ActivityKind::hud);
+  EXPECT_EQ(changes.count(), 1);  // the server's echo of the write is not a second show
+
+  // A late echo of the first write, after a second press, neither shows nor moves the bar back.
+  now_ += 0.1;
+  keys_->tap(Key::soundUp, KeyModifiers::option() | KeyModifiers::shift());
+  EXPECT_EQ(view().level(), 0.625 + 1.0 / 64);
+  volume_->publish(VolumeReading{"invented-output", 0.625, false, AudioTransport::builtIn});
+  EXPECT_EQ(view().level(), 0.625 + 1.0 / 64);
+  EXPECT_EQ(changes.count(), 2);
+  EXPECT_NEAR(view().glideSeconds(), 0.1, 1e-9);  // presses close together glide
+  // No desktop preference and the fallback off, so only Shift (here with Option) plays it.
+  EXPECT_EQ(volume_->feedbackPlayed, 1);
+
+  now_ += 5;
+  keys_->tap(Key::mute);
+  EXPECT_TRUE(volume_->reading()->muted);
+  EXPECT_EQ(view().symbol(), "speaker.slash.fill");
+  EXPECT_EQ(view().glideSeconds(), 0);  // an isolated press settles
+  keys_->tap(Key::soundDown);           // lowering keeps the mute
+  EXPECT_TRUE(volume_->reading()->muted);
+  keys_->tap(Key::soundUp);
+  EXPECT_FALSE(volume_->reading()->muted);
+  EXPECT_EQ(volume_->feedbackPlayed, 1);
+  ASSERT_TRUE(settings_.write(settings::volumeFeedbackFallback, true));
+  keys_->tap(Key::soundUp);
+  EXPECT_EQ(volume_->feedbackPlayed, 2);
+}
+
+TEST_F(HudProviderTest, ChangesMadeElsewhereShowUnlessTheyComeWithANewOutput) {
+  provider_->start();
+  QSignalSpy changes(&view(), &HudViewModel::changed);
+  volume_->publish(VolumeReading{"invented-output", 0.3, false, AudioTransport::builtIn});
+  EXPECT_EQ(view().percent(), 30);
+  volume_->publish(VolumeReading{"headphones", 0.8, false, AudioTransport::usb});
+  display_->change(0.9);
+  EXPECT_EQ(view().kind(), "brightness");
+  EXPECT_EQ(changes.count(), 2);
+
+  // The keyboard light is watched only while its setting is on.
+  keyboard_->change(0.2);
+  EXPECT_EQ(changes.count(), 2);
+  ASSERT_TRUE(settings_.write(settings::experimentalKeyboardBacklight, true));
+  keyboard_->change(0.3);
+  EXPECT_EQ(view().kind(), "keyboardBacklight");
+  ASSERT_TRUE(settings_.write(settings::volumeHUDEnabled, false));
+  volume_->publish(VolumeReading{"headphones", 0.1, false, AudioTransport::usb});
+  EXPECT_EQ(view().kind(), "keyboardBacklight");
+}
+
+TEST_F(HudProviderTest, KeysAreHeldOnlyWhereTindraCanChangeTheLevel) {
+  keys_->heldElsewhere = {Key::brightnessUp};
+  provider_->start();
+  EXPECT_FALSE(keys_->holds(Key::illuminationUp));  // the keyboard light is off by default
+  EXPECT_TRUE(lastDiagnostic("keys").contains("only watches the level for XF86MonBrightnessUp"));
+  EXPECT_TRUE(lastDiagnostic("keys").contains("leaves XF86KbdBrightnessUp"));
+
+  display_->setAccess(BrightnessAccess::readOnly, DiagnosticsLog::Outcome::degraded, "no logind");
+  EXPECT_FALSE(keys_->holds(Key::brightnessDown));
+  EXPECT_EQ(provider_->keyContext().brightness, BrightnessAccess::readOnly);
+
+  ASSERT_TRUE(settings_.write(settings::volumeHUDEnabled, false));
+  EXPECT_FALSE(keys_->holds(Key::soundUp));
+  ASSERT_TRUE(settings_.write(settings::volumeHUDEnabled, true));
+  volume_->publish(VolumeReading{"fixed", 1, false, AudioTransport::hdmi, false, false});
+  EXPECT_FALSE(keys_->holds(Key::soundUp));  // an output without a volume yields its keys
+  volume_->publish(std::nullopt);
+  EXPECT_FALSE(provider_->keyContext().volumeControllable);
+}
+
+TEST_F(HudProviderTest, LightKeysStepTheLightAndIgnoredKeyboardWritesGiveTheKeysBack) {
+  ASSERT_TRUE(settings_.write(settings::experimentalKeyboardBacklight, true));
+  provider_->start();
+  keys_->tap(Key::brightnessDown);
+  EXPECT_EQ(display_->reading()->level, 0.4375);
+  EXPECT_EQ(view().symbol(), "sun.min.fill");
+
+  EXPECT_TRUE(keys_->holds(Key::illuminationUp));
+  keys_->tap(Key::illuminationUp);
+  EXPECT_EQ(keyboard_->reading()->level, 0.5625);
+  keyboard_->ignoresWrites = true;
+  now_ += 5;
+  keys_->tap(Key::illuminationUp);
+  EXPECT_TRUE(keys_->holds(Key::illuminationUp));  // one ignored write is not yet a pattern
+  now_ += 5;
+  keys_->tap(Key::illuminationUp);
+  EXPECT_FALSE(keys_->holds(Key::illuminationUp));
+  EXPECT_EQ(provider_->keyContext().keyboardBacklight, KeyboardBacklightAccess::readOnly);
+  EXPECT_TRUE(lastDiagnostic("keyboard light").contains("ignores Tindra's changes"));
+}
+
+}  // namespace
+}  // namespace tindra

@@ -1,0 +1,139 @@
+#include "levels/linux/pulse_volume_backend.h"
+
+#include <QFile>
+#include <algorithm>
+#include <cmath>
+
+#include "base/assign_if_changed.h"
+#include "power/bluetooth_address.h"
+
+namespace tindra {
+
+namespace {
+
+std::optional<PulseSample::Sound> tickSound() {
+  QFile file(QStringLiteral(":/sounds/tindra-volume-tick.wav"));
+  return file.open(QIODevice::ReadOnly) ? PulseSample::fromWav(file.readAll()) : std::nullopt;
+}
+
+}  // namespace
+
+PulseVolumeBackend::PulseVolumeBackend(std::shared_ptr<PulseConnection> connection, QObject* parent)
+    : VolumeBackend(parent),
+      connection_(std::move(connection)),
+      tick_(*connection_, "tindra-volume-tick", tickSound()) {
+  connect(connection_.get(), &PulseConnection::readyChanged, this, [this](bool ready) {
+    if (ready) {
+      setCheck(DiagnosticsLog::Outcome::ok, tr("following the sound server's default output"));
+      readDefaultSink();
+    } else {
+      setCheck(DiagnosticsLog::Outcome::degraded,
+               tr("the sound server went away: no volume until it returns"));
+      publish(std::nullopt);
+    }
+  });
+  connect(connection_.get(), &PulseConnection::changed, this, &PulseVolumeBackend::readDefaultSink);
+}
+
+void PulseVolumeBackend::start() {
+  connection_->start();
+}
+
+AudioTransport PulseVolumeBackend::transportOf(const QString& bus, const QString& nameAndPort) {
+  const QString name = nameAndPort.toLower();
+  if (bus == QLatin1String("bluetooth")) return AudioTransport::bluetooth;
+  if (bus == QLatin1String("usb")) return AudioTransport::usb;
+  if (name.contains(QLatin1String("hdmi"))) return AudioTransport::hdmi;
+  if (name.contains(QLatin1String("displayport"))) return AudioTransport::displayPort;
+  if (bus == QLatin1String("pci") || bus == QLatin1String("isa")) return AudioTransport::builtIn;
+  return AudioTransport::other;
+}
+
+std::optional<std::string> PulseVolumeBackend::bluetoothAddressOf(const QString& bus,
+                                                                  const QString& address,
+                                                                  const QString& deviceString,
+                                                                  const QString& name) {
+  if (bus != QLatin1String("bluetooth")) return std::nullopt;
+  for (const QString& candidate : {address, deviceString, name.section(u'.', 1, 1)}) {
+    if (auto canonical = BluetoothAddress::normalized(candidate.toStdString())) return canonical;
+  }
+  return std::nullopt;
+}
+
+void PulseVolumeBackend::readDefaultSink() {
+  connection_->run([this](pa_context* context) {
+    // "@DEFAULT_SINK@" follows the server's current default.
+    pa_operation* operation = pa_context_get_sink_info_by_name(
+        context, "@DEFAULT_SINK@",
+        [](pa_context*, const pa_sink_info* sink, int last, void* data) {
+          auto* request = static_cast<PulseRequest<PulseVolumeBackend>*>(data);
+          if (last < 0) {
+            // No default output (the server has none): nothing to set, the keys go back.
+            request->answer([](PulseVolumeBackend& backend) { backend.publish(std::nullopt); });
+          }
+          if (last != 0 || sink == nullptr) {
+            delete request;
+            return;
+          }
+          VolumeReading reading;
+          reading.output = QString::fromUtf8(sink->name);
+          reading.level = static_cast<double>(pa_cvolume_avg(&sink->volume)) /
+                          static_cast<double>(PA_VOLUME_NORM);
+          reading.muted = sink->mute != 0;
+          reading.volumeSettable = sink->volume.channels > 0;
+          const QString port =
+              sink->active_port ? QString::fromUtf8(sink->active_port->name) : QString();
+          const QString bus = pulseProperty(sink->proplist, PA_PROP_DEVICE_BUS);
+          reading.transport = transportOf(bus, reading.output + u' ' + port);
+          reading.bluetoothAddress = bluetoothAddressOf(
+              bus, pulseProperty(sink->proplist, "api.bluez5.address"),
+              pulseProperty(sink->proplist, PA_PROP_DEVICE_STRING), reading.output);
+          const int channels = sink->volume.channels;
+          request->answer([reading, channels](PulseVolumeBackend& backend) {
+            backend.channels_ = channels;
+            backend.publish(reading);
+          });
+        },
+        new PulseRequest<PulseVolumeBackend>{connection_.get(), this});
+    if (operation) pa_operation_unref(operation);
+  });
+}
+
+void PulseVolumeBackend::setLevel(double level) {
+  if (!reading_) return;
+  const QByteArray sink = reading_->output.toUtf8();
+  const double clamped = std::clamp(level, 0.0, 1.0);
+  const int channels = channels_;
+  connection_->run([sink, clamped, channels](pa_context* context) {
+    pa_cvolume volume;
+    pa_cvolume_set(&volume, static_cast<unsigned>(channels),
+                   static_cast<pa_volume_t>(std::lround(clamped * PA_VOLUME_NORM)));
+    pa_operation* operation =
+        pa_context_set_sink_volume_by_name(context, sink.constData(), &volume, nullptr, nullptr);
+    if (operation) pa_operation_unref(operation);
+  });
+}
+
+void PulseVolumeBackend::setMuted(bool muted) {
+  if (!reading_) return;
+  const QByteArray sink = reading_->output.toUtf8();
+  connection_->run([sink, muted](pa_context* context) {
+    pa_operation* operation = pa_context_set_sink_mute_by_name(context, sink.constData(),
+                                                               muted ? 1 : 0, nullptr, nullptr);
+    if (operation) pa_operation_unref(operation);
+  });
+}
+
+void PulseVolumeBackend::playFeedback() {
+  if (reading_) tick_.play(reading_->output);
+}
+
+void PulseVolumeBackend::publish(std::optional<VolumeReading> reading) {
+  if (assignIfChanged(reading_, std::move(reading))) emit readingChanged();
+}
+
+void PulseVolumeBackend::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
+  if (assignIfChanged(check_, ServiceCheck{outcome, text})) emit checkChanged();
+}
+
+}  // namespace tindra

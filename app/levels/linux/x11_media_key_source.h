@@ -1,0 +1,56 @@
+// X11MediaKeySource: the media keys on an X11 desktop, through a connection of its own to the X
+// server. It holds each wanted key and modifier combination as a passive grab on the root window
+// (whatever Num Lock and Caps Lock say), so those presses come to Tindra and not to the desktop;
+// a grab that another program already holds is given up at once and reported. Keyboard layout
+// changes are followed. Nothing is polled: the connection's socket wakes it.
+#pragma once
+
+#include <xcb/xcb.h>
+
+#include <QSocketNotifier>
+#include <map>
+#include <memory>
+#include <set>
+
+#include "levels/media_key_source.h"
+
+namespace tindra {
+
+class X11MediaKeySource final : public MediaKeySource {
+  Q_OBJECT
+
+ public:
+  // Connects to $DISPLAY; check() says so when that fails.
+  explicit X11MediaKeySource(QObject* parent = nullptr);
+  ~X11MediaKeySource() override;
+
+  void start() override {}
+  void setWanted(const std::vector<KeyGrab>& wanted) override;
+  std::vector<KeyGrab> refused() const override { return refused_; }
+  ServiceCheck check() const override { return check_; }
+
+  // X's modifier bits and Tindra's: Alt is Option, Super is Command.
+  static KeyModifiers modifiersFromState(std::uint16_t state);
+  static std::uint16_t stateFromModifiers(KeyModifiers modifiers);
+
+ private:
+  void readKeyboardMapping();
+  bool grab(const KeyGrab& combination);
+  void ungrab(const KeyGrab& combination);
+  void regrabAll();
+  void readEvents();
+  void handle(const xcb_generic_event_t& event);
+  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
+
+  xcb_connection_t* connection_ = nullptr;
+  xcb_window_t root_ = 0;
+  std::unique_ptr<QSocketNotifier> notifier_;
+  std::map<xcb_keycode_t, SystemDefinedKeyEvent::Key> keys_;
+  std::vector<KeyGrab> wanted_;
+  std::vector<KeyGrab> held_;
+  std::vector<KeyGrab> refused_;
+  std::set<xcb_keycode_t> down_;  // for telling auto-repeat from a new press
+  ServiceCheck check_;
+};
+
+}  // namespace tindra

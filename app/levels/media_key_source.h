@@ -1,0 +1,53 @@
+// MediaKeySource: the volume, brightness and keyboard-light keys, taken from the desktop only
+// where Tindra handles them. The provider says which key and modifier combinations it wants;
+// the source holds exactly those, and reports the ones another program already holds (Tindra
+// then only watches the level that program changes).
+#pragma once
+
+#include <QObject>
+#include <chrono>
+#include <vector>
+
+#include "hud/key_modifiers.h"
+#include "hud/system_defined_key_event.h"
+#include "base/service_check.h"
+
+namespace tindra {
+
+struct KeyGrab {
+  SystemDefinedKeyEvent::Key key;
+  KeyModifiers modifiers;
+
+  friend bool operator==(const KeyGrab&, const KeyGrab&) = default;
+};
+
+struct MediaKeyPress {
+  SystemDefinedKeyEvent::Key key;
+  bool isKeyDown = true;
+  bool isRepeat = false;
+  KeyModifiers modifiers;
+  std::chrono::steady_clock::time_point receivedAt;  // when Tindra read the event
+};
+
+class MediaKeySource : public QObject {
+  Q_OBJECT
+
+ public:
+  using QObject::QObject;
+
+  virtual void start() = 0;
+  // Holds exactly `wanted` from now on, releasing the rest.
+  virtual void setWanted(const std::vector<KeyGrab>& wanted) = 0;
+  // The keys of `wanted` that another program holds.
+  virtual std::vector<KeyGrab> refused() const = 0;
+  virtual ServiceCheck check() const = 0;
+
+ signals:
+  void pressed(const tindra::MediaKeyPress& press);
+  void checkChanged();
+};
+
+// A key's name for logs and diagnostics: "XF86AudioRaiseVolume".
+QString keyName(SystemDefinedKeyEvent::Key key);
+
+}  // namespace tindra

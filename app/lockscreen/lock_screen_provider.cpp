@@ -1,0 +1,60 @@
+#include "lockscreen/lock_screen_provider.h"
+
+#include "base/diagnostics_log.h"
+#include "base/logging_categories.h"
+#include "base/qt_text.h"
+#include "settings/settings_keys.h"
+#include "settings/settings_store.h"
+
+namespace tindra {
+
+LockScreenProvider::LockScreenProvider(ProviderContext context,
+                                       std::unique_ptr<LockStateSource> source,
+                                       LockSessionGuard guard, std::function<double()> now,
+                                       QObject* parent)
+    : Provider(context, parent),
+      source_(std::move(source)),
+      guard_(std::move(guard)),
+      now_(std::move(now)) {
+  source_->setParent(nullptr);  // owned here, not by the Qt tree
+  connect(source_.get(), &LockStateSource::changed, this, &LockScreenProvider::onChanged);
+  connect(source_.get(), &LockStateSource::checkChanged, this, &LockScreenProvider::recordCheck);
+}
+
+void LockScreenProvider::start() {
+  judgeLastLaunch();
+  recordCheck();
+  source_->start();
+}
+
+void LockScreenProvider::recordCheck() {
+  const ServiceCheck check = source_->check();
+  diagnostics().record(lcLockScreen(), name(), check.outcome, check.text);
+}
+
+void LockScreenProvider::judgeLastLaunch() {
+  const LockSessionPolicy::Launch launch = guard_.launch();
+  const auto* disable = std::get_if<LockSessionPolicy::Disable>(&launch.verdict);
+  if (!disable) return;
+  qCWarning(lcLockScreen).noquote()
+      << "lock-screen session guard:" << toQString(LockScreenNotice::message(disable->reason));
+  const LockScreenNotice notice{disable->reason, now_(), guard_.osVersion()};
+  for (const LockScreenFeature feature : LockSessionPolicy::featuresToTurnOff(
+           launch.verdict, settings().read(settings::experimentalLockScreen),
+           settings().read(settings::lockScreenNotch))) {
+    (void)settings().writeStored(enabledSettingName(feature), JSONValue(false));
+    (void)settings().writeStored(noticeSettingName(feature), JSONValue(notice.settingText()));
+  }
+}
+
+void LockScreenProvider::onChanged(LockScreenPresence::Event event) {
+  const bool wasLocked = locked();
+  for (const LockScreenPresence::Action action : presence_.handle(event)) {
+    if (action == LockScreenPresence::Action::beginSession) guard_.begin(now_());
+    if (action == LockScreenPresence::Action::endSession) guard_.end();
+  }
+  qCInfo(lcLockScreen).noquote() << "screen" << toQString(tindra::name(event));
+  if (locked() != wasLocked) emit lockedChanged(locked());
+}
+
+}  // namespace tindra

@@ -1,0 +1,136 @@
+#include "media/now_playing_provider.h"
+
+#include <QDateTime>
+
+#include "base/activity_center.h"
+#include "base/diagnostics_log.h"
+#include "base/logging_categories.h"
+#include "nowplaying/now_playing_activity_policy.h"
+#include "settings/settings_keys.h"
+#include "settings/settings_store.h"
+
+namespace tindra {
+
+namespace {
+
+SpectrumTarget spectrumTarget(const NowPlayingSnapshot& snapshot) {
+  return {snapshot.processIdentifier,
+          QString::fromStdString(snapshot.bundleIdentifier.value_or(std::string())),
+          QString::fromStdString(snapshot.parentBundleIdentifier.value_or(std::string()))};
+}
+
+}  // namespace
+
+NowPlayingProvider::NowPlayingProvider(ProviderContext context, SourceFactory makeSource,
+                                       std::unique_ptr<AdapterProbe> probe,
+                                       std::unique_ptr<ArtworkFetcher> fetcher,
+                                       std::unique_ptr<ProcessTapSession> tap, QObject* parent)
+    : Provider(context, parent),
+      makeSource_(std::move(makeSource)),
+      probe_(std::move(probe)),
+      fetcher_(std::move(fetcher)),
+      artwork_(
+          *fetcher_, [this] { return settings().read(settings::artworkOnlineLookup); },
+          [] { return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0; }),
+      spectrum_(std::move(tap), spectrumBands),
+      viewModel_([this](const NowPlayingCommand& command) { send(command); }, nullptr, &spectrum_) {
+  spectrum_.setEnabled(settings().read(settings::liveWaveform));
+  spectrumSetting_ = settings().observe(settings::liveWaveform,
+                                        [this](bool enabled) { spectrum_.setEnabled(enabled); });
+  if (probe_) connect(probe_.get(), &AdapterProbe::finished, this, &NowPlayingProvider::onProbed);
+  connect(&artwork_, &ArtworkService::changed, this, &NowPlayingProvider::showCover);
+}
+
+void NowPlayingProvider::showCover() {
+  const auto& artwork = artwork_.current();
+  const bool tinted =
+      settings().read(settings::nowPlayingProgressTint) == NowPlayingProgressTint::artwork;
+  QColor bar;
+  if (artwork && artwork->tint && tinted) {
+    bar = QColor::fromRgbF(static_cast<float>(artwork->tint->red),
+                           static_cast<float>(artwork->tint->green),
+                           static_cast<float>(artwork->tint->blue));
+  }
+  viewModel_.setCover(artwork ? artwork->image : QImage(), bar);
+}
+
+NowPlayingProvider::~NowPlayingProvider() = default;
+
+NowPlayingSourceMode NowPlayingProvider::sourceMode() const {
+  return settings().read(settings::nowPlayingSourceMode);
+}
+
+NowPlayingPausedLinger NowPlayingProvider::pausedLinger() const {
+  return settings().read(settings::nowPlayingPausedLinger);
+}
+
+void NowPlayingProvider::start() {
+  if (sourceMode() == NowPlayingSourceMode::appleScriptOnly) {
+    diagnostics().record(lcNowPlaying(), name(), DiagnosticsLog::Outcome::degraded,
+                         tr("Settings ask for the player scripts, which this desktop "
+                            "does not have: nothing is shown as playing."));
+    return;
+  }
+  if (probe_) {
+    diagnostics().record(lcNowPlaying(), name(), DiagnosticsLog::Outcome::ok,
+                         tr("testing the now-playing adapter %1")
+                             .arg(QString::fromStdString(probe_->launch().program)));
+    probe_->run();
+  } else {
+    startSource();
+  }
+}
+
+void NowPlayingProvider::onProbed(const AdapterProbeResult& result, const QString& text) {
+  const bool passed = result == AdapterProbeResult::passed();
+  diagnostics().record(lcNowPlaying(), name(),
+                       passed ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::failed,
+                       text);
+  if (passed && !source_) startSource();
+  if (!passed) dropSource();
+}
+
+void NowPlayingProvider::startSource() {
+  source_ = makeSource_();
+  connect(source_.get(), &NowPlayingSource::snapshotArrived, this, &NowPlayingProvider::show);
+  connect(source_.get(), &NowPlayingSource::repeatedFailure, this, [this] {
+    if (probe_) probe_->run();  // keeps the source if the adapter still passes
+  });
+  source_->start();
+}
+
+void NowPlayingProvider::dropSource() {
+  if (!source_) return;
+  source_->stop();
+  source_.reset();
+  show(std::nullopt);
+}
+
+void NowPlayingProvider::show(const std::optional<NowPlayingSnapshot>& snapshot) {
+  const std::optional<ActivityEvent> event =
+      NowPlayingActivityPolicy::event(snapshot, wasPlaying_, pausedLinger());
+  wasPlaying_ = snapshot && snapshot->isPlaying;
+  if (snapshot && (!viewModel_.snapshot() || viewModel_.snapshot()->title != snapshot->title)) {
+    qCDebug(lcNowPlaying).noquote() << "now playing:" << QString::fromStdString(snapshot->title);
+  }
+  viewModel_.setSnapshot(snapshot);
+  artwork_.show(snapshot);
+  spectrum_.setTarget(snapshot ? std::optional(spectrumTarget(*snapshot)) : std::nullopt,
+                      snapshot && snapshot->isPlaying);
+  if (event) activities().offer(*event);
+}
+
+void NowPlayingProvider::swiped(SwipeDirection direction) {
+  if (!settings().read(settings::swipeChangesTrack)) return;
+  if (direction == SwipeDirection::left) send(NowPlayingCommand::nextTrack());
+  if (direction == SwipeDirection::right) send(NowPlayingCommand::previousTrack());
+}
+
+void NowPlayingProvider::send(const NowPlayingCommand& command) {
+  if (!source_ || !viewModel_.snapshot() || !viewModel_.snapshot()->capabilities.allows(command)) {
+    return;
+  }
+  source_->send(command);
+}
+
+}  // namespace tindra

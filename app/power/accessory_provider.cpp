@@ -1,0 +1,102 @@
+#include "power/accessory_provider.h"
+
+#include "base/activity_center.h"
+#include "base/diagnostics_log.h"
+#include "base/logging_categories.h"
+#include "power/battery_threshold.h"
+#include "settings/settings_keys.h"
+
+namespace tindra {
+
+AccessoryProvider::AccessoryProvider(ProviderContext context,
+                                     std::unique_ptr<AccessoryBackend> backend,
+                                     std::shared_ptr<VolumeBackend> output,
+                                     std::shared_ptr<SoundPlayer> sounds, QObject* parent)
+    : Provider(context, parent),
+      backend_(std::move(backend)),
+      output_(std::move(output)),
+      sounds_(std::move(sounds)) {
+  connect(backend_.get(), &AccessoryBackend::changed, this, &AccessoryProvider::onChanged);
+  connect(backend_.get(), &AccessoryBackend::checkChanged, this, &AccessoryProvider::recordCheck);
+  if (output_) {
+    connect(output_.get(), &VolumeBackend::readingChanged, this,
+            [this] { followOutput(backend_->connected()); });
+  }
+  drawingSettings_ = settings().observe({std::string(settings::accessoryBatteryStyle.name),
+                                         std::string(settings::accessoryLowThreshold.name)},
+                                        [this](std::string_view) { applyDrawingSettings(); });
+  applyDrawingSettings();
+}
+
+void AccessoryProvider::start() {
+  recordCheck();
+  backend_->start();
+  if (output_) output_->start();
+  onChanged();
+}
+
+void AccessoryProvider::recordCheck() {
+  const ServiceCheck check = backend_->check();
+  diagnostics().record(lcBluetooth(), name(), check.outcome, check.text);
+}
+
+void AccessoryProvider::applyDrawingSettings() {
+  viewModel_.setDrawing(
+      settings().read(settings::accessoryBatteryStyle),
+      BatteryThreshold::clamped(settings().read(settings::accessoryLowThreshold)));
+}
+
+AccessoryNoticeTracker::Settings AccessoryProvider::noticeSettings() const {
+  return {settings().read(settings::accessoryConnectNotices),
+          settings().read(settings::accessoryDisconnectNotice),
+          settings().read(settings::accessoryLowAlert),
+          static_cast<int>(settings().read(settings::accessoryLowThreshold))};
+}
+
+void AccessoryProvider::onChanged() {
+  // Until the backend has read what is there, an empty list would make every device already
+  // connected look as if it had just connected.
+  if (!backend_->ready()) return;
+  const std::vector<BluetoothAccessory> connected = backend_->connected();
+  viewModel_.setAccessories(connected);
+  for (const AccessoryNotice& notice : tracker_.observe(connected, noticeSettings())) {
+    if (notice.kind == AccessoryNotice::Kind::connected && notice.accessory.address) {
+      routes_.connectNoticeShown(*notice.accessory.address, activities().now());
+    }
+    show(notice);
+  }
+  // The sound server may have moved the sound to a device Bluetooth only now reports.
+  followOutput(connected);
+}
+
+void AccessoryProvider::followOutput(const std::vector<BluetoothAccessory>& connected) {
+  if (!output_) return;
+  const std::optional<VolumeReading> reading = output_->reading();
+  if (!reading) {
+    routes_.outputLost();
+    return;
+  }
+  const std::optional<BluetoothAccessory> moved =
+      routes_.observe(reading->bluetoothAddress, connected, activities().now());
+  if (!moved) return;
+  qCInfo(lcBluetooth).noquote() << "sound moved to accessory:"
+                                << QString::fromStdString(moved->name) << reading->output;
+  if (settings().read(settings::accessoryRouteNotice)) {
+    show({AccessoryNotice::Kind::routed, *moved, std::nullopt});
+  }
+}
+
+void AccessoryProvider::show(const AccessoryNotice& notice) {
+  viewModel_.setNotice(notice);
+  qCInfo(lcBluetooth).noquote() << "accessory notice:" << viewModel_.notice()
+                                << QString::fromStdString(notice.accessory.name);
+  activities().offer(ActivityEvent::began(ActivityKind::accessory, notice.duration()));
+  if (!sounds_ || !settings().read(settings::playSounds)) return;
+  if (notice.kind == AccessoryNotice::Kind::connected) {
+    sounds_->play(QStringLiteral("tindra-charging"));
+  } else if (notice.kind == AccessoryNotice::Kind::low) {
+    sounds_->play(QStringLiteral("tindra-low-battery"));
+  }
+}
+
+}  // namespace tindra

@@ -1,0 +1,81 @@
+#include "power/battery_provider.h"
+
+#include "base/activity_center.h"
+#include "base/diagnostics_log.h"
+#include "base/logging_categories.h"
+#include "power/battery_power_notice_migration.h"
+#include "settings/settings_keys.h"
+#include "settings/settings_store.h"
+
+namespace tindra {
+
+namespace {
+
+std::optional<bool> storedBool(const SettingsStore& settings, std::string_view name) {
+  const JSONValue* value = settings.stored(name);
+  const bool* flag = value ? value->asBool() : nullptr;
+  return flag ? std::optional(*flag) : std::nullopt;
+}
+
+}  // namespace
+
+BatteryProvider::BatteryProvider(ProviderContext context, std::unique_ptr<BatteryBackend> backend,
+                                 std::shared_ptr<SoundPlayer> sounds, QObject* parent)
+    : Provider(context, parent), backend_(std::move(backend)), sounds_(std::move(sounds)) {
+  backend_->setParent(nullptr);  // owned here, not by the Qt tree
+  connect(backend_.get(), &BatteryBackend::readingChanged, this, &BatteryProvider::onReading);
+  connect(backend_.get(), &BatteryBackend::checkChanged, this, &BatteryProvider::recordCheck);
+}
+
+void BatteryProvider::start() {
+  migrateOldSetting();
+  recordCheck();
+  backend_->start();
+  onReading();
+}
+
+void BatteryProvider::recordCheck() {
+  const ServiceCheck check = backend_->check();
+  diagnostics().record(lcBattery(), name(), check.outcome, check.text);
+}
+
+// The single power-notice setting of earlier versions becomes the two it was split into.
+void BatteryProvider::migrateOldSetting() {
+  const std::optional<BatteryPowerNoticeMigration> migration = BatteryPowerNoticeMigration::migrate(
+      storedBool(settings(), BatteryPowerNoticeMigration::oldKey),
+      storedBool(settings(), settings::batteryPluggedInNotice.name),
+      storedBool(settings(), settings::batteryUnpluggedNotice.name));
+  if (!migration) return;
+  if (migration->pluggedInNotice) {
+    (void)settings().write(settings::batteryPluggedInNotice, *migration->pluggedInNotice);
+  }
+  if (migration->unpluggedNotice) {
+    (void)settings().write(settings::batteryUnpluggedNotice, *migration->unpluggedNotice);
+  }
+  (void)settings().resetStored(BatteryPowerNoticeMigration::oldKey);
+}
+
+BatteryNoticeTracker::Settings BatteryProvider::noticeSettings() const {
+  return BatteryNoticeTracker::Settings(settings().read(settings::batteryPluggedInNotice),
+                                        settings().read(settings::batteryUnpluggedNotice),
+                                        settings().read(settings::batteryLowAlert),
+                                        settings().read(settings::batteryLowThreshold));
+}
+
+void BatteryProvider::onReading() {
+  const std::optional<BatteryStatus> reading = backend_->reading();
+  viewModel_.setReading(reading);
+  if (!reading) return;
+  const std::optional<BatteryNotice> notice = tracker_.observe(*reading, noticeSettings());
+  if (!notice) return;
+  viewModel_.setNotice(*notice);
+  qCInfo(lcBattery).noquote() << "battery notice:" << viewModel_.notice() << reading->percent
+                              << "%";
+  activities().offer(ActivityEvent::began(ActivityKind::batteryAlert, notice->duration()));
+  if (!sounds_ || !settings().read(settings::playSounds)) return;
+  if (notice->kind == BatteryNotice::Kind::pluggedIn)
+    sounds_->play(QStringLiteral("tindra-charging"));
+  if (notice->kind == BatteryNotice::Kind::low) sounds_->play(QStringLiteral("tindra-low-battery"));
+}
+
+}  // namespace tindra

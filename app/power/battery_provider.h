@@ -1,0 +1,42 @@
+// BatteryProvider ("battery"): the internal battery for the idle layout and the "batteries"
+// section, and its notices: power connected, power disconnected and the low-battery warning
+// (BatteryNoticeTracker's rules, the user's notice settings), each as the batteryAlert activity
+// with a sound where there is one and sounds are on. It follows its backend's readings as they
+// arrive and copies every change of the backend's service check into the diagnostics log.
+#pragma once
+
+#include <memory>
+
+#include "power/battery_backend.h"
+#include "base/sound_player.h"
+#include "power/battery_notice_tracker.h"
+#include "power/battery_view_model.h"
+#include "base/provider.h"
+
+namespace tindra {
+
+class BatteryProvider final : public Provider {
+  Q_OBJECT
+
+ public:
+  // `sounds` may be null (no sound server on this platform).
+  BatteryProvider(ProviderContext context, std::unique_ptr<BatteryBackend> backend,
+                  std::shared_ptr<SoundPlayer> sounds = nullptr, QObject* parent = nullptr);
+
+  QString name() const override { return QStringLiteral("battery"); }
+  void start() override;
+  BatteryViewModel* viewModel() override { return &viewModel_; }
+
+ private:
+  void recordCheck();
+  void onReading();
+  void migrateOldSetting();
+  BatteryNoticeTracker::Settings noticeSettings() const;
+
+  std::unique_ptr<BatteryBackend> backend_;
+  std::shared_ptr<SoundPlayer> sounds_;
+  BatteryNoticeTracker tracker_;
+  BatteryViewModel viewModel_;
+};
+
+}  // namespace tindra

@@ -1,0 +1,40 @@
+// FakeAccessoryBackend: invented accessories for the demo and tests, only when TINDRA_FAKE names
+// "accessories": a pair of earbuds with their case connected from the start.
+#pragma once
+
+#include "power/accessory_backend.h"
+
+namespace tindra {
+
+class FakeAccessoryBackend final : public AccessoryBackend {
+ public:
+  explicit FakeAccessoryBackend(QObject* parent = nullptr)
+      : AccessoryBackend(parent), connected_{inventedBuds()} {}
+
+  // The earbuds connected from the start; the demo moves the invented sound to them.
+  static BluetoothAccessory inventedBuds() {
+    BluetoothAccessory buds;
+    buds.name = "Invented Buds";
+    buds.address = "0a:00:00:00:00:01";
+    buds.kind = BluetoothAccessoryKind::airPodsPro;
+    buds.battery = {80, 76, 45, std::nullopt};
+    return buds;
+  }
+
+  void start() override {}
+  std::vector<BluetoothAccessory> connected() const override { return connected_; }
+  ServiceCheck check() const override {
+    return {DiagnosticsLog::Outcome::degraded,
+            QStringLiteral("invented accessories (TINDRA_FAKE asks for them)")};
+  }
+
+  void setConnected(std::vector<BluetoothAccessory> connected) {
+    connected_ = std::move(connected);
+    emit changed();
+  }
+
+ private:
+  std::vector<BluetoothAccessory> connected_;
+};
+
+}  // namespace tindra

@@ -1,0 +1,36 @@
+// The invented weather for the demo, screenshots and tests, chosen only when TINDRA_FAKE names
+// "weather": a position in Oslo, and a forecast service that answers every request at once
+// with a partly cloudy 7.5 °C and a 10 % chance of rain for the coming hour. Its check says that
+// nothing shown is real.
+#pragma once
+
+#include <functional>
+
+#include "weather/location_source.h"
+#include "weather/http_transport.h"
+
+namespace tindra {
+
+class FakeLocationSource final : public LocationSource {
+  Q_OBJECT
+
+ public:
+  using LocationSource::LocationSource;
+  void start() override {}
+  std::optional<GeoCoordinate> location() const override { return GeoCoordinate{59.9139, 10.7522}; }
+  ServiceCheck check() const override {
+    return {DiagnosticsLog::Outcome::degraded, tr("an invented position (TINDRA_FAKE)")};
+  }
+};
+
+class FakeForecastTransport final : public HTTPTransport {
+ public:
+  using Clock = std::function<double()>;  // seconds since 1970
+  explicit FakeForecastTransport(Clock now) : now_(std::move(now)) {}
+  void send(const HTTPRequest& request, Completion completion) override;
+
+ private:
+  Clock now_;
+};
+
+}  // namespace tindra

@@ -1,0 +1,47 @@
+// GeoClueLocationSource: the position from GeoClue 2 on the system bus, at city accuracy (all the
+// weather needs). Asks for a client, names itself ("tindra", the desktop entry) and starts it;
+// GeoClue then reports each new position with LocationUpdated, no polling. A refusal (the user's
+// agent denies the program) or a missing GeoClue is said in the check, and the last position, if
+// any, stays; GeoClue coming back on the bus is followed.
+#pragma once
+
+#include <QDBusConnection>
+#include <QDBusObjectPath>
+#include <QDBusServiceWatcher>
+
+#include "weather/location_source.h"
+
+namespace tindra {
+
+class GeoClueLocationSource final : public LocationSource {
+  Q_OBJECT
+
+ public:
+  static constexpr unsigned cityAccuracy = 4;          // GClueAccuracyLevel
+  static constexpr unsigned distanceThreshold = 1000;  // metres; nearer moves are not reported
+
+  explicit GeoClueLocationSource(QDBusConnection bus, QObject* parent = nullptr);
+  ~GeoClueLocationSource() override;
+
+  void start() override;
+  std::optional<GeoCoordinate> location() const override { return location_; }
+  ServiceCheck check() const override { return check_; }
+
+ private slots:
+  void onLocationUpdated(const QDBusObjectPath& previous, const QDBusObjectPath& current);
+
+ private:
+  void askForClient();
+  void configure(const QString& client);
+  void startClient();
+  void readLocation(const QString& path);
+  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
+
+  QDBusConnection bus_;
+  QDBusServiceWatcher watcher_;
+  QString client_;
+  std::optional<GeoCoordinate> location_;
+  ServiceCheck check_;
+};
+
+}  // namespace tindra

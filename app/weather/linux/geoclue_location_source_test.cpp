@@ -1,0 +1,71 @@
+// Runs in: private-session --offscreen --system-bus
+#include "weather/linux/geoclue_location_source.h"
+
+#include <gtest/gtest.h>
+
+#include <QSignalSpy>
+#include <QTest>
+
+#include "testing/dbus_mock_service.h"
+
+namespace tindra {
+namespace {
+
+const QString manager = QStringLiteral("/org/freedesktop/GeoClue2/Manager");
+
+// GeoClue, as python3-dbusmock serves it from app/testing/geoclue.py, on the private system bus.
+class GeoClueLocationSourceTest : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    geoclue_ = std::make_unique<DBusMockService>(
+        QDBusConnection::systemBus(), QStringLiteral("org.freedesktop.GeoClue2"),
+        QStringList{"--template", TINDRA_SOURCE_DIR "/app/testing/geoclue.py"});
+    if (!geoclue_->start(&startError_)) geoclue_.reset();
+  }
+  static void TearDownTestSuite() { geoclue_.reset(); }
+  void SetUp() override {
+    if (!geoclue_) GTEST_SKIP() << "no mocked GeoClue: " << startError_.toStdString();
+    ASSERT_EQ(geoclue_->call(manager, "SetRefuse", {false}), QString());
+  }
+  static bool waitFor(const std::function<bool()>& condition) {
+    return QTest::qWaitFor(condition, 5000);
+  }
+
+  static inline std::unique_ptr<DBusMockService> geoclue_;
+  static inline QString startError_;
+};
+
+TEST_F(GeoClueLocationSourceTest, FollowsThePositionGeoClueReports) {
+  GeoClueLocationSource source(QDBusConnection::systemBus());
+  source.start();
+  ASSERT_TRUE(waitFor([&] { return source.check().outcome == DiagnosticsLog::Outcome::ok; }))
+      << source.check().text.toStdString();
+  EXPECT_FALSE(source.location());
+  QSignalSpy moved(&source, &LocationSource::locationChanged);
+  ASSERT_EQ(geoclue_->call(manager, "SetLocation", {59.9139, 10.7522, 5000.0}), QString());
+  ASSERT_TRUE(waitFor([&] { return source.location().has_value(); }));
+  EXPECT_EQ(*source.location(), (GeoCoordinate{59.9139, 10.7522}));
+  ASSERT_EQ(geoclue_->call(manager, "SetLocation", {60.3913, 5.3221, 5000.0}), QString());
+  ASSERT_TRUE(waitFor([&] { return source.location()->latitude > 60; }));
+  EXPECT_EQ(moved.count(), 2);
+}
+
+TEST_F(GeoClueLocationSourceTest, ARefusalOrNoGeoClueIsSaidAndNothingBreaks) {
+  ASSERT_EQ(geoclue_->call(manager, "SetRefuse", {true}), QString());
+  GeoClueLocationSource refused(QDBusConnection::systemBus());
+  refused.start();
+  ASSERT_TRUE(waitFor([&] { return refused.check().text.contains("refused"); }));
+  EXPECT_FALSE(refused.location());
+
+  ASSERT_TRUE(geoclue_->stop());
+  GeoClueLocationSource missing(QDBusConnection::systemBus());
+  missing.start();
+  ASSERT_TRUE(waitFor([&] { return missing.check().text.contains("not available"); }));
+  // GeoClue arriving later is followed.
+  QString error;
+  ASSERT_TRUE(geoclue_->start(&error)) << error.toStdString();
+  EXPECT_TRUE(waitFor([&] { return missing.check().outcome == DiagnosticsLog::Outcome::ok; }));
+}
+
+}  // namespace
+}  // namespace tindra

@@ -1,0 +1,104 @@
+// WeatherProvider ("weather"): the current weather at the user's approximate position, from MET
+// Norway, for the idle layout and the weather section. Runs only while weatherEnabled is on.
+// The position is the one the user set, else GeoClue's, else the principal city of the system's
+// time zone, so the weather shows on first run without asking; it is rounded to about 1 km
+// before it leaves the machine. WeatherRefreshPolicy decides every request; the snapshot, with
+// the answer's cache dates, is kept on disk (DurableFile), so a restart within its Expires makes
+// no request. Nothing is asked while the network is down, and soon after it returns. One timer,
+// aimed at the next refresh, the end of the snapshot's freshness or the next sunrise or sunset.
+#pragma once
+
+#include <QTimer>
+#include <filesystem>
+#include <functional>
+#include <memory>
+#include <optional>
+
+#include "weather/location_source.h"
+#include "base/provider.h"
+#include "weather/weather_view_model.h"
+#include "settings/durable_file.h"
+#include "settings/settings_store.h"
+#include "weather/met_weather_client.h"
+#include "weather/sun_times.h"
+#include "weather/temperature_course.h"
+#include "weather/weather_preferences.h"
+#include "weather/zone_table.h"
+
+namespace tindra {
+
+class WeatherProvider final : public Provider {
+  Q_OBJECT
+
+ public:
+  using Clock = std::function<double()>;  // seconds since 1970
+  struct Places {
+    std::filesystem::path snapshot;       // the kept snapshot and the last attempt
+    std::filesystem::path preferences;    // weather.json
+    std::vector<std::string> zoneTables;  // tzdata's zone.tab and zone1970.tab, in that order
+    std::string timeZone;                 // the system's zone, "Europe/Oslo"
+  };
+  static Places defaultPlaces();
+
+  WeatherProvider(ProviderContext context, std::unique_ptr<LocationSource> locationService,
+                  std::shared_ptr<HTTPTransport> transport, Places places, Clock now,
+                  QObject* parent = nullptr);
+  ~WeatherProvider() override;
+
+  QString name() const override { return QStringLiteral("weather"); }
+  void start() override;
+  WeatherViewModel* viewModel() override { return &viewModel_; }
+
+  const WeatherPreferences& preferences() const { return preferences_; }
+  // Saves and applies new preferences; the reason when they cannot be saved.
+  std::optional<QString> setPreferences(WeatherPreferences preferences);
+  // Every city of the system's zone tables, to pick a place from.
+  ZoneTable cities() const;
+  // Where the position comes from now, in words, for the settings.
+  QString positionSource() const;
+  // The network went down or came back.
+  void setOnline(bool online);
+  // When the timer will next look, seconds since 1970; none while idle.
+  std::optional<double> nextLook() const { return nextLook_; }
+  // Consults the policy, fetches when it says so, and redraws.
+  void update();
+
+ private:
+  struct Position {
+    GeoCoordinate coordinate;
+    QString source;
+  };
+  std::optional<Position> position() const;
+  void enabledChanged();
+  void recordCheck();
+  void loadKept();
+  void saveKept() const;
+  void fetch(const GeoCoordinate& coordinate);
+  void received(const WeatherFetchResult& result);
+  WeatherViewModel::State state(double now, const std::optional<SunTimes::Moment>& sun) const;
+  void aim(double now, const std::optional<SunTimes::Moment>& sun);
+
+  std::unique_ptr<LocationSource> locationService_;
+  Places places_;
+  Clock now_;
+  METWeatherClient client_;
+  DurableFile kept_;
+  DurableFile preferencesFile_;
+  WeatherPreferences preferences_;
+  ZoneTable zones_;
+  std::optional<WeatherSnapshot> snapshot_;
+  TemperatureCourse course_;                   // of the document the snapshot came from
+  std::optional<TemperatureCourse> arriving_;  // of the answer on its way to the client
+  std::optional<double> lastAttempt_;
+  std::optional<WeatherFetchFailure> lastFailure_;
+  bool fetching_ = false;
+  bool online_ = true;
+  bool started_ = false;
+  bool serviceStarted_ = false;
+  WeatherViewModel viewModel_;
+  SettingsObservation observation_;
+  QTimer timer_;
+  std::optional<double> nextLook_;
+};
+
+}  // namespace tindra
