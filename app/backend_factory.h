@@ -5,22 +5,22 @@
 #include <QNetworkAccessManager>
 #include <memory>
 
-#include "power/accessory_backend.h"
-#include "media/adapter_probe.h"
 #include "banners/application_opener.h"
-#include "power/battery_backend.h"
-#include "calendar/calendar_backend.h"
-#include "focus/focus_status_source.h"
-#include "weather/location_source.h"
-#include "lockscreen/lock_state_source.h"
 #include "banners/notification_source.h"
-#include "media/process_tap_session.h"
 #include "base/sound_player.h"
+#include "calendar/calendar_backend.h"
 #include "calendar/travel_time_estimator.h"
-#include "visibility/visibility_source.h"
+#include "focus/focus_status_source.h"
 #include "levels/hud_provider.h"
+#include "lockscreen/lock_state_source.h"
+#include "media/adapter_probe.h"
 #include "media/now_playing_provider.h"
+#include "media/process_tap_session.h"
+#include "power/accessory_backend.h"
+#include "power/battery_backend.h"
+#include "visibility/visibility_source.h"
 #include "weather/http_transport.h"
+#include "weather/location_source.h"
 
 namespace tindra {
 

@@ -11,12 +11,12 @@
 #include <filesystem>
 #include <memory>
 
-#include "focus/desktop_notification.h"
 #include "banners/application_opener.h"
-#include "focus/focus_status_source.h"
-#include "banners/notification_source.h"
 #include "banners/banner_view_model.h"
+#include "banners/notification_source.h"
 #include "base/provider.h"
+#include "focus/desktop_notification.h"
+#include "focus/focus_status_source.h"
 #include "settings/settings_store.h"
 
 namespace tindra {

@@ -7,9 +7,9 @@
 #include <QTimer>
 #include <fstream>
 
+#include "banners/fake_notification_source.h"
 #include "base/activity_center.h"
 #include "focus/fake_focus_status_source.h"
-#include "banners/fake_notification_source.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/view_shot.h"

@@ -5,8 +5,8 @@
 
 #include <QObject>
 
-#include "focus/desktop_notification.h"
 #include "base/service_check.h"
+#include "focus/desktop_notification.h"
 
 namespace tindra {
 

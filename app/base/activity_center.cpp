@@ -2,9 +2,9 @@
 
 #include <QDeadlineTimer>
 
+#include "base/timer_one_shot_scheduler.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
-#include "base/timer_one_shot_scheduler.h"
 
 namespace tindra {
 

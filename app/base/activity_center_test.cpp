@@ -7,10 +7,10 @@
 #include <QTest>
 #include <cmath>
 
+#include "base/timer_one_shot_scheduler.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/manual_one_shot_scheduler.h"
-#include "base/timer_one_shot_scheduler.h"
 
 namespace tindra {
 namespace {

@@ -10,9 +10,9 @@
 #include <optional>
 #include <vector>
 
+#include "base/service_check.h"
 #include "calendar/calendar_event_info.h"
 #include "calendar/reminder_item.h"
-#include "base/service_check.h"
 
 namespace tindra {
 

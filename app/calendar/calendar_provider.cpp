@@ -6,15 +6,15 @@
 #include <cmath>
 
 #include "base/activity_center.h"
+#include "base/diagnostics_log.h"
+#include "base/logging_categories.h"
+#include "base/qt_text.h"
 #include "calendar/calendar_privacy.h"
+#include "calendar/calendar_texts.h"
 #include "calendar/departure_advisor.h"
 #include "calendar/event_countdown.h"
 #include "calendar/today_agenda.h"
 #include "calendar/upcoming_event_sound_log.h"
-#include "base/diagnostics_log.h"
-#include "base/logging_categories.h"
-#include "calendar/calendar_texts.h"
-#include "base/qt_text.h"
 #include "settings/settings_keys.h"
 
 namespace tindra {

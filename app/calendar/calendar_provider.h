@@ -14,13 +14,13 @@
 #include <memory>
 #include <optional>
 
-#include "calendar/featured_event.h"
-#include "calendar/upcoming_event_policy.h"
-#include "calendar/calendar_backend.h"
-#include "base/sound_player.h"
-#include "calendar/travel_time_estimator.h"
-#include "calendar/calendar_view_model.h"
 #include "base/provider.h"
+#include "base/sound_player.h"
+#include "calendar/calendar_backend.h"
+#include "calendar/calendar_view_model.h"
+#include "calendar/featured_event.h"
+#include "calendar/travel_time_estimator.h"
+#include "calendar/upcoming_event_policy.h"
 #include "settings/settings_store.h"
 
 namespace tindra {

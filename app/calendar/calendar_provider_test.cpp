@@ -6,8 +6,8 @@
 #include <QTest>
 
 #include "base/activity_center.h"
-#include "calendar/upcoming_event_sound_log.h"
 #include "calendar/fake_calendar_backend.h"
+#include "calendar/upcoming_event_sound_log.h"
 #include "settings/settings_keys.h"
 #include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"

@@ -12,9 +12,9 @@
 #include <QTest>
 #include <QWidget>
 
+#include "files/file_tray_provider.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
-#include "files/file_tray_provider.h"
 #include "settings/settings_keys.h"
 #include "testing/xdotool.h"
 #include "tindra_app.h"

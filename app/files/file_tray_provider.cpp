@@ -8,8 +8,8 @@
 
 #include "base/diagnostics_log.h"
 #include "base/logging_categories.h"
-#include "files/file_identity.h"
 #include "base/qt_text.h"
+#include "files/file_identity.h"
 #include "settings/settings_keys.h"
 
 namespace tindra {

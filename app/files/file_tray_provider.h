@@ -17,11 +17,11 @@
 #include <functional>
 #include <memory>
 
-#include "files/file_tray.h"
-#include "files/file_tray_storage.h"
-#include "files/file_tray_copier.h"
-#include "files/file_tray_view_model.h"
 #include "base/provider.h"
+#include "files/file_tray.h"
+#include "files/file_tray_copier.h"
+#include "files/file_tray_storage.h"
+#include "files/file_tray_view_model.h"
 #include "settings/settings_store.h"
 
 namespace tindra {

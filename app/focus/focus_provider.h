@@ -8,10 +8,10 @@
 #include <memory>
 #include <optional>
 
+#include "base/provider.h"
 #include "focus/focus_presentation.h"
 #include "focus/focus_status_source.h"
 #include "focus/focus_view_model.h"
-#include "base/provider.h"
 #include "settings/settings_store.h"
 
 namespace tindra {

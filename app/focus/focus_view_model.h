@@ -7,8 +7,8 @@
 #include <optional>
 
 #include "base/assign_if_changed.h"
-#include "focus/focus_presentation.h"
 #include "base/qt_text.h"
+#include "focus/focus_presentation.h"
 
 namespace tindra {
 

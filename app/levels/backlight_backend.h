@@ -8,8 +8,8 @@
 #include <optional>
 
 #include "base/assign_if_changed.h"
-#include "hud/brightness_access.h"
 #include "base/service_check.h"
+#include "hud/brightness_access.h"
 
 namespace tindra {
 

@@ -5,14 +5,14 @@
 
 #include "base/activity_center.h"
 #include "base/diagnostics_log.h"
+#include "base/logging_categories.h"
+#include "base/qt_text.h"
 #include "hud/brightness_yield_policy.h"
 #include "hud/hud_display_duration.h"
 #include "hud/keyboard_backlight_policy.h"
 #include "hud/media_key_router.h"
 #include "hud/volume_feedback_policy.h"
 #include "hud/volume_yield_policy.h"
-#include "base/logging_categories.h"
-#include "base/qt_text.h"
 #include "settings/settings_keys.h"
 
 namespace tindra {

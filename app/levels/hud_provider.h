@@ -9,17 +9,17 @@
 #include <chrono>
 #include <memory>
 
+#include "base/provider.h"
 #include "hud/keyboard_backlight_write_monitor.h"
 #include "hud/media_key_action.h"
 #include "hud/media_key_context.h"
 #include "hud/pending_level_stepper.h"
 #include "hud/volume_state.h"
 #include "levels/backlight_backend.h"
-#include "levels/media_key_source.h"
-#include "levels/volume_backend.h"
 #include "levels/hud_view_model.h"
+#include "levels/media_key_source.h"
 #include "levels/own_writes.h"
-#include "base/provider.h"
+#include "levels/volume_backend.h"
 #include "settings/settings_store.h"
 
 namespace tindra {

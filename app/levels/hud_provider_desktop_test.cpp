@@ -12,11 +12,11 @@
 
 #include "base/activity_center.h"
 #include "base/diagnostics_log.h"
+#include "levels/hud_provider.h"
 #include "levels/linux/pulse_volume_backend.h"
 #include "levels/linux/sysfs_backlight_backend.h"
 #include "levels/linux/upower_keyboard_backlight_backend.h"
 #include "levels/linux/x11_media_key_source.h"
-#include "levels/hud_provider.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
 

@@ -8,10 +8,10 @@
 #include "base/activity_center.h"
 #include "base/diagnostics_log.h"
 #include "levels/fake_backlight_backend.h"
+#include "levels/fake_media_key_source.h"
 #include "levels/fake_volume_backend.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
-#include "levels/fake_media_key_source.h"
 #include "testing/manual_one_shot_scheduler.h"
 
 namespace tindra {

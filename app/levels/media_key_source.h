@@ -8,9 +8,9 @@
 #include <chrono>
 #include <vector>
 
+#include "base/service_check.h"
 #include "hud/key_modifiers.h"
 #include "hud/system_defined_key_event.h"
-#include "base/service_check.h"
 
 namespace tindra {
 

@@ -8,8 +8,8 @@
 #include <optional>
 #include <string>
 
-#include "hud/audio_transport.h"
 #include "base/service_check.h"
+#include "hud/audio_transport.h"
 
 namespace tindra {
 

@@ -8,10 +8,10 @@
 #include <functional>
 #include <memory>
 
-#include "lockscreen/lock_screen_presence.h"
-#include "lockscreen/lock_state_source.h"
-#include "lockscreen/lock_session_guard.h"
 #include "base/provider.h"
+#include "lockscreen/lock_screen_presence.h"
+#include "lockscreen/lock_session_guard.h"
+#include "lockscreen/lock_state_source.h"
 
 namespace tindra {
 

@@ -3,8 +3,8 @@
 
 #include <QObject>
 
-#include "lockscreen/lock_screen_presence.h"
 #include "base/service_check.h"
+#include "lockscreen/lock_screen_presence.h"
 
 namespace tindra {
 

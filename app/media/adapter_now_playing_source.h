@@ -9,10 +9,10 @@
 #include <functional>
 #include <memory>
 
-#include "nowplaying/adapter_launch.h"
-#include "nowplaying/restart_backoff.h"
 #include "media/adapter_stream_process.h"
 #include "media/now_playing_source.h"
+#include "nowplaying/adapter_launch.h"
+#include "nowplaying/restart_backoff.h"
 
 namespace tindra {
 

@@ -13,10 +13,10 @@
 
 #include "base/lru_cache.h"
 #include "base/srgb_color.h"
+#include "media/artwork_fetcher.h"
 #include "nowplaying/artwork_cache_key.h"
 #include "nowplaying/artwork_miss_memo.h"
 #include "nowplaying/now_playing_snapshot.h"
-#include "media/artwork_fetcher.h"
 
 namespace tindra {
 

@@ -9,15 +9,15 @@
 #include <memory>
 
 #include "activity/swipe_recognizer.h"
-#include "nowplaying/now_playing_paused_linger.h"
-#include "nowplaying/now_playing_source_kind.h"
+#include "base/provider.h"
 #include "media/adapter_probe.h"
 #include "media/artwork_fetcher.h"
-#include "media/now_playing_source.h"
 #include "media/artwork_service.h"
+#include "media/now_playing_source.h"
 #include "media/now_playing_view_model.h"
 #include "media/process_tap_spectrum.h"
-#include "base/provider.h"
+#include "nowplaying/now_playing_paused_linger.h"
+#include "nowplaying/now_playing_source_kind.h"
 #include "settings/settings_store.h"
 
 namespace tindra {

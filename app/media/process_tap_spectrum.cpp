@@ -4,8 +4,8 @@
 
 #include "base/activity_center.h"
 #include "base/logging_categories.h"
-#include "nowplaying/pseudo_waveform.h"
 #include "base/qt_text.h"
+#include "nowplaying/pseudo_waveform.h"
 
 namespace tindra {
 

@@ -12,13 +12,13 @@
 
 #include <memory>
 
-#include "power/accessory_backend.h"
+#include "base/provider.h"
 #include "base/sound_player.h"
 #include "levels/volume_backend.h"
+#include "power/accessory_backend.h"
 #include "power/accessory_notice_tracker.h"
 #include "power/accessory_route_tracker.h"
 #include "power/accessory_view_model.h"
-#include "base/provider.h"
 #include "settings/settings_store.h"
 
 namespace tindra {

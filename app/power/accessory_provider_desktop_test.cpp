@@ -10,9 +10,9 @@
 
 #include "base/activity_center.h"
 #include "base/diagnostics_log.h"
-#include "power/linux/bluez_accessory_backend.h"
 #include "levels/linux/pulse_volume_backend.h"
 #include "power/accessory_provider.h"
+#include "power/linux/bluez_accessory_backend.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
 

@@ -6,8 +6,8 @@
 #include <QTemporaryDir>
 
 #include "base/activity_center.h"
-#include "power/fake_accessory_backend.h"
 #include "levels/fake_volume_backend.h"
+#include "power/fake_accessory_backend.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/recorded_sounds.h"

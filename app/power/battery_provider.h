@@ -7,11 +7,11 @@
 
 #include <memory>
 
-#include "power/battery_backend.h"
+#include "base/provider.h"
 #include "base/sound_player.h"
+#include "power/battery_backend.h"
 #include "power/battery_notice_tracker.h"
 #include "power/battery_view_model.h"
-#include "base/provider.h"
 
 namespace tindra {
 

@@ -2,8 +2,8 @@
 
 #include <QCommandLineParser>
 
-#include "focus/focus_filter_state.h"
 #include "base/qt_text.h"
+#include "focus/focus_filter_state.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 

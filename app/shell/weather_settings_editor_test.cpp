@@ -5,9 +5,9 @@
 #include <QTemporaryDir>
 
 #include "base/activity_center.h"
-#include "weather/fake_weather.h"
 #include "settings/settings_keys.h"
 #include "testing/view_shot.h"
+#include "weather/fake_weather.h"
 
 namespace tindra {
 namespace {

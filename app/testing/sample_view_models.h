@@ -6,14 +6,14 @@
 #include <QString>
 #include <map>
 
-#include "power/accessory_view_model.h"
 #include "banners/banner_view_model.h"
-#include "power/battery_view_model.h"
 #include "calendar/calendar_view_model.h"
 #include "files/file_tray_view_model.h"
 #include "focus/focus_view_model.h"
 #include "levels/hud_view_model.h"
 #include "media/now_playing_view_model.h"
+#include "power/accessory_view_model.h"
+#include "power/battery_view_model.h"
 #include "weather/weather_view_model.h"
 
 namespace tindra {

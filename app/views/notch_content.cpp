@@ -1,8 +1,8 @@
 #include "views/notch_content.h"
 
 #include "base/activity_center.h"
-#include "views/activity_presentation.h"
 #include "settings/settings_keys.h"
+#include "views/activity_presentation.h"
 
 namespace tindra {
 

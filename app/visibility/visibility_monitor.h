@@ -11,8 +11,8 @@
 
 #include "activity/notch_hide_reason.h"
 #include "activity/visibility_settings.h"
-#include "visibility/visibility_source.h"
 #include "settings/settings_store.h"
+#include "visibility/visibility_source.h"
 
 namespace tindra {
 

@@ -6,8 +6,8 @@
 
 #include <functional>
 
-#include "weather/location_source.h"
 #include "weather/http_transport.h"
+#include "weather/location_source.h"
 
 namespace tindra {
 

@@ -12,12 +12,12 @@
 #include <algorithm>
 #include <cmath>
 
+#include "base/diagnostics_log.h"
 #include "base/json_reader.h"
 #include "base/json_writer.h"
-#include "base/diagnostics_log.h"
 #include "base/logging_categories.h"
-#include "calendar/calendar_texts.h"
 #include "base/qt_text.h"
+#include "calendar/calendar_texts.h"
 #include "settings/settings_keys.h"
 #include "weather/precipitation_summary.h"
 #include "weather/sun_times.h"

@@ -14,15 +14,15 @@
 #include <memory>
 #include <optional>
 
-#include "weather/location_source.h"
 #include "base/provider.h"
-#include "weather/weather_view_model.h"
 #include "settings/durable_file.h"
 #include "settings/settings_store.h"
+#include "weather/location_source.h"
 #include "weather/met_weather_client.h"
 #include "weather/sun_times.h"
 #include "weather/temperature_course.h"
 #include "weather/weather_preferences.h"
+#include "weather/weather_view_model.h"
 #include "weather/zone_table.h"
 
 namespace tindra {

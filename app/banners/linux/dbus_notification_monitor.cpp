@@ -7,9 +7,9 @@
 #include <algorithm>
 
 #include "base/assign_if_changed.h"
-#include "base/logging_categories.h"
 #include "base/dbus/dbus_names.h"
 #include "base/dbus/dbus_reply.h"
+#include "base/logging_categories.h"
 
 namespace tindra {
 

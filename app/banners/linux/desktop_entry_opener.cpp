@@ -1,7 +1,7 @@
 #include "banners/linux/desktop_entry_opener.h"
 
-#include "base/logging_categories.h"
 #include "base/linux/gio_desktop_entry.h"
+#include "base/logging_categories.h"
 
 namespace tindra {
 

@@ -13,19 +13,19 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include "base/activity_center.h"
-#include "focus/fake_focus_status_source.h"
+#include "banners/banner_provider.h"
 #include "banners/linux/dbus_notification_monitor.h"
 #include "banners/linux/desktop_entry_opener.h"
-#include "focus/linux/gsettings_focus_source.h"
-#include "lockscreen/linux/logind_lock_source.h"
-#include "focus/linux/notification_server_focus_source.h"
-#include "banners/banner_provider.h"
+#include "base/activity_center.h"
+#include "base/settings_file_watcher.h"
+#include "focus/fake_focus_status_source.h"
 #include "focus/focus_provider.h"
+#include "focus/linux/gsettings_focus_source.h"
+#include "focus/linux/notification_server_focus_source.h"
+#include "lockscreen/linux/logind_lock_source.h"
 #include "lockscreen/lock_screen_provider.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
-#include "base/settings_file_watcher.h"
 #include "testing/dbus_mock_service.h"
 
 namespace tindra {

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "icalendar/icalendar_reader.h"
 #include "calendar/calendar_backend.h"
+#include "icalendar/icalendar_reader.h"
 
 namespace tindra {
 

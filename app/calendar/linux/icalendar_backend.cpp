@@ -9,8 +9,8 @@
 
 #include "base/json_reader.h"
 #include "base/json_writer.h"
-#include "calendar/linux/local_calendar_feed.h"
 #include "base/qt_text.h"
+#include "calendar/linux/local_calendar_feed.h"
 #include "settings/settings_store.h"
 
 namespace tindra {

@@ -6,8 +6,8 @@
 #include <algorithm>
 #include <cmath>
 
-#include "base/logging_categories.h"
 #include "base/dbus/dbus_reply.h"
+#include "base/logging_categories.h"
 
 namespace tindra {
 

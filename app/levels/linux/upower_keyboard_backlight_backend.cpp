@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cmath>
 
-#include "hud/keyboard_backlight_policy.h"
 #include "base/dbus/dbus_names.h"
 #include "base/dbus/dbus_reply.h"
+#include "hud/keyboard_backlight_policy.h"
 
 namespace tindra {
 

@@ -9,8 +9,8 @@
 #include <array>
 #include <cstdlib>
 
-#include "base/logging_categories.h"
 #include "base/linux/xcb_reply.h"
+#include "base/logging_categories.h"
 
 namespace tindra {
 

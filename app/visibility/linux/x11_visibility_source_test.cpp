@@ -15,10 +15,10 @@
 #include "base/diagnostics_log.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
-#include "visibility/visibility_monitor.h"
-#include "visibility/linux/desktop_entry_categories.h"
 #include "settings/settings_keys.h"
 #include "tindra_app.h"
+#include "visibility/linux/desktop_entry_categories.h"
+#include "visibility/visibility_monitor.h"
 
 namespace tindra {
 namespace {
