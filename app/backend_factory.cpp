@@ -22,7 +22,6 @@
 #include "levels/linux/sysfs_backlight_backend.h"
 #include "levels/linux/upower_keyboard_backlight_backend.h"
 #include "levels/linux/x11_media_key_source.h"
-#include "levels/null_media_key_source.h"
 #include "lockscreen/fake_lock_state_source.h"
 #include "lockscreen/linux/logind_lock_source.h"
 #include "media/adapter_now_playing_source.h"
@@ -35,7 +34,6 @@
 #include "power/fake_battery_backend.h"
 #include "power/linux/bluez_accessory_backend.h"
 #include "power/linux/upower_battery_backend.h"
-#include "power/null_battery_backend.h"
 #include "visibility/linux/desktop_entry_categories.h"
 #include "visibility/linux/x11_visibility_source.h"
 #include "weather/fake_weather.h"
@@ -48,9 +46,11 @@ std::unique_ptr<BatteryBackend> makeBatteryBackend() {
     return std::make_unique<FakeBatteryBackend>();
   QDBusConnection bus = QDBusConnection::systemBus();
   if (!bus.isConnected()) {
-    return std::make_unique<NullBatteryBackend>(
-        QCoreApplication::translate("Backends", "no system bus (%1): no battery is shown")
-            .arg(bus.lastError().message()));
+    return std::make_unique<BatteryBackend::Null>(
+        Sentence::in("Backends",
+                     QT_TRANSLATE_NOOP("Backends", "no system bus (%1): no battery is shown"))
+            .arg(bus.lastError().message()),
+        DiagnosticsLog::Outcome::failed);
   }
   return std::make_unique<UPowerBatteryBackend>(bus);
 }
@@ -70,10 +70,11 @@ std::shared_ptr<PulseConnection> soundServer() {
 
 std::unique_ptr<MediaKeySource> makeMediaKeySource() {
   if (qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String("wayland")) {
-    return std::make_unique<NullMediaKeySource>(QCoreApplication::translate(
-        "Backends",
-        "a Wayland session lets no program take the keys: the desktop keeps them, "
-        "and the level changes it makes are shown"));
+    return std::make_unique<MediaKeySource::Null>(Sentence::in(
+        "Backends", QT_TRANSLATE_NOOP(
+                        "Backends",
+                        "a Wayland session lets no program take the keys: the desktop keeps them, "
+                        "and the level changes it makes are shown")));
   }
   return std::make_unique<X11MediaKeySource>();
 }
@@ -152,10 +153,11 @@ std::shared_ptr<FocusStatusSource> makeFocusStatusSource() {
   }
   const QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) {
-    return std::make_shared<NullFocusStatusSource>(QCoreApplication::translate(
+    return std::make_shared<FocusStatusSource::Null>(Sentence::in(
         "Backends",
-        "no session bus: do-not-disturb is unknown, only `tindra focus` shows a "
-        "Focus"));
+        QT_TRANSLATE_NOOP("Backends",
+                          "no session bus: do-not-disturb is unknown, only `tindra focus` shows a "
+                          "Focus")));
   }
   return std::make_shared<NotificationServerFocusSource>(bus);
 }
@@ -181,11 +183,12 @@ std::unique_ptr<LockStateSource> makeLockStateSource() {
 
 std::unique_ptr<VisibilitySource> makeVisibilitySource() {
   if (QGuiApplication::platformName() != QLatin1String("xcb")) {
-    return std::make_unique<NullVisibilitySource>(
-        QCoreApplication::translate(
+    return std::make_unique<VisibilitySource::Null>(
+        Sentence::in(
             "Backends",
-            "no X11 window manager to ask (%1): the notch never steps aside for "
-            "full-screen windows or games")
+            QT_TRANSLATE_NOOP("Backends",
+                              "no X11 window manager to ask (%1): the notch never steps aside for "
+                              "full-screen windows or games"))
             .arg(QGuiApplication::platformName()));
   }
   return std::make_unique<X11VisibilitySource>(isGameApplication);

@@ -8,14 +8,16 @@
 namespace tindra {
 
 class FakeNotificationSource final : public NotificationSource {
+  Q_OBJECT
+
  public:
-  using NotificationSource::NotificationSource;
+  explicit FakeNotificationSource(QObject* parent = nullptr) : NotificationSource(parent) {
+    setCheck(DiagnosticsLog::Outcome::ok,
+             Sentence(QT_TR_NOOP("invented notifications (TINDRA_FAKE)"), tr));
+  }
 
   void start() override { running_ = true; }
   void stop() override { running_ = false; }
-  ServiceCheck check() const override {
-    return {DiagnosticsLog::Outcome::ok, QStringLiteral("invented notifications (TINDRA_FAKE)")};
-  }
   bool running() const { return running_; }
 
   // Delivered only while running, as the real source would.

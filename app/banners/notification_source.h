@@ -3,22 +3,19 @@
 // hides, answers or closes anyone's notification. It runs only between start() and stop().
 #pragma once
 
-#include <QObject>
-
-#include "base/service_check.h"
+#include "base/backend.h"
 #include "focus/desktop_notification.h"
 
 namespace tindra {
 
-class NotificationSource : public QObject {
+class NotificationSource : public Backend {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  using Backend::Backend;
+  class Null;
 
-  virtual void start() = 0;
   virtual void stop() = 0;
-  virtual ServiceCheck check() const = 0;
 
  signals:
   // A notification the server accepted, with the number it gave it (also one that replaces an
@@ -28,7 +25,13 @@ class NotificationSource : public QObject {
   void closed(quint32 id);
   // The server went away, and every notification with it.
   void serverGone();
-  void checkChanged();
+};
+
+// Where no notifications can be read: no calls or messages are shown.
+class NotificationSource::Null final : public NullBackend<NotificationSource> {
+ public:
+  using NullBackend::NullBackend;
+  void stop() override {}
 };
 
 }  // namespace tindra

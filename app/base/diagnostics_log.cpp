@@ -22,23 +22,31 @@ const char* outcomeWord(DiagnosticsLog::Outcome outcome) {
 }  // namespace
 
 void DiagnosticsLog::record(const QLoggingCategory& category, const QString& source,
-                            Outcome outcome, const QString& text) {
+                            Outcome outcome, const Sentence& text) {
   if (outcome == Outcome::ok) {
-    qCInfo(category).noquote() << source << text;
+    qCInfo(category).noquote() << source << text.english();
   } else {
-    qCWarning(category).noquote() << source << text;
+    qCWarning(category).noquote() << source << text.english();
   }
   if (entries_.size() == maxEntries) entries_.removeFirst();
   entries_.append({QDateTime::currentDateTime(), source, outcome, text});
   emit recorded(entries_.last());
 }
 
-QString DiagnosticsLog::text() const {
+QString DiagnosticsLog::englishText() const {
+  return text(&Sentence::english);
+}
+
+QString DiagnosticsLog::translatedText() const {
+  return text(&Sentence::translated);
+}
+
+QString DiagnosticsLog::text(const QString& (Sentence::*language)() const) const {
   QString out;
   for (const Entry& entry : entries_) {
     out += QStringLiteral("%1  %2  %3  %4\n")
                .arg(entry.at.toString(Qt::ISODate), entry.source,
-                    QString::fromLatin1(outcomeWord(entry.outcome)), entry.text);
+                    QString::fromLatin1(outcomeWord(entry.outcome)), (entry.text.*language)());
   }
   return out;
 }

@@ -1,7 +1,8 @@
 // DiagnosticsLog: what Tindra found out about its surroundings, for the "Diagnostics…" window:
-// each provider's start-up check (which backend runs, and why a service is missing) and the
-// results of the checks a user asks for. Every entry also goes to the provider's log category.
-// Main thread only.
+// each provider's start-up check (which backend runs, and why a service is missing), every later
+// change of a service, and the results of the checks a user asks for. Entries are kept in English
+// for bug reports and the log (every entry also goes to its source's log category) and shown in
+// the user's language. Main thread only.
 #pragma once
 
 #include <QDateTime>
@@ -9,6 +10,8 @@
 #include <QLoggingCategory>
 #include <QObject>
 #include <QString>
+
+#include "base/sentence.h"
 
 namespace tindra {
 
@@ -22,21 +25,25 @@ class DiagnosticsLog : public QObject {
     QDateTime at;
     QString source;  // the provider or check, "battery"
     Outcome outcome;
-    QString text;  // one sentence for a person
+    Sentence text;
   };
 
   using QObject::QObject;
 
   void record(const QLoggingCategory& category, const QString& source, Outcome outcome,
-              const QString& text);
+              const Sentence& text);
   const QList<Entry>& entries() const { return entries_; }
-  // Every entry as lines of text, oldest first.
-  QString text() const;
+  // Every entry as lines of English text, oldest first, for a bug report.
+  QString englishText() const;
+  // The same in the user's language, for the window.
+  QString translatedText() const;
 
  signals:
   void recorded(const tindra::DiagnosticsLog::Entry& entry);
 
  private:
+  QString text(const QString& (Sentence::*language)() const) const;
+
   QList<Entry> entries_;
 };
 

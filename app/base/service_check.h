@@ -3,15 +3,14 @@
 // change into the diagnostics log.
 #pragma once
 
-#include <QString>
-
 #include "base/diagnostics_log.h"
+#include "base/sentence.h"
 
 namespace tindra {
 
 struct ServiceCheck {
   DiagnosticsLog::Outcome outcome = DiagnosticsLog::Outcome::ok;
-  QString text;
+  Sentence text;
 
   friend bool operator==(const ServiceCheck&, const ServiceCheck&) = default;
 };

@@ -4,13 +4,12 @@
 // answers.
 #pragma once
 
-#include <QObject>
 #include <QString>
 #include <QStringList>
 #include <optional>
 #include <vector>
 
-#include "base/service_check.h"
+#include "base/backend.h"
 #include "calendar/calendar_event_info.h"
 #include "calendar/reminder_item.h"
 
@@ -32,18 +31,16 @@ struct CalendarContents {
   std::vector<ReminderItem> reminders;
 };
 
-class CalendarBackend : public QObject {
+class CalendarBackend : public Backend {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  using Backend::Backend;
+  class Null;
 
-  // Begins reading and following the calendars.
-  virtual void start() = 0;
   // The events wanted: those overlapping [start, end), seconds since 1970.
   virtual void setWindow(double start, double end) = 0;
   virtual std::vector<CalendarContents> calendars() const = 0;
-  virtual ServiceCheck check() const = 0;
 
   // Adds a calendar from a file, a folder of files or an address; the reason when it cannot.
   virtual std::optional<QString> add(const QString& location) = 0;
@@ -54,7 +51,19 @@ class CalendarBackend : public QObject {
 
  signals:
   void changed();
-  void checkChanged();
+};
+
+// Where no calendar can be read: none is listed, and none can be added.
+class CalendarBackend::Null final : public NullBackend<CalendarBackend> {
+ public:
+  using NullBackend::NullBackend;
+
+  void setWindow(double, double) override {}
+  std::vector<CalendarContents> calendars() const override { return {}; }
+  std::optional<QString> add(const QString&) override { return check().text.translated(); }
+  void remove(const QString&) override {}
+  QStringList ownerAddresses() const override { return {}; }
+  void setOwnerAddresses(const QStringList&) override {}
 };
 
 }  // namespace tindra

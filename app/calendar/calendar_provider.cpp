@@ -111,7 +111,8 @@ void CalendarProvider::recordCheck() {
   const ServiceCheck check =
       settings().read(settings::calendarEnabled)
           ? backend_->check()
-          : ServiceCheck{DiagnosticsLog::Outcome::ok, tr("the calendar is off in Settings")};
+          : ServiceCheck{DiagnosticsLog::Outcome::ok,
+                         Sentence(QT_TR_NOOP("the calendar is off in Settings"), tr)};
   diagnostics().record(lcCalendar(), name(), check.outcome, check.text);
 }
 

@@ -25,7 +25,7 @@ FakeCalendarBackend::FakeCalendarBackend(double now, QObject* parent) : Calendar
                  QStringLiteral("Work"),
                  QStringLiteral("https://calendar.example.org/work.ics"),
                  CalendarEventInfo::Color{0.04, 0.52, 1.0},
-                 {DiagnosticsLog::Outcome::ok, tr("invented")},
+                 {DiagnosticsLog::Outcome::ok, Sentence(QT_TR_NOOP("invented"), tr)},
                  false};
   CalendarEventInfo review = invented("review", "Design review", now + 8 * minute, 30);
   review.meetingLink = MeetingLink::fromURL("https://example.zoom.us/j/5551234567");

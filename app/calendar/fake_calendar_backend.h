@@ -18,9 +18,6 @@ class FakeCalendarBackend final : public CalendarBackend {
   void start() override {}
   void setWindow(double, double) override {}
   std::vector<CalendarContents> calendars() const override { return calendars_; }
-  ServiceCheck check() const override {
-    return {DiagnosticsLog::Outcome::degraded, tr("invented calendars (TINDRA_FAKE)")};
-  }
   std::optional<QString> add(const QString&) override {
     return tr("The invented calendars take no additions.");
   }

@@ -27,7 +27,7 @@ QString diagnosticsReport(const DiagnosticsLog& log) {
                  .arg(screen->geometry().y())
                  .arg(screen->devicePixelRatio());
   }
-  lines << QString() << log.text().trimmed();
+  lines << QString() << log.englishText().trimmed();
   return lines.join(u'\n') + u'\n';
 }
 

@@ -88,21 +88,25 @@ void FileTrayProvider::start() {
   const QString kept = loaded.keptAside ? toQString(loaded.keptAside->string()) : QString();
   using Problem = FileTrayStorage::Loaded::Problem;
   if (!loaded.problem) {
-    diagnostics().record(
-        lcFiles(), name(), DiagnosticsLog::Outcome::ok,
-        tr("keeping the file tray in %1").arg(toQString(storage_.listFile().string())));
+    diagnostics().record(lcFiles(), name(), DiagnosticsLog::Outcome::ok,
+                         Sentence(QT_TR_NOOP("keeping the file tray in %1"), tr)
+                             .arg(toQString(storage_.listFile().string())));
   } else if (*loaded.problem == Problem::skippedItems) {
-    diagnostics().record(lcFiles(), name(), DiagnosticsLog::Outcome::degraded,
-                         tr("some items of the saved file tray could not be read and "
-                            "were left out; the list as it was is kept as %1")
-                             .arg(kept));
+    diagnostics().record(
+        lcFiles(), name(), DiagnosticsLog::Outcome::degraded,
+        Sentence(QT_TR_NOOP("some items of the saved file tray could not be read and "
+                            "were left out; the list as it was is kept as %1"),
+                 tr)
+            .arg(kept));
   } else {
     diagnostics().record(
         lcFiles(), name(), DiagnosticsLog::Outcome::degraded,
-        tr("the saved file tray %1; it is kept as %2 and the tray starts empty")
-            .arg(*loaded.problem == Problem::newerVersion ? tr("was written by a newer Tindra")
-                                                          : tr("could not be read"),
-                 kept));
+        Sentence(QT_TR_NOOP("the saved file tray %1; it is kept as %2 and the tray starts empty"),
+                 tr)
+            .arg(*loaded.problem == Problem::newerVersion
+                     ? Sentence(QT_TR_NOOP("was written by a newer Tindra"), tr)
+                     : Sentence(QT_TR_NOOP("could not be read"), tr))
+            .arg(kept));
   }
   storage_.removeStaleIncoming(now_());
   watchFolders();
@@ -283,11 +287,13 @@ void FileTrayProvider::itemsChanged() {
 
 void FileTrayProvider::save() {
   if (const auto saved = storage_.save(tray_); !saved) {
-    diagnostics().record(lcFiles(), name(), DiagnosticsLog::Outcome::failed,
-                         saved.error().code == FileTrayStorage::SaveError::Code::fileInTheWay
-                             ? tr("the file tray is not saved: an unreadable list "
-                                  "could not be moved aside")
-                             : toQString(saved.error().failure.message(storage_.listFile())));
+    diagnostics().record(
+        lcFiles(), name(), DiagnosticsLog::Outcome::failed,
+        saved.error().code == FileTrayStorage::SaveError::Code::fileInTheWay
+            ? Sentence(QT_TR_NOOP("the file tray is not saved: an unreadable list "
+                                  "could not be moved aside"),
+                       tr)
+            : Sentence::verbatim(toQString(saved.error().failure.message(storage_.listFile()))));
   }
 }
 

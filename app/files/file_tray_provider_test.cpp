@@ -167,8 +167,10 @@ TEST_F(FileTrayProviderTest, AnUnreadableSavedListIsKeptAsideAndSaid) {
   EXPECT_TRUE(tray->tray().items().empty());
   const DiagnosticsLog::Entry& said = diagnostics_.entries().back();
   EXPECT_EQ(said.outcome, DiagnosticsLog::Outcome::degraded);
-  ASSERT_TRUE(said.text.contains("could not be read")) << said.text.toStdString();
-  const QString kept = said.text.section(QStringLiteral("kept as "), 1).section(' ', 0, 0);
+  ASSERT_TRUE(said.text.english().contains("could not be read"))
+      << said.text.english().toStdString();
+  const QString kept =
+      said.text.english().section(QStringLiteral("kept as "), 1).section(' ', 0, 0);
   QFile aside(kept);
   ASSERT_TRUE(aside.open(QIODevice::ReadOnly)) << kept.toStdString();
   EXPECT_EQ(aside.readAll(), "{\"version\": 1, \"items\": [tor");

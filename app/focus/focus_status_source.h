@@ -1,42 +1,34 @@
-// FocusStatusSource: whether the desktop's own do-not-disturb (its Focus) is on. A source reports
-// each change when it happens and says which service it reads; the state is unknown until read.
-// NullFocusStatusSource is the do-nothing source of a desktop that has no such switch to read.
+// FocusStatusSource: whether the desktop's own do-not-disturb (its Focus) is on, reported as it
+// changes; unknown until read. FocusStatusSource::Null is the do-nothing source of a desktop
+// without such a switch to read: only `tindra focus` then shows a Focus.
 #pragma once
 
-#include <QObject>
 #include <optional>
 
-#include "base/service_check.h"
+#include "base/backend.h"
 
 namespace tindra {
 
-class FocusStatusSource : public QObject {
+class FocusStatusSource : public Backend {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  using Backend::Backend;
+  using Null = NullBackend<FocusStatusSource>;
 
-  virtual void start() = 0;
   // Whether the desktop's do-not-disturb is on; nothing while unknown.
-  virtual std::optional<bool> focused() const = 0;
-  virtual ServiceCheck check() const = 0;
+  const std::optional<bool>& focused() const { return focused_; }
 
  signals:
   void focusedChanged();
-  void checkChanged();
-};
 
-class NullFocusStatusSource final : public FocusStatusSource {
- public:
-  explicit NullFocusStatusSource(QString reason, QObject* parent = nullptr)
-      : FocusStatusSource(parent), check_{DiagnosticsLog::Outcome::degraded, std::move(reason)} {}
-
-  void start() override {}
-  std::optional<bool> focused() const override { return std::nullopt; }
-  ServiceCheck check() const override { return check_; }
+ protected:
+  void publish(std::optional<bool> focused) {
+    if (assignIfChanged(focused_, focused)) emit focusedChanged();
+  }
 
  private:
-  ServiceCheck check_;
+  std::optional<bool> focused_;
 };
 
 }  // namespace tindra

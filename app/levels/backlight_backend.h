@@ -4,11 +4,9 @@
 // answers.
 #pragma once
 
-#include <QObject>
 #include <optional>
 
-#include "base/assign_if_changed.h"
-#include "base/service_check.h"
+#include "base/backend.h"
 #include "hud/brightness_access.h"
 
 namespace tindra {
@@ -21,13 +19,13 @@ struct BacklightReading {
   friend bool operator==(const BacklightReading&, const BacklightReading&) = default;
 };
 
-class BacklightBackend : public QObject {
+class BacklightBackend : public Backend {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  using Backend::Backend;
+  class Null;
 
-  virtual void start() = 0;
   // Asks for `level`; writeFinished reports what the light read afterwards.
   virtual void setLevel(double level) = 0;
 
@@ -35,12 +33,10 @@ class BacklightBackend : public QObject {
   const std::optional<BacklightReading>& reading() const { return reading_; }
   // readWrite when setLevel works, readOnly when the level can only be watched.
   BrightnessAccess access() const { return access_; }
-  const ServiceCheck& check() const { return check_; }
 
  signals:
   void readingChanged();
-  // A change of access() or check().
-  void checkChanged();
+  // checkChanged also tells of a change of access().
   // A write has been answered; `after` is the level read back once it was (for verifying
   // that the hardware really moved).
   void writeFinished(double requested, double after);
@@ -56,15 +52,24 @@ class BacklightBackend : public QObject {
     reading_.reset();
     emit readingChanged();
   }
-  void setAccess(BrightnessAccess access, DiagnosticsLog::Outcome outcome, const QString& text) {
-    const bool accessChanged = assignIfChanged(access_, access);
-    if (assignIfChanged(check_, ServiceCheck{outcome, text}) || accessChanged) emit checkChanged();
+  void setAccess(BrightnessAccess access, DiagnosticsLog::Outcome outcome, const Sentence& text) {
+    if (assignIfChanged(access_, access) && check() == ServiceCheck{outcome, text}) {
+      emit checkChanged();
+      return;
+    }
+    setCheck(outcome, text);
   }
 
  private:
   std::optional<BacklightReading> reading_;
   BrightnessAccess access_ = BrightnessAccess::unavailable;
-  ServiceCheck check_;
+};
+
+// Where there is no such light to follow: no reading, and nothing to set.
+class BacklightBackend::Null final : public NullBackend<BacklightBackend> {
+ public:
+  using NullBackend::NullBackend;
+  void setLevel(double) override {}
 };
 
 }  // namespace tindra

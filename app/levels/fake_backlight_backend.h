@@ -7,13 +7,15 @@
 namespace tindra {
 
 class FakeBacklightBackend final : public BacklightBackend {
+  Q_OBJECT
+
  public:
   FakeBacklightBackend(QString device, double level, QObject* parent = nullptr)
       : BacklightBackend(parent), device_(std::move(device)), level_(level) {}
 
   void start() override {
     setAccess(BrightnessAccess::readWrite, DiagnosticsLog::Outcome::degraded,
-              QStringLiteral("invented readings (TINDRA_FAKE asks for them)"));
+              Sentence(QT_TR_NOOP("invented readings (TINDRA_FAKE asks for them)"), tr));
     change(level_);
   }
   void setLevel(double level) override {

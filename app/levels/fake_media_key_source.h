@@ -9,6 +9,8 @@
 namespace tindra {
 
 class FakeMediaKeySource final : public MediaKeySource {
+  Q_OBJECT
+
  public:
   using MediaKeySource::MediaKeySource;
 
@@ -22,7 +24,6 @@ class FakeMediaKeySource final : public MediaKeySource {
     }
   }
   std::vector<KeyGrab> refused() const override { return refused_; }
-  ServiceCheck check() const override { return {}; }
 
   bool holds(SystemDefinedKeyEvent::Key key, KeyModifiers modifiers = {}) const {
     return std::ranges::find(held, KeyGrab{key, modifiers}) != held.end();

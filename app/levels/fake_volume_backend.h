@@ -8,16 +8,20 @@
 namespace tindra {
 
 class FakeVolumeBackend final : public VolumeBackend {
+  Q_OBJECT
+
  public:
-  using VolumeBackend::VolumeBackend;
+  explicit FakeVolumeBackend(QObject* parent = nullptr) : VolumeBackend(parent) {
+    setCheck(DiagnosticsLog::Outcome::degraded,
+             Sentence(QT_TR_NOOP("invented readings (TINDRA_FAKE asks for them)"), tr));
+  }
 
   // Shared by the level indicator and the accessories: a second start keeps the level.
   void start() override {
-    if (!reading_) {
+    if (!reading()) {
       publish(VolumeReading{"invented-output", 0.6, false, AudioTransport::builtIn, true, true});
     }
   }
-  std::optional<VolumeReading> reading() const override { return reading_; }
   void setLevel(double level) override {
     change([level](VolumeReading& r) { r.level = level; });
   }
@@ -25,18 +29,10 @@ class FakeVolumeBackend final : public VolumeBackend {
     change([muted](VolumeReading& r) { r.muted = muted; });
   }
   void playFeedback() override { ++feedbackPlayed; }
-  ServiceCheck check() const override {
-    return {DiagnosticsLog::Outcome::degraded,
-            QStringLiteral("invented readings (TINDRA_FAKE asks for them)")};
-  }
 
   int feedbackPlayed = 0;
 
-  void publish(std::optional<VolumeReading> reading) {
-    if (reading == reading_) return;
-    reading_ = std::move(reading);
-    emit readingChanged();
-  }
+  using VolumeBackend::publish;
   // The default output becomes `output`, a Bluetooth device when `bluetoothAddress` is given.
   void routeTo(const QString& output, std::optional<std::string> bluetoothAddress) {
     change([&](VolumeReading& r) {
@@ -49,13 +45,11 @@ class FakeVolumeBackend final : public VolumeBackend {
  private:
   template <class Edit>
   void change(Edit edit) {
-    if (!reading_) return;
-    VolumeReading next = *reading_;
+    if (!reading()) return;
+    VolumeReading next = *reading();
     edit(next);
     publish(next);
   }
-
-  std::optional<VolumeReading> reading_;
 };
 
 }  // namespace tindra

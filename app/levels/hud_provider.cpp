@@ -85,7 +85,8 @@ void HudProvider::start() {
 }
 
 QString HudProvider::sourceName(const Light& light) const {
-  return light.kind == HUDKind::brightness ? QStringLiteral("brightness") : tr("keyboard light");
+  return light.kind == HUDKind::brightness ? QStringLiteral("brightness")
+                                           : QStringLiteral("keyboard light");
 }
 
 void HudProvider::record(const QString& source, const ServiceCheck& check) {
@@ -208,11 +209,11 @@ void HudProvider::onKeyboardWrite(double requested, double after) {
   const auto verdict = KeyboardBacklightWriteMonitor::verdict(keyboardBefore_, requested, after);
   if (!keyboardMonitor_.record(verdict) || keyboardWritesIgnored_) return;
   keyboardWritesIgnored_ = true;
-  const QString reason = QStringLiteral(
-      "the keyboard backlight ignores Tindra's changes: the keys go back to the desktop and the "
-      "notch only shows the level");
-  qCWarning(lcHud).noquote() << "Keyboard backlight HUD unavailable:" << reason;
-  diagnostics().record(lcHud(), sourceName(keyboard_), DiagnosticsLog::Outcome::degraded, reason);
+  diagnostics().record(lcHud(), sourceName(keyboard_), DiagnosticsLog::Outcome::degraded,
+                       Sentence(QT_TR_NOOP("the keyboard backlight ignores Tindra's changes: the "
+                                           "keys go back to the desktop and the notch only shows "
+                                           "the level"),
+                                tr));
   updateRouting();
 }
 
@@ -268,12 +269,11 @@ void HudProvider::updateRouting() {
   if (routed_ && context == keyContext_) return;
   routed_ = true;
   keyContext_ = context;
-  qCInfo(lcMediaKeys).noquote() << tr("Key routing: volume %1, brightness %2, keyboard %3")
-                                       .arg(context.volumeControllable && context.volumeHUDEnabled
-                                                ? "true"
-                                                : "false",
-                                            toQString(tindra::name(context.brightness)),
-                                            toQString(tindra::name(context.keyboardBacklight)));
+  qCInfo(lcMediaKeys).noquote()
+      << QStringLiteral("Key routing: volume %1, brightness %2, keyboard %3")
+             .arg(context.volumeControllable && context.volumeHUDEnabled ? "true" : "false",
+                  toQString(tindra::name(context.brightness)),
+                  toQString(tindra::name(context.keyboardBacklight)));
   wanted_ = grabsFor(context);
   keys_->setWanted(wanted_);
   recordKeys();
@@ -291,23 +291,27 @@ void HudProvider::recordKeys() {
       left << keyName(key);
     }
   }
-  QStringList parts;
-  const ServiceCheck check = keys_->check();
-  if (check.outcome != DiagnosticsLog::Outcome::ok) parts << check.text;
+  std::vector<Sentence> parts;
+  const ServiceCheck& check = keys_->check();
+  if (check.outcome != DiagnosticsLog::Outcome::ok) parts.push_back(check.text);
   if (check.outcome == DiagnosticsLog::Outcome::ok && !held.isEmpty()) {
-    parts << tr("holds %1").arg(held.join(QStringLiteral(", ")));
+    parts.push_back(Sentence(QT_TR_NOOP("holds %1"), tr).arg(held.join(QStringLiteral(", "))));
   }
   if (!watched.isEmpty()) {
-    parts << tr("only watches the level for %1 (another program holds them)")
-                 .arg(watched.join(QStringLiteral(", ")));
+    parts.push_back(
+        Sentence(QT_TR_NOOP("only watches the level for %1 (another program holds them)"), tr)
+            .arg(watched.join(QStringLiteral(", "))));
   }
   if (!left.isEmpty()) {
-    parts << tr("leaves %1 to the desktop").arg(left.join(QStringLiteral(", ")));
+    parts.push_back(
+        Sentence(QT_TR_NOOP("leaves %1 to the desktop"), tr).arg(left.join(QStringLiteral(", "))));
   }
+  Sentence text;
+  for (const Sentence& part : parts) text = text.isEmpty() ? part : text.followedBy(part);
   const bool degraded = check.outcome != DiagnosticsLog::Outcome::ok || !watched.isEmpty();
   diagnostics().record(lcMediaKeys(), QStringLiteral("keys"),
                        degraded ? DiagnosticsLog::Outcome::degraded : DiagnosticsLog::Outcome::ok,
-                       parts.join(QStringLiteral("; ")));
+                       text);
 }
 
 }  // namespace tindra

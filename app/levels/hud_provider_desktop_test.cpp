@@ -91,7 +91,7 @@ class HudProviderDesktopTest : public ::testing::Test {
   QString keysDiagnostic() const {
     QString text;
     for (const auto& entry : diagnostics_.entries()) {
-      if (entry.source == "keys") text = entry.text;
+      if (entry.source == "keys") text = entry.text.english();
     }
     return text;
   }

@@ -44,7 +44,7 @@ class HudProviderTest : public ::testing::Test {
   QString lastDiagnostic(const QString& source) const {
     QString text;
     for (const auto& entry : diagnostics_.entries()) {
-      if (entry.source == source) text = entry.text;
+      if (entry.source == source) text = entry.text.english();
     }
     return text;
   }
@@ -129,7 +129,8 @@ TEST_F(HudProviderTest, KeysAreHeldOnlyWhereTindraCanChangeTheLevel) {
   EXPECT_TRUE(lastDiagnostic("keys").contains("only watches the level for XF86MonBrightnessUp"));
   EXPECT_TRUE(lastDiagnostic("keys").contains("leaves XF86KbdBrightnessUp"));
 
-  display_->setAccess(BrightnessAccess::readOnly, DiagnosticsLog::Outcome::degraded, "no logind");
+  display_->setAccess(BrightnessAccess::readOnly, DiagnosticsLog::Outcome::degraded,
+                      Sentence::verbatim("no logind"));
   EXPECT_FALSE(keys_->holds(Key::brightnessDown));
   EXPECT_EQ(provider_->keyContext().brightness, BrightnessAccess::readOnly);
 

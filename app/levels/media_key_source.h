@@ -4,11 +4,10 @@
 // then only watches the level that program changes).
 #pragma once
 
-#include <QObject>
 #include <chrono>
 #include <vector>
 
-#include "base/service_check.h"
+#include "base/backend.h"
 #include "hud/key_modifiers.h"
 #include "hud/system_defined_key_event.h"
 
@@ -29,22 +28,29 @@ struct MediaKeyPress {
   std::chrono::steady_clock::time_point receivedAt;  // when Tindra read the event
 };
 
-class MediaKeySource : public QObject {
+class MediaKeySource : public Backend {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  using Backend::Backend;
+  class Null;
 
-  virtual void start() = 0;
   // Holds exactly `wanted` from now on, releasing the rest.
   virtual void setWanted(const std::vector<KeyGrab>& wanted) = 0;
   // The keys of `wanted` that another program holds.
   virtual std::vector<KeyGrab> refused() const = 0;
-  virtual ServiceCheck check() const = 0;
 
  signals:
   void pressed(const tindra::MediaKeyPress& press);
-  void checkChanged();
+};
+
+// Where no program may take the keys (a Wayland session, no display): the desktop keeps them,
+// and the level changes it makes are still shown.
+class MediaKeySource::Null final : public NullBackend<MediaKeySource> {
+ public:
+  using NullBackend::NullBackend;
+  void setWanted(const std::vector<KeyGrab>&) override {}
+  std::vector<KeyGrab> refused() const override { return {}; }
 };
 
 // A key's name for logs and diagnostics: "XF86AudioRaiseVolume".

@@ -3,12 +3,11 @@
 // also says which Bluetooth device the output is, so accessories can be matched to it.
 #pragma once
 
-#include <QObject>
 #include <QString>
 #include <optional>
 #include <string>
 
-#include "base/service_check.h"
+#include "base/backend.h"
 #include "hud/audio_transport.h"
 
 namespace tindra {
@@ -27,25 +26,39 @@ struct VolumeReading {
   friend bool operator==(const VolumeReading&, const VolumeReading&) = default;
 };
 
-class VolumeBackend : public QObject {
+class VolumeBackend : public Backend {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  using Backend::Backend;
+  class Null;
 
-  // Every user of a shared backend starts it; later calls change nothing.
-  virtual void start() = 0;
   // None while there is no sound server or no output.
-  virtual std::optional<VolumeReading> reading() const = 0;
+  const std::optional<VolumeReading>& reading() const { return reading_; }
   virtual void setLevel(double level) = 0;
   virtual void setMuted(bool muted) = 0;
   // The short volume-change sound, on the output the reading came from.
   virtual void playFeedback() = 0;
-  virtual ServiceCheck check() const = 0;
 
  signals:
   void readingChanged();
-  void checkChanged();
+
+ protected:
+  void publish(std::optional<VolumeReading> reading) {
+    if (assignIfChanged(reading_, std::move(reading))) emit readingChanged();
+  }
+
+ private:
+  std::optional<VolumeReading> reading_;
+};
+
+// Where there is no sound server to ask: no level, and nothing to set.
+class VolumeBackend::Null final : public NullBackend<VolumeBackend> {
+ public:
+  using NullBackend::NullBackend;
+  void setLevel(double) override {}
+  void setMuted(bool) override {}
+  void playFeedback() override {}
 };
 
 }  // namespace tindra

@@ -6,13 +6,15 @@
 namespace tindra {
 
 class FakeLockStateSource final : public LockStateSource {
+  Q_OBJECT
+
  public:
-  using LockStateSource::LockStateSource;
+  explicit FakeLockStateSource(QObject* parent = nullptr) : LockStateSource(parent) {
+    setCheck(DiagnosticsLog::Outcome::ok,
+             Sentence(QT_TR_NOOP("invented screen lock (TINDRA_FAKE)"), tr));
+  }
 
   void start() override {}
-  ServiceCheck check() const override {
-    return {DiagnosticsLog::Outcome::ok, QStringLiteral("invented screen lock (TINDRA_FAKE)")};
-  }
   void send(LockScreenPresence::Event event) { emit changed(event); }
 };
 

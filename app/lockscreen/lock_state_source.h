@@ -1,25 +1,21 @@
 // LockStateSource: the session's lock and screen-saver changes, as they happen.
+// LockStateSource::Null is the do-nothing source of a session without a lock to follow.
 #pragma once
 
-#include <QObject>
-
-#include "base/service_check.h"
+#include "base/backend.h"
 #include "lockscreen/lock_screen_presence.h"
 
 namespace tindra {
 
-class LockStateSource : public QObject {
+class LockStateSource : public Backend {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
-
-  virtual void start() = 0;
-  virtual ServiceCheck check() const = 0;
+  using Backend::Backend;
+  using Null = NullBackend<LockStateSource>;
 
  signals:
   void changed(tindra::LockScreenPresence::Event event);
-  void checkChanged();
 };
 
 }  // namespace tindra

@@ -16,18 +16,20 @@ AdapterCheck::AdapterCheck(AdapterLaunch launch, DiagnosticsLog& log, QObject* p
   streamTimer_.setSingleShot(true);
   connect(&probe_, &AdapterProbe::finished, this, &AdapterCheck::onProbed);
   connect(&streamTimer_, &QTimer::timeout, this, [this] {
-    const QString playing =
+    const Sentence playing =
         last_ && *last_
-            ? QStringLiteral("\"%1\" %2")
-                  .arg(QString::fromStdString((*last_)->title),
-                       (*last_)->isPlaying ? QStringLiteral("playing") : QStringLiteral("paused"))
-            : tr("nothing playing");
-    report(updates_ > 0 ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::failed,
-           tr("Stream gave %1 update(s) and %2 unreadable line(s) in %3 s: %4.")
-               .arg(updates_)
-               .arg(stream_->parseErrors())
-               .arg(streamFor_ / 1000.0, 0, 'f', 1)
-               .arg(playing));
+            ? Sentence::verbatim(QStringLiteral("\"%1\" %2")
+                                     .arg(QString::fromStdString((*last_)->title),
+                                          (*last_)->isPlaying ? QStringLiteral("playing")
+                                                              : QStringLiteral("paused")))
+            : Sentence(QT_TR_NOOP("nothing playing"), tr);
+    report(
+        updates_ > 0 ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::failed,
+        Sentence(QT_TR_NOOP("Stream gave %1 update(s) and %2 unreadable line(s) in %3 s: %4."), tr)
+            .arg(updates_)
+            .arg(stream_->parseErrors())
+            .arg(streamFor_ / 1000.0, 0, 'f', 1)
+            .arg(playing));
     end();
   });
 }
@@ -41,11 +43,12 @@ void AdapterCheck::run(int streamFor) {
   probe_.run();
 }
 
-void AdapterCheck::onProbed(const AdapterProbeResult& result, const QString& text) {
+void AdapterCheck::onProbed(const AdapterProbeResult& result, const Sentence& text) {
   const bool passed = result == AdapterProbeResult::passed();
   report(passed ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::failed, text);
   if (!passed) {
-    report(DiagnosticsLog::Outcome::failed, tr("Stream skipped because the self-test failed."));
+    report(DiagnosticsLog::Outcome::failed,
+           Sentence(QT_TR_NOOP("Stream skipped because the self-test failed."), tr));
     end();
     return;
   }
@@ -62,14 +65,15 @@ void AdapterCheck::onProbed(const AdapterProbeResult& result, const QString& tex
           });
   connect(stream_.get(), &AdapterStreamProcess::launchFailed, this, [this](const QString& error) {
     streamTimer_.stop();
-    report(DiagnosticsLog::Outcome::failed, tr("Could not launch stream: ") + error);
+    report(DiagnosticsLog::Outcome::failed,
+           Sentence(QT_TR_NOOP("Could not launch stream: %1"), tr).arg(error));
     end();
   });
   stream_->start();
   streamTimer_.start(streamFor_);
 }
 
-void AdapterCheck::report(DiagnosticsLog::Outcome outcome, const QString& text) {
+void AdapterCheck::report(DiagnosticsLog::Outcome outcome, const Sentence& text) {
   log_.record(lcNowPlayingAdapter(), source, outcome, text);
 }
 

@@ -29,8 +29,8 @@ class AdapterCheck : public QObject {
   void finished();
 
  private:
-  void onProbed(const AdapterProbeResult& result, const QString& text);
-  void report(DiagnosticsLog::Outcome outcome, const QString& text);
+  void onProbed(const AdapterProbeResult& result, const Sentence& text);
+  void report(DiagnosticsLog::Outcome outcome, const Sentence& text);
   void end();
 
   AdapterLaunch launch_;

@@ -25,7 +25,7 @@ QStringList runCheck(const AdapterLaunch& launch) {
   check.run(300);
   EXPECT_TRUE(done.wait(5000));
   QStringList lines;
-  for (const DiagnosticsLog::Entry& entry : log.entries()) lines << entry.text;
+  for (const DiagnosticsLog::Entry& entry : log.entries()) lines << entry.text.english();
   return lines;
 }
 

@@ -21,6 +21,8 @@ QStringList toQt(const std::vector<std::string>& words) {
 AdapterNowPlayingSource::AdapterNowPlayingSource(AdapterLaunch launch, RestartBackoff backoff,
                                                  QObject* parent)
     : NowPlayingSource(parent), launch_(std::move(launch)), backoff_(backoff) {
+  setCheck(DiagnosticsLog::Outcome::ok,
+           Sentence(QT_TR_NOOP("following the players through the adapter's stream"), tr));
   restartTimer_.setSingleShot(true);
   connect(&restartTimer_, &QTimer::timeout, this, &AdapterNowPlayingSource::launchStream);
 }
@@ -69,11 +71,15 @@ void AdapterNowPlayingSource::onExited(int exitStatus) {
   const double ranFor = static_cast<double>(childStartedAt_.elapsed()) / 1000.0;
   const double delay = backoff_.nextDelay(0, ranFor);
   qCWarning(lcNowPlayingAdapter).noquote()
-      << tr("Adapter stream exited with status %1; restarting in %2 s")
+      << QStringLiteral("Adapter stream exited with status %1; restarting in %2 s")
              .arg(exitStatus)
              .arg(delay, 0, 'f', 1);
   restartTimer_.start(static_cast<int>(std::ceil(delay * 1000.0)));
-  if (backoff_.shouldRetest()) emit repeatedFailure();
+  if (!backoff_.shouldRetest()) return;
+  setCheck(
+      DiagnosticsLog::Outcome::degraded,
+      Sentence(QT_TR_NOOP("the adapter's stream keeps failing: testing the adapter again"), tr));
+  emit repeatedFailure();
 }
 
 void AdapterNowPlayingSource::send(const NowPlayingCommand& command) {

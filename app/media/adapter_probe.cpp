@@ -14,24 +14,26 @@ AdapterProbe::AdapterProbe(AdapterLaunch launch, FileExists fileExists, QObject*
   deadline_.setSingleShot(true);
   connect(&deadline_, &QTimer::timeout, this, [this] {
     process_.kill();
-    finish(
-        AdapterProbeResult::timedOut(),
-        tr("The adapter's self-test did not finish within %1 s.").arg(deadline_.interval() / 1000));
+    finish(AdapterProbeResult::timedOut(),
+           Sentence(QT_TR_NOOP("The adapter's self-test did not finish within %1 s."), tr)
+               .arg(deadline_.interval() / 1000));
   });
   connect(&process_, &QProcess::errorOccurred, this, [this](QProcess::ProcessError error) {
     if (error != QProcess::FailedToStart) return;
     finish(AdapterProbeResult::launchFailed(),
-           tr("Could not launch %1: %2")
+           Sentence(QT_TR_NOOP("Could not launch %1: %2"), tr)
                .arg(QString::fromStdString(launch_.program), process_.errorString()));
   });
   connect(&process_, &QProcess::finished, this, [this](int exitCode, QProcess::ExitStatus status) {
     if (status == QProcess::NormalExit && exitCode == 0) {
-      finish(AdapterProbeResult::passed(), tr("The adapter's self-test passed."));
+      finish(AdapterProbeResult::passed(),
+             Sentence(QT_TR_NOOP("The adapter's self-test passed."), tr));
       return;
     }
     const int exitStatus = status == QProcess::CrashExit ? -1 : exitCode;
     finish(AdapterProbeResult::failed(exitStatus),
-           tr("The adapter's self-test failed with exit status %1.").arg(exitStatus));
+           Sentence(QT_TR_NOOP("The adapter's self-test failed with exit status %1."), tr)
+               .arg(exitStatus));
   });
 }
 
@@ -49,9 +51,10 @@ void AdapterProbe::run(int timeoutMilliseconds) {
   }
   running_ = true;
   if (!missing.isEmpty()) {
-    finish(AdapterProbeResult::notBundled(), tr("Adapter not bundled; missing: %1 %2")
-                                                 .arg(missing.join(QStringLiteral(", ")),
-                                                      QString::fromStdString(launch_.missingHint)));
+    finish(
+        AdapterProbeResult::notBundled(),
+        Sentence(QT_TR_NOOP("Adapter not bundled; missing: %1 %2"), tr)
+            .arg(missing.join(QStringLiteral(", ")), QString::fromStdString(launch_.missingHint)));
     return;
   }
   QStringList arguments;
@@ -60,7 +63,7 @@ void AdapterProbe::run(int timeoutMilliseconds) {
   process_.start(QString::fromStdString(launch_.program), arguments, QIODevice::NotOpen);
 }
 
-void AdapterProbe::finish(AdapterProbeResult result, const QString& text) {
+void AdapterProbe::finish(AdapterProbeResult result, const Sentence& text) {
   if (!running_) return;  // a kill after the deadline also ends in `finished`
   running_ = false;
   deadline_.stop();

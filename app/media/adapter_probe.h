@@ -8,6 +8,7 @@
 #include <QTimer>
 #include <functional>
 
+#include "base/sentence.h"
 #include "nowplaying/adapter_launch.h"
 #include "nowplaying/adapter_probe_result.h"
 
@@ -32,10 +33,10 @@ class AdapterProbe : public QObject {
   static constexpr int defaultTimeoutMilliseconds = 20'000;
 
  signals:
-  void finished(const tindra::AdapterProbeResult& result, const QString& text);
+  void finished(const tindra::AdapterProbeResult& result, const tindra::Sentence& text);
 
  private:
-  void finish(AdapterProbeResult result, const QString& text);
+  void finish(AdapterProbeResult result, const Sentence& text);
 
   AdapterLaunch launch_;
   FileExists fileExists_;

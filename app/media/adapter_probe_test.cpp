@@ -11,7 +11,7 @@ using Kind = AdapterProbeResult::Kind;
 
 struct Outcome {
   AdapterProbeResult result;
-  QString text;
+  QString text;  // in English
 };
 
 Outcome runTest(const AdapterLaunch& launch, int timeoutMilliseconds = 5000) {
@@ -20,7 +20,8 @@ Outcome runTest(const AdapterLaunch& launch, int timeoutMilliseconds = 5000) {
   test.run(timeoutMilliseconds);
   if (done.isEmpty() && !done.wait(10000)) return {AdapterProbeResult::notBundled(), "no result"};
   EXPECT_EQ(done.count(), 1);
-  return {done.at(0).at(0).value<AdapterProbeResult>(), done.at(0).at(1).toString()};
+  return {done.at(0).at(0).value<AdapterProbeResult>(),
+          done.at(0).at(1).value<Sentence>().english()};
 }
 
 AdapterLaunch shell(const std::string& script) {

@@ -10,6 +10,8 @@ namespace tindra {
 
 FakeNowPlayingSource::FakeNowPlayingSource(Clock now, QObject* parent)
     : NowPlayingSource(parent), now_(std::move(now)) {
+  setCheck(DiagnosticsLog::Outcome::degraded,
+           Sentence(QT_TR_NOOP("an invented track (TINDRA_FAKE asks for it)"), tr));
   if (!now_) {
     now_ = [] { return static_cast<double>(QDateTime::currentMSecsSinceEpoch()) / 1000.0; };
   }

@@ -10,6 +10,8 @@
 namespace tindra {
 
 class FakeNowPlayingSource final : public NowPlayingSource {
+  Q_OBJECT
+
  public:
   using Clock = std::function<double()>;  // seconds since 1970
 

@@ -67,13 +67,14 @@ NowPlayingPausedLinger NowPlayingProvider::pausedLinger() const {
 void NowPlayingProvider::start() {
   if (sourceMode() == NowPlayingSourceMode::appleScriptOnly) {
     diagnostics().record(lcNowPlaying(), name(), DiagnosticsLog::Outcome::degraded,
-                         tr("Settings ask for the player scripts, which this desktop "
-                            "does not have: nothing is shown as playing."));
+                         Sentence(QT_TR_NOOP("Settings ask for the player scripts, which this "
+                                             "desktop does not have: nothing is shown as playing."),
+                                  tr));
     return;
   }
   if (probe_) {
     diagnostics().record(lcNowPlaying(), name(), DiagnosticsLog::Outcome::ok,
-                         tr("testing the now-playing adapter %1")
+                         Sentence(QT_TR_NOOP("testing the now-playing adapter %1"), tr)
                              .arg(QString::fromStdString(probe_->launch().program)));
     probe_->run();
   } else {
@@ -81,7 +82,7 @@ void NowPlayingProvider::start() {
   }
 }
 
-void NowPlayingProvider::onProbed(const AdapterProbeResult& result, const QString& text) {
+void NowPlayingProvider::onProbed(const AdapterProbeResult& result, const Sentence& text) {
   const bool passed = result == AdapterProbeResult::passed();
   diagnostics().record(lcNowPlaying(), name(),
                        passed ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::failed,
@@ -93,10 +94,17 @@ void NowPlayingProvider::onProbed(const AdapterProbeResult& result, const QStrin
 void NowPlayingProvider::startSource() {
   source_ = makeSource_();
   connect(source_.get(), &NowPlayingSource::snapshotArrived, this, &NowPlayingProvider::show);
+  connect(source_.get(), &NowPlayingSource::checkChanged, this, &NowPlayingProvider::recordCheck);
+  recordCheck();
   connect(source_.get(), &NowPlayingSource::repeatedFailure, this, [this] {
     if (probe_) probe_->run();  // keeps the source if the adapter still passes
   });
   source_->start();
+}
+
+void NowPlayingProvider::recordCheck() {
+  const ServiceCheck& check = source_->check();
+  diagnostics().record(lcNowPlaying(), name(), check.outcome, check.text);
 }
 
 void NowPlayingProvider::dropSource() {

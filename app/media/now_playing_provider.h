@@ -51,8 +51,9 @@ class NowPlayingProvider final : public Provider {
  private:
   NowPlayingSourceMode sourceMode() const;
   NowPlayingPausedLinger pausedLinger() const;
-  void onProbed(const AdapterProbeResult& result, const QString& text);
+  void onProbed(const AdapterProbeResult& result, const Sentence& text);
   void startSource();
+  void recordCheck();
   void dropSource();
   void show(const std::optional<NowPlayingSnapshot>& snapshot);
   void send(const NowPlayingCommand& command);

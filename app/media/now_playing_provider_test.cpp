@@ -128,19 +128,22 @@ TEST_F(NowPlayingProviderTest, TheSourceRunsOnlyWhileTheAdapterPassesItsSelfTest
   const QString flag = dir_.filePath("broken");
   makeProvider(QStringLiteral("[ -e '%1' ] && exit 3; exit 0").arg(flag));
   start();
-  EXPECT_EQ(lastOutcome(), DiagnosticsLog::Outcome::ok);
   ASSERT_EQ(sourcesMade_, 1);
+  // The test's result, then the source's own check.
+  ASSERT_EQ(diagnostics_.entries().size(), 3);
+  EXPECT_EQ(diagnostics_.entries()[1].outcome, DiagnosticsLog::Outcome::ok);
+  EXPECT_TRUE(diagnostics_.entries()[2].text.english().contains("invented track"));
   EXPECT_EQ(activities_.current(), ActivityKind::nowPlaying);
 
   // Repeated failures bring a retest; passing keeps the source, failing drops it.
   emit source_->repeatedFailure();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 3; }, 5000));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 4; }, 5000));
   EXPECT_TRUE(provider_->hasSource());
   QFile(flag).open(QIODevice::WriteOnly);
   emit source_->repeatedFailure();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 4; }, 5000));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 5; }, 5000));
   EXPECT_EQ(lastOutcome(), DiagnosticsLog::Outcome::failed);
-  EXPECT_TRUE(diagnostics_.entries().back().text.contains("exit status 3"));
+  EXPECT_TRUE(diagnostics_.entries().back().text.english().contains("exit status 3"));
   EXPECT_FALSE(provider_->hasSource());
   EXPECT_EQ(activities_.current(), ActivityKind::idle);
   EXPECT_EQ(sourcesMade_, 1);
@@ -152,13 +155,14 @@ TEST_F(NowPlayingProviderTest, NoSourceIsStartedWhenTheTestFailsOrSettingsAskFor
   EXPECT_EQ(lastOutcome(), DiagnosticsLog::Outcome::failed);
   EXPECT_EQ(sourcesMade_, 0);
 
-  diagnostics_.record(lcNowPlaying(), "test", DiagnosticsLog::Outcome::ok, "separator");
+  diagnostics_.record(lcNowPlaying(), "test", DiagnosticsLog::Outcome::ok,
+                      Sentence::verbatim("separator"));
   ASSERT_TRUE(
       settings_.write(settings::nowPlayingSourceMode, NowPlayingSourceMode::appleScriptOnly));
   makeProvider(QStringLiteral("exit 0"));
   provider_->start();
   EXPECT_EQ(lastOutcome(), DiagnosticsLog::Outcome::degraded);
-  EXPECT_TRUE(diagnostics_.entries().back().text.contains("player scripts"));
+  EXPECT_TRUE(diagnostics_.entries().back().text.english().contains("player scripts"));
   QTest::qWait(100);
   EXPECT_EQ(sourcesMade_, 0);
 }

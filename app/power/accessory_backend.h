@@ -1,31 +1,40 @@
 // AccessoryBackend: the connected Bluetooth accessories, each with its kind and its batteries
-// merged from every source the platform has, reported as they change (never polled).
+// merged from every source the platform has, reported as they change.
+// AccessoryBackend::Null is the do-nothing backend of a session without Bluetooth to ask.
 #pragma once
 
-#include <QObject>
 #include <vector>
 
-#include "base/service_check.h"
+#include "base/backend.h"
 #include "power/bluetooth_accessory.h"
 
 namespace tindra {
 
-class AccessoryBackend : public QObject {
+class AccessoryBackend : public Backend {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  using Backend::Backend;
+  using Null = NullBackend<AccessoryBackend>;
 
-  virtual void start() = 0;
-  virtual std::vector<BluetoothAccessory> connected() const = 0;
-  virtual ServiceCheck check() const = 0;
+  const std::vector<BluetoothAccessory>& connected() const { return connected_; }
   // Whether the first full reading is in (or it is known there is none), so that the devices
   // connected before Tindra started are told apart from ones connecting now.
   virtual bool ready() const { return true; }
 
  signals:
   void changed();
-  void checkChanged();
+
+ protected:
+  // Whether the list changed (and `changed` was emitted).
+  bool publish(std::vector<BluetoothAccessory> connected) {
+    if (!assignIfChanged(connected_, std::move(connected))) return false;
+    emit changed();
+    return true;
+  }
+
+ private:
+  std::vector<BluetoothAccessory> connected_;
 };
 
 }  // namespace tindra

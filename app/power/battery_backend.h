@@ -1,30 +1,34 @@
-// BatteryBackend: where readings of the internal battery come from. A backend reports each
-// change when it happens (never by polling) and says whether its service answers.
+// BatteryBackend: where readings of the internal battery come from, reported when they change.
+// BatteryBackend::Null is the do-nothing backend of a session without a battery service.
 #pragma once
 
-#include <QObject>
 #include <optional>
 
-#include "base/service_check.h"
+#include "base/backend.h"
 #include "power/battery_status.h"
 
 namespace tindra {
 
-class BatteryBackend : public QObject {
+class BatteryBackend : public Backend {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  using Backend::Backend;
+  using Null = NullBackend<BatteryBackend>;
 
-  // Begins following the battery. Readings may arrive before or after this returns.
-  virtual void start() = 0;
   // The latest reading; nothing when there is no battery or no service to ask.
-  virtual std::optional<BatteryStatus> reading() const = 0;
-  virtual ServiceCheck check() const = 0;
+  const std::optional<BatteryStatus>& reading() const { return reading_; }
 
  signals:
   void readingChanged();
-  void checkChanged();
+
+ protected:
+  void publish(const std::optional<BatteryStatus>& reading) {
+    if (assignIfChanged(reading_, reading)) emit readingChanged();
+  }
+
+ private:
+  std::optional<BatteryStatus> reading_;
 };
 
 }  // namespace tindra

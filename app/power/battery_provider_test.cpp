@@ -60,10 +60,12 @@ TEST_F(BatteryProviderTest, EveryChangeOfTheServiceCheckReachesDiagnostics) {
   provider_->start();
   ASSERT_EQ(diagnostics_.entries().size(), 1);
   EXPECT_EQ(diagnostics_.entries().front().source, "battery");
-  EXPECT_TRUE(diagnostics_.entries().front().text.contains("invented"));
+  EXPECT_TRUE(diagnostics_.entries().front().text.english().contains("invented"));
 
-  backend_->setCheck({DiagnosticsLog::Outcome::degraded, "the service went away"});
-  backend_->setCheck({DiagnosticsLog::Outcome::degraded, "the service went away"});
+  backend_->setCheck(DiagnosticsLog::Outcome::degraded,
+                     Sentence::verbatim("the service went away"));
+  backend_->setCheck(DiagnosticsLog::Outcome::degraded,
+                     Sentence::verbatim("the service went away"));
   ASSERT_EQ(diagnostics_.entries().size(), 2);
   EXPECT_EQ(diagnostics_.entries().back().outcome, DiagnosticsLog::Outcome::degraded);
 }

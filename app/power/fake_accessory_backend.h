@@ -7,9 +7,14 @@
 namespace tindra {
 
 class FakeAccessoryBackend final : public AccessoryBackend {
+  Q_OBJECT
+
  public:
-  explicit FakeAccessoryBackend(QObject* parent = nullptr)
-      : AccessoryBackend(parent), connected_{inventedBuds()} {}
+  explicit FakeAccessoryBackend(QObject* parent = nullptr) : AccessoryBackend(parent) {
+    publish({inventedBuds()});
+    setCheck(DiagnosticsLog::Outcome::degraded,
+             Sentence(QT_TR_NOOP("invented accessories (TINDRA_FAKE asks for them)"), tr));
+  }
 
   // The earbuds connected from the start; the demo moves the invented sound to them.
   static BluetoothAccessory inventedBuds() {
@@ -22,19 +27,8 @@ class FakeAccessoryBackend final : public AccessoryBackend {
   }
 
   void start() override {}
-  std::vector<BluetoothAccessory> connected() const override { return connected_; }
-  ServiceCheck check() const override {
-    return {DiagnosticsLog::Outcome::degraded,
-            QStringLiteral("invented accessories (TINDRA_FAKE asks for them)")};
-  }
 
-  void setConnected(std::vector<BluetoothAccessory> connected) {
-    connected_ = std::move(connected);
-    emit changed();
-  }
-
- private:
-  std::vector<BluetoothAccessory> connected_;
+  void setConnected(std::vector<BluetoothAccessory> connected) { publish(std::move(connected)); }
 };
 
 }  // namespace tindra

@@ -7,20 +7,16 @@
 namespace tindra {
 
 class FakeBatteryBackend final : public BatteryBackend {
+  Q_OBJECT
+
  public:
   // Starts at 76 % on battery with 3 h 12 min to go.
   explicit FakeBatteryBackend(QObject* parent = nullptr);
 
   void start() override {}
-  std::optional<BatteryStatus> reading() const override { return reading_; }
-  ServiceCheck check() const override { return check_; }
 
-  void setReading(std::optional<BatteryStatus> reading);
-  void setCheck(ServiceCheck check);
-
- private:
-  std::optional<BatteryStatus> reading_;
-  ServiceCheck check_;
+  void setReading(const std::optional<BatteryStatus>& reading) { publish(reading); }
+  using Backend::setCheck;
 };
 
 }  // namespace tindra

@@ -51,16 +51,17 @@ QString AutostartEntry::text() const {
       .arg(quoted(program_));
 }
 
-QString AutostartEntry::setEnabled(bool enabled) const {
+Sentence AutostartEntry::setEnabled(bool enabled) const {
   if (!enabled) {
     std::error_code error;
     std::filesystem::remove(file(), error);
-    return error ? QCoreApplication::translate("Autostart", "could not remove %1: %2")
+    return error ? Sentence::in("Autostart",
+                                QT_TRANSLATE_NOOP("Autostart", "could not remove %1: %2"))
                        .arg(toQString(file().string()), toQString(error.message()))
-                 : QString();
+                 : Sentence();
   }
   const auto written = DurableFile(file()).write(text().toStdString());
-  return written ? QString() : toQString(written.error().message(file()));
+  return written ? Sentence() : Sentence::verbatim(toQString(written.error().message(file())));
 }
 
 }  // namespace tindra

@@ -4,6 +4,8 @@
 // removed when turned off; an entry that says Hidden=true counts as off.
 #pragma once
 
+#include "base/sentence.h"
+
 #include <QString>
 #include <filesystem>
 
@@ -20,8 +22,8 @@ class AutostartEntry {
 
   std::filesystem::path file() const { return configFolder_ / "autostart" / fileName; }
   bool enabled() const;
-  // An empty text when done, else what went wrong, for a person.
-  QString setEnabled(bool enabled) const;
+  // An empty sentence when done, else what went wrong, for a person.
+  Sentence setEnabled(bool enabled) const;
   // The entry's text.
   QString text() const;
 

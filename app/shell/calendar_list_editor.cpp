@@ -92,7 +92,7 @@ void CalendarListEditor::rebuild() {
     box->setToolTip(source.location);
     connect(box, &QCheckBox::toggled, this,
             [this, id = source.id](bool on) { setIncluded(id, on); });
-    auto* state = new QLabel(source.state.text);
+    auto* state = new QLabel(source.state.text.translated());
     state->setStyleSheet(source.state.outcome == DiagnosticsLog::Outcome::ok
                              ? QStringLiteral("color: gray")
                              : QStringLiteral("color: #b25000"));

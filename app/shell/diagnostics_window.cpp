@@ -19,9 +19,9 @@ DiagnosticsWindow::DiagnosticsWindow(DiagnosticsLog& log, std::vector<Check> che
   view_.setReadOnly(true);
   view_.setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
   view_.setLineWrapMode(QPlainTextEdit::NoWrap);
-  view_.setPlainText(log.text().trimmed());
+  view_.setPlainText(log.translatedText().trimmed());
   connect(&log, &DiagnosticsLog::recorded, this, [this, &log](const DiagnosticsLog::Entry&) {
-    view_.setPlainText(log.text().trimmed());
+    view_.setPlainText(log.translatedText().trimmed());
     view_.moveCursor(QTextCursor::End);
   });
   auto* layout = new QVBoxLayout(this);

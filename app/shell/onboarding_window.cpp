@@ -84,7 +84,7 @@ void OnboardingWindow::listServices() {
   QStringList lines;
   for (const QString& source : order) {
     const DiagnosticsLog::Entry& entry = *latest[source];
-    lines << QStringLiteral("%1  %2: %3").arg(mark(entry.outcome), source, entry.text);
+    lines << QStringLiteral("%1  %2: %3").arg(mark(entry.outcome), source, entry.text.translated());
   }
   services_.setText(lines.join(u'\n'));
 }
@@ -94,7 +94,7 @@ void OnboardingWindow::finish() {
     (void)settings_.write(settings::notchOpeningMode, static_cast<NotchOpeningMode>(mode));
   }
   if (startAtLogin_.isChecked() != autostart_.enabled()) {
-    if (const QString problem = autostart_.setEnabled(startAtLogin_.isChecked());
+    if (const Sentence problem = autostart_.setEnabled(startAtLogin_.isChecked());
         !problem.isEmpty()) {
       log_.record(lcApp(), QStringLiteral("autostart"), DiagnosticsLog::Outcome::failed, problem);
     }

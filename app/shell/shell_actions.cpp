@@ -65,7 +65,7 @@ QWidget* ShellActions::diagnosticsPanel() {
 
 void ShellActions::startAtLogin(bool on) {
   if (on == autostart_.enabled()) return;
-  if (const QString problem = autostart_.setEnabled(on); !problem.isEmpty()) {
+  if (const Sentence problem = autostart_.setEnabled(on); !problem.isEmpty()) {
     diagnostics_.record(lcApp(), QStringLiteral("autostart"), DiagnosticsLog::Outcome::failed,
                         problem);
     startAtLoginAction_.setChecked(autostart_.enabled());

@@ -73,9 +73,9 @@ void VisibilityMonitor::update() {
   if (any != reason_) {
     reason_ = any;
     diagnostics_.record(lcNotch(), source, DiagnosticsLog::Outcome::ok,
-                        reason_
-                            ? tr("the notch steps aside: %1").arg(toQString(tindra::name(*reason_)))
-                            : tr("the notch shows"));
+                        reason_ ? Sentence(QT_TR_NOOP("the notch steps aside: %1"), tr)
+                                      .arg(toQString(tindra::name(*reason_)))
+                                : Sentence(QT_TR_NOOP("the notch shows"), tr));
   }
   emit changed();
 }

@@ -15,12 +15,12 @@ class FakeLocationSource final : public LocationSource {
   Q_OBJECT
 
  public:
-  using LocationSource::LocationSource;
-  void start() override {}
-  std::optional<GeoCoordinate> location() const override { return GeoCoordinate{59.9139, 10.7522}; }
-  ServiceCheck check() const override {
-    return {DiagnosticsLog::Outcome::degraded, tr("an invented position (TINDRA_FAKE)")};
+  explicit FakeLocationSource(QObject* parent = nullptr) : LocationSource(parent) {
+    publish(GeoCoordinate{59.9139, 10.7522});  // Oslo
+    setCheck(DiagnosticsLog::Outcome::degraded,
+             Sentence(QT_TR_NOOP("an invented position (TINDRA_FAKE)"), tr));
   }
+  void start() override {}
 };
 
 class FakeForecastTransport final : public HTTPTransport {

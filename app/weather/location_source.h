@@ -1,31 +1,36 @@
-// LocationSource: where the machine is, roughly, for the weather. A source reports each new
-// position when it arrives and says whether its service answers; the weather rounds the
-// position to about a kilometre before it leaves the machine.
+// LocationSource: where the machine is, roughly, for the weather, reported as it changes. The
+// weather rounds the position to about a kilometre before it leaves the machine.
+// LocationSource::Null is the do-nothing source of a session without a location service; the
+// weather then uses the place the user set or the time zone's city.
 #pragma once
 
-#include <QObject>
 #include <optional>
 
-#include "base/service_check.h"
+#include "base/backend.h"
 #include "weather/geo_coordinate.h"
 
 namespace tindra {
 
-class LocationSource : public QObject {
+class LocationSource : public Backend {
   Q_OBJECT
 
  public:
-  using QObject::QObject;
+  using Backend::Backend;
+  using Null = NullBackend<LocationSource>;
 
-  // Begins following the position. Positions may arrive before or after this returns.
-  virtual void start() = 0;
   // The latest position; none until one is known.
-  virtual std::optional<GeoCoordinate> location() const = 0;
-  virtual ServiceCheck check() const = 0;
+  const std::optional<GeoCoordinate>& location() const { return location_; }
 
  signals:
   void locationChanged();
-  void checkChanged();
+
+ protected:
+  void publish(const std::optional<GeoCoordinate>& location) {
+    if (assignIfChanged(location_, location)) emit locationChanged();
+  }
+
+ private:
+  std::optional<GeoCoordinate> location_;
 };
 
 }  // namespace tindra

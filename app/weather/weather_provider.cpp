@@ -207,15 +207,19 @@ void WeatherProvider::enabledChanged() {
 }
 
 void WeatherProvider::recordCheck() {
-  ServiceCheck check{DiagnosticsLog::Outcome::ok, tr("the weather is off in Settings")};
+  ServiceCheck check{DiagnosticsLog::Outcome::ok,
+                     Sentence(QT_TR_NOOP("the weather is off in Settings"), tr)};
   if (settings().read(settings::weatherEnabled)) {
     const std::optional<Position> where = position();
     check = locationService_->check();
-    check.text = tr("position: %1; %2").arg(where ? where->source : tr("none yet"), check.text);
+    check.text = Sentence(QT_TR_NOOP("position: %1; %2"), tr)
+                     .arg(where ? where->source : Sentence(QT_TR_NOOP("none yet"), tr))
+                     .arg(check.text);
     if (lastFailure_) {
       check.outcome = DiagnosticsLog::Outcome::degraded;
-      check.text +=
-          tr("; the last request failed (%1)").arg(toQString(tindra::name(lastFailure_->kind)));
+      check.text = check.text.followedBy(Sentence(QT_TR_NOOP("; the last request failed (%1)"), tr)
+                                             .arg(toQString(tindra::name(lastFailure_->kind))),
+                                         QString());
     }
   }
   diagnostics().record(lcWeather(), name(), check.outcome, check.text);
@@ -223,17 +227,16 @@ void WeatherProvider::recordCheck() {
 
 std::optional<WeatherProvider::Position> WeatherProvider::position() const {
   if (preferences_.location) {
-    return Position{
-        *preferences_.location,
-        preferences_.locationName.empty()
-            ? tr("set in Settings")
-            : QStringLiteral("%1, set in Settings").arg(toQString(preferences_.locationName))};
+    return Position{*preferences_.location, preferences_.locationName.empty()
+                                                ? Sentence(QT_TR_NOOP("set in Settings"), tr)
+                                                : Sentence(QT_TR_NOOP("%1, set in Settings"), tr)
+                                                      .arg(toQString(preferences_.locationName))};
   }
   if (const auto located = locationService_->location()) {
-    return Position{*located, tr("GeoClue")};
+    return Position{*located, Sentence(QT_TR_NOOP("GeoClue"), tr)};
   }
   if (const auto city = zones_.city(places_.timeZone)) {
-    return Position{*city, tr("the time zone %1").arg(toQString(places_.timeZone))};
+    return Position{*city, inTimeZone()};
   }
   // An older name of the zone ("Asia/Calcutta") is listed under its current one, one of the
   // names ICU knows as the same zone.
@@ -242,7 +245,7 @@ std::optional<WeatherProvider::Position> WeatherProvider::position() const {
     std::string other;
     icu::TimeZone::getEquivalentID(zone, i).toUTF8String(other);
     if (const auto city = zones_.city(other)) {
-      return Position{*city, tr("the time zone %1").arg(toQString(places_.timeZone))};
+      return Position{*city, inTimeZone()};
     }
   }
   return std::nullopt;
@@ -256,7 +259,11 @@ ZoneTable WeatherProvider::cities() const {
 
 QString WeatherProvider::positionSource() const {
   const auto where = position();
-  return where ? where->source : tr("none yet");
+  return where ? where->source.translated() : tr("none yet");
+}
+
+Sentence WeatherProvider::inTimeZone() const {
+  return Sentence(QT_TR_NOOP("the time zone %1"), tr).arg(toQString(places_.timeZone));
 }
 
 std::optional<QString> WeatherProvider::setPreferences(WeatherPreferences preferences) {
@@ -365,7 +372,7 @@ WeatherViewModel::State WeatherProvider::state(double now,
   WeatherViewModel::State state;
   state.enabled = true;
   const std::optional<Position> where = position();
-  state.place = where ? where->source : QString();
+  state.place = where ? where->source.translated() : QString();
   if (!snapshot_ || !WeatherRefreshPolicy::isFresh(*snapshot_, now)) {
     state.unavailable =
         where ? tr("The weather is unavailable right now.") : tr("Waiting for location access");

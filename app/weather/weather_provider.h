@@ -66,11 +66,12 @@ class WeatherProvider final : public Provider {
  private:
   struct Position {
     GeoCoordinate coordinate;
-    QString source;
+    Sentence source;  // where it comes from
   };
   std::optional<Position> position() const;
   void enabledChanged();
   void recordCheck();
+  Sentence inTimeZone() const;
   void loadKept();
   void saveKept() const;
   void fetch(const GeoCoordinate& coordinate);

@@ -39,9 +39,7 @@ struct CannedForecast final : HTTPTransport {
 // A location service that knows nothing until told.
 struct SetLocation final : LocationSource {
   void start() override {}
-  std::optional<GeoCoordinate> location() const override { return position; }
-  ServiceCheck check() const override { return {}; }
-  std::optional<GeoCoordinate> position;
+  void set(GeoCoordinate position) { publish(position); }
 };
 
 class WeatherProviderTest : public ::testing::Test {
@@ -163,8 +161,7 @@ TEST_F(WeatherProviderTest, ThePositionComesFromTheUserThenGeoClueThenTheTimeZon
   EXPECT_TRUE(transport_->requests.empty());
   EXPECT_EQ(nowhere->viewModel()->unavailable(), "Waiting for location access");
 
-  location_->position = GeoCoordinate{60.3913, 5.3221};
-  emit location_->locationChanged();
+  location_->set(GeoCoordinate{60.3913, 5.3221});
   ASSERT_EQ(transport_->requests.size(), 1U);
   EXPECT_TRUE(transport_->requests[0].url.ends_with("?lat=60.39&lon=5.32"));
   EXPECT_EQ(nowhere->positionSource(), "GeoClue");
@@ -192,7 +189,7 @@ TEST_F(WeatherProviderTest, ThePositionComesFromTheUserThenGeoClueThenTheTimeZon
 TEST_F(WeatherProviderTest, AnAnswerThatComesAtOnceIsShownWhenTheClockMovesOn) {
   (void)settings_.write(settings::weatherEnabled, true);
   auto location = std::make_unique<SetLocation>();
-  location->position = GeoCoordinate{59.91, 10.75};
+  location->set(GeoCoordinate{59.91, 10.75});
   double ticking = lateEvening;
   WeatherProvider weather(
       {activities_, settings_, diagnostics_}, std::move(location), transport_,

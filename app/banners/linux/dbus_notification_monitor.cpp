@@ -157,9 +157,9 @@ struct DBusNotificationMonitor::Watch {
 DBusNotificationMonitor::DBusNotificationMonitor(QDBusConnection bus, QObject* parent)
     : NotificationSource(parent),
       bus_(std::move(bus)),
-      watcher_(dbus::notificationsService, bus_, QDBusServiceWatcher::WatchForOwnerChange),
-      check_{DiagnosticsLog::Outcome::ok,
-             tr("calls and messages are off: notifications are not read")} {
+      watcher_(dbus::notificationsService, bus_, QDBusServiceWatcher::WatchForOwnerChange) {
+  setCheck(DiagnosticsLog::Outcome::ok,
+           Sentence(QT_TR_NOOP("calls and messages are off: notifications are not read"), tr));
   connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
           [this](const QString&, const QString& oldOwner, const QString& newOwner) {
             if (!running_) return;
@@ -191,7 +191,7 @@ void DBusNotificationMonitor::stop() {
   running_ = false;
   detach();
   setCheck(DiagnosticsLog::Outcome::ok,
-           tr("calls and messages are off: notifications are not read"));
+           Sentence(QT_TR_NOOP("calls and messages are off: notifications are not read"), tr));
 }
 
 // The rules: both ways programs send notifications, the server's closing signal and, when a
@@ -236,10 +236,12 @@ void DBusNotificationMonitor::attach(const QString& owner) {
     if (reply) dbus_message_unref(reply);
   }
   if (dbus_error_is_set(&error)) {
-    setCheck(DiagnosticsLog::Outcome::failed,
-             tr("the session bus does not let Tindra read notifications (%1): no calls "
-                "or messages are shown")
-                 .arg(QString::fromUtf8(error.message)));
+    setCheck(
+        DiagnosticsLog::Outcome::failed,
+        Sentence(QT_TR_NOOP("the session bus does not let Tindra read notifications (%1): no calls "
+                            "or messages are shown"),
+                 tr)
+            .arg(QString::fromUtf8(error.message)));
     dbus_error_free(&error);
     detach();
     return;
@@ -256,12 +258,14 @@ void DBusNotificationMonitor::attach(const QString& owner) {
   dbus_connection_set_watch_functions(monitor_, addWatch, removeWatch, toggleWatch, this, nullptr);
   qCInfo(lcBanners) << "Reading notification banners for calls and messages";
   if (owner_.isEmpty()) {
-    setCheck(DiagnosticsLog::Outcome::degraded,
-             tr("no notification server runs on the session bus: calls and messages "
-                "show once one starts"));
+    setCheck(
+        DiagnosticsLog::Outcome::degraded,
+        Sentence(QT_TR_NOOP("no notification server runs on the session bus: calls and messages "
+                            "show once one starts"),
+                 tr));
   } else {
     setCheck(DiagnosticsLog::Outcome::ok,
-             tr("reading notification banners for calls and messages"));
+             Sentence(QT_TR_NOOP("reading notification banners for calls and messages"), tr));
   }
   // What arrived with the answer is already queued.
   QTimer::singleShot(0, this, &DBusNotificationMonitor::dispatch);
@@ -284,8 +288,9 @@ void DBusNotificationMonitor::dispatch() {
   if (!dbus_connection_get_is_connected(monitor_)) {
     detach();
     setCheck(DiagnosticsLog::Outcome::failed,
-             tr("the session bus closed the notification monitor: no calls or "
-                "messages are shown"));
+             Sentence(QT_TR_NOOP("the session bus closed the notification monitor: no calls or "
+                                 "messages are shown"),
+                      tr));
   }
 }
 
@@ -343,10 +348,6 @@ void DBusNotificationMonitor::answered(DBusMessage* answer, bool accepted) {
   if (!accepted) return;
   notification.id = firstUint(answer);
   emit notified(notification);
-}
-
-void DBusNotificationMonitor::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
-  if (assignIfChanged(check_, ServiceCheck{outcome, text})) emit checkChanged();
 }
 
 unsigned DBusNotificationMonitor::addWatch(DBusWatch* watch, void* self) {

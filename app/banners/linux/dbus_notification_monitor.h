@@ -37,7 +37,6 @@ class DBusNotificationMonitor final : public NotificationSource {
 
   void start() override;
   void stop() override;
-  ServiceCheck check() const override { return check_; }
 
  private:
   struct Watch;
@@ -55,7 +54,6 @@ class DBusNotificationMonitor final : public NotificationSource {
   void answered(DBusMessage* answer, bool accepted);
   // The number standing for GLib's notification `key`; 0 for an unknown one unless `add`.
   quint32 gtkNumber(const std::string& key, bool add);
-  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
   static unsigned addWatch(DBusWatch* watch, void* self);
   static void removeWatch(DBusWatch* watch, void* self);
@@ -70,7 +68,6 @@ class DBusNotificationMonitor final : public NotificationSource {
   std::deque<Sent> unanswered_;  // Notify calls waiting for the server's number
   std::map<std::string, quint32> gtkNumbers_;
   quint32 nextGtkNumber_ = 0x80000000;
-  ServiceCheck check_;
 };
 
 }  // namespace tindra

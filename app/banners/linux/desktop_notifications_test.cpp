@@ -112,7 +112,8 @@ TEST_F(DesktopNotificationsTest, TheMonitorReadsWhatRealClientsSendWithTheServer
   QSignalSpy notified(&monitor, &NotificationSource::notified);
   QSignalSpy closed(&monitor, &NotificationSource::closed);
   monitor.start();
-  ASSERT_TRUE(waitFor([&] { return monitor.check().text.startsWith("reading notification"); }));
+  ASSERT_TRUE(
+      waitFor([&] { return monitor.check().text.english().startsWith("reading notification"); }));
 
   run(QStringLiteral("notify-send"),
       {"--app-name=Chat", "--category=im.received", "--hint=string:desktop-entry:org.example.Chat",
@@ -161,7 +162,8 @@ TEST_F(DesktopNotificationsTest, GLibsNotificationsAreReadToo) {
   QSignalSpy notified(&monitor, &NotificationSource::notified);
   QSignalSpy closed(&monitor, &NotificationSource::closed);
   monitor.start();
-  ASSERT_TRUE(waitFor([&] { return monitor.check().text.startsWith("reading notification"); }));
+  ASSERT_TRUE(
+      waitFor([&] { return monitor.check().text.english().startsWith("reading notification"); }));
 
   const QString gtk = QStringLiteral("org.gtk.Notifications");
   run(QStringLiteral("gdbus"),
@@ -201,7 +203,7 @@ TEST_F(DesktopNotificationsTest, CallsAndMessagesReachTheNotchAndQuietWithDoNotD
   ASSERT_TRUE(waitFor([&] { return focusSource->focused() == false; }));
   ASSERT_TRUE(waitFor([&] {
     return std::ranges::any_of(diagnostics.entries(), [](const DiagnosticsLog::Entry& entry) {
-      return entry.text.startsWith("reading notification");
+      return entry.text.english().startsWith("reading notification");
     });
   }));
 
@@ -236,21 +238,23 @@ TEST_F(DesktopNotificationsTest, AServerThatGoesAndComesBackIsFollowed) {
   NotificationServerFocusSource focus(QDBusConnection::sessionBus());
   monitor.start();
   focus.start();
-  ASSERT_TRUE(waitFor([&] { return monitor.check().text.startsWith("reading notification"); }));
+  ASSERT_TRUE(
+      waitFor([&] { return monitor.check().text.english().startsWith("reading notification"); }));
   ASSERT_TRUE(waitFor([&] { return focus.focused().has_value(); }));
 
   ASSERT_TRUE(server_->stop());
   ASSERT_TRUE(waitFor([&] { return gone.count() == 1; }));
   ASSERT_TRUE(
       waitFor([&] { return monitor.check().outcome == DiagnosticsLog::Outcome::degraded; }));
-  EXPECT_TRUE(waitFor([&] { return focus.check().text.contains("went away"); }))
-      << focus.check().text.toStdString();
+  EXPECT_TRUE(waitFor([&] { return focus.check().text.english().contains("went away"); }))
+      << focus.check().text.english().toStdString();
 
   QString error;
   ASSERT_TRUE(server_->start(&error)) << error.toStdString();
-  ASSERT_TRUE(waitFor([&] { return monitor.check().text.startsWith("reading notification"); }));
+  ASSERT_TRUE(
+      waitFor([&] { return monitor.check().text.english().startsWith("reading notification"); }));
   // The new server has no do-not-disturb to read.
-  EXPECT_TRUE(waitFor([&] { return focus.check().text.contains("no Inhibited"); }));
+  EXPECT_TRUE(waitFor([&] { return focus.check().text.english().contains("no Inhibited"); }));
   run(QStringLiteral("notify-send"), {"--app-name=Chat", "back"});
   EXPECT_TRUE(waitFor([&] { return notified.count() == 1; }));
 }
@@ -337,7 +341,7 @@ TEST_F(DesktopLockTest, LockSignalsHintsAndTheScreenSaverReachThePresence) {
   LogindLockSource source(QDBusConnection::systemBus(), QDBusConnection::sessionBus());
   QSignalSpy changes(&source, &LockStateSource::changed);
   source.start();
-  ASSERT_TRUE(waitFor([&] { return source.check().text.contains(sessionPath); }));
+  ASSERT_TRUE(waitFor([&] { return source.check().text.english().contains(sessionPath); }));
   syncSessionBus();
   using Event = LockScreenPresence::Event;
   session("Lock");
@@ -375,7 +379,7 @@ TEST_F(DesktopLockTest, AStopWhileLockedIsFoundAtTheNextStart) {
   };
   auto tindra = start();
   ASSERT_TRUE(waitFor([&] {
-    return tindra->viewModel() && diagnostics.entries().back().text.contains("following");
+    return tindra->viewModel() && diagnostics.entries().back().text.english().contains("following");
   }));
   session("Lock");
   ASSERT_TRUE(waitFor([&] { return tindra->locked(); }));

@@ -10,7 +10,8 @@ CalendarFeed::CalendarFeed(CalendarSource source, ICalendarReadOptions options, 
     : QObject(parent), defaultName_(source.name), options_(std::move(options)) {
   contents_.source = std::move(source);
   options_.idPrefix = contents_.source.id.toStdString();
-  contents_.source.state = {DiagnosticsLog::Outcome::degraded, tr("not read yet")};
+  contents_.source.state = {DiagnosticsLog::Outcome::degraded,
+                            Sentence(QT_TR_NOOP("not read yet"), tr)};
 }
 
 void CalendarFeed::setReadOptions(ICalendarReadOptions options) {
@@ -41,13 +42,14 @@ bool CalendarFeed::accept(std::vector<std::string> documents) {
   const std::size_t count = documents.size();
   Reading reading = read(std::move(documents));
   if (count > 0 && reading.failed == count) {
-    readProblem_ = QStringLiteral("%1; the last good copy is kept").arg(reading.firstError);
+    readProblem_ = Sentence(QT_TR_NOOP("%1; the last good copy is kept"), tr)
+                       .arg(Sentence::verbatim(reading.firstError));
     publish();
     return false;
   }
-  readProblem_ = reading.failed == 0 ? QString()
-                                     : tr("%n document(s) could not be read (%1)", nullptr,
-                                          static_cast<int>(reading.failed))
+  readProblem_ = reading.failed == 0 ? Sentence()
+                                     : Sentence(QT_TR_NOOP("%n document(s) could not be read (%1)"),
+                                                tr, static_cast<int>(reading.failed))
                                            .arg(reading.firstError);
   take(std::move(reading));
   publish();
@@ -71,7 +73,7 @@ void CalendarFeed::take(Reading reading) {
   }
 }
 
-void CalendarFeed::setProblem(DiagnosticsLog::Outcome outcome, const QString& text) {
+void CalendarFeed::setProblem(DiagnosticsLog::Outcome outcome, const Sentence& text) {
   problem_ = {outcome, text};
   publish();
 }
@@ -79,15 +81,16 @@ void CalendarFeed::setProblem(DiagnosticsLog::Outcome outcome, const QString& te
 // The state says the worst of: getting the documents, reading them, what they hold.
 void CalendarFeed::publish() {
   ServiceCheck state{DiagnosticsLog::Outcome::ok,
-                     QStringLiteral("%1 events in view").arg(contents_.events.size())};
+                     Sentence(QT_TR_NOOP("%1 events in view"), tr).arg(contents_.events.size())};
   if (!contents_.reminders.empty()) {
-    state.text += tr(", %1 to-dos").arg(contents_.reminders.size());
+    state.text = state.text.followedBy(
+        Sentence(QT_TR_NOOP(", %1 to-dos"), tr).arg(contents_.reminders.size()), QString());
   }
   if (!readProblem_.isEmpty()) {
-    state = {DiagnosticsLog::Outcome::degraded, readProblem_ + QStringLiteral("; ") + state.text};
+    state = {DiagnosticsLog::Outcome::degraded, readProblem_.followedBy(state.text)};
   }
   if (!problem_.text.isEmpty() && problem_.outcome != DiagnosticsLog::Outcome::ok) {
-    state = {problem_.outcome, problem_.text + QStringLiteral("; ") + state.text};
+    state = {problem_.outcome, problem_.text.followedBy(state.text)};
   }
   contents_.source.state = state;
   emit changed();

@@ -35,7 +35,7 @@ class CalendarFeed : public QObject {
   // named in the state. When none of them reads, the previous documents stay and this is false.
   bool accept(std::vector<std::string> documents);
   // A problem in getting the documents at all (a failed fetch); the last good ones stay shown.
-  void setProblem(DiagnosticsLog::Outcome outcome, const QString& text);
+  void setProblem(DiagnosticsLog::Outcome outcome, const Sentence& text);
   // The problem is over; said with the next reading.
   void clearProblem() { problem_ = {}; }
   const QString& location() const { return contents_.source.location; }
@@ -56,7 +56,7 @@ class CalendarFeed : public QObject {
   std::vector<std::string> documents_;
   CalendarContents contents_;
   std::optional<double> refreshInterval_;
-  QString readProblem_;   // documents left out of the last reading
+  Sentence readProblem_;  // documents left out of the last reading
   ServiceCheck problem_;  // in getting the documents; ok when there is none
 };
 

@@ -91,7 +91,7 @@ void ICalendarBackend::loadList() {
   const auto text = list_.read();
   if (!text) {
     if (text.error() != ENOENT) {
-      listProblem_ = QStringLiteral("%1 cannot be read: %2")
+      listProblem_ = Sentence(QT_TR_NOOP("%1 cannot be read: %2"), tr)
                          .arg(QString::fromStdString(places_.list.string()),
                               QString::fromLocal8Bit(std::strerror(text.error())));
     }
@@ -104,8 +104,9 @@ void ICalendarBackend::loadList() {
     aside += ".unreadable";
     std::error_code error;
     std::filesystem::rename(places_.list, aside, error);
-    listProblem_ = tr("the calendar list was not readable and was set aside as %1")
-                       .arg(QString::fromStdString(aside.string()));
+    listProblem_ =
+        Sentence(QT_TR_NOOP("the calendar list was not readable and was set aside as %1"), tr)
+            .arg(QString::fromStdString(aside.string()));
     return;
   }
   added_ = strings(*list, "calendars");
@@ -188,7 +189,7 @@ void ICalendarBackend::setWindow(double start, double end) {
 void ICalendarBackend::setOwnerAddresses(const QStringList& addresses) {
   if (addresses == owners_) return;
   takeOwners(addresses);
-  if (const auto problem = saveList()) listProblem_ = *problem;
+  if (const auto problem = saveList()) listProblem_ = Sentence::verbatim(*problem);
   readOptionsChanged();
 }
 
@@ -208,7 +209,8 @@ std::vector<CalendarContents> ICalendarBackend::calendars() const {
 std::vector<CalendarContents> ICalendarBackend::listedOnly() const {
   std::vector<CalendarContents> all;
   for (CalendarSource& source : listed()) {
-    source.state = {DiagnosticsLog::Outcome::degraded, tr("not read while the calendar is off")};
+    source.state = {DiagnosticsLog::Outcome::degraded,
+                    Sentence(QT_TR_NOOP("not read while the calendar is off"), tr)};
     all.push_back({std::move(source), {}, {}});
   }
   return all;
@@ -246,7 +248,7 @@ void ICalendarBackend::remove(const QString& id) {
   const auto removed =
       added_.removeIf([&](const QString& location) { return idFor(location) == id; });
   if (removed == 0) return;
-  if (const auto problem = saveList()) listProblem_ = *problem;
+  if (const auto problem = saveList()) listProblem_ = Sentence::verbatim(*problem);
   if (started_) {
     makeFeeds();
   } else {
@@ -255,27 +257,26 @@ void ICalendarBackend::remove(const QString& id) {
 }
 
 void ICalendarBackend::updateCheck() {
-  ServiceCheck check{DiagnosticsLog::Outcome::ok, tr("reading %n iCalendar calendar(s)", nullptr,
-                                                     static_cast<int>(feeds_.size()))};
+  ServiceCheck check{DiagnosticsLog::Outcome::ok,
+                     Sentence(QT_TR_NOOP("reading %n iCalendar calendar(s)"), tr,
+                              static_cast<int>(feeds_.size()))};
   if (feeds_.empty()) {
-    check = {DiagnosticsLog::Outcome::degraded,
-             tr("no calendars: add an iCalendar file, folder or address in Settings")};
+    check = {
+        DiagnosticsLog::Outcome::degraded,
+        Sentence(QT_TR_NOOP("no calendars: add an iCalendar file, folder or address in Settings"),
+                 tr)};
   }
-  QStringList problems;
+  if (!listProblem_.isEmpty()) {
+    check = {DiagnosticsLog::Outcome::degraded, check.text.followedBy(listProblem_)};
+  }
   for (const auto& feed : feeds_) {
     const CalendarSource& source = feed->contents().source;
-    if (source.state.outcome != DiagnosticsLog::Outcome::ok) {
-      problems.append(source.name + QStringLiteral(": ") + source.state.text);
-    }
+    if (source.state.outcome == DiagnosticsLog::Outcome::ok) continue;
+    const Sentence problem =
+        Sentence::verbatim(source.name).followedBy(source.state.text, QStringLiteral(": "));
+    check = {DiagnosticsLog::Outcome::degraded, check.text.followedBy(problem)};
   }
-  if (!listProblem_.isEmpty()) problems.prepend(listProblem_);
-  if (!problems.isEmpty()) {
-    check = {DiagnosticsLog::Outcome::degraded,
-             check.text + QStringLiteral("; ") + problems.join(QStringLiteral("; "))};
-  }
-  if (check == check_) return;
-  check_ = check;
-  emit checkChanged();
+  setCheck(check.outcome, check.text);
 }
 
 }  // namespace tindra

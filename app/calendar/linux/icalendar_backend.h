@@ -35,7 +35,6 @@ class ICalendarBackend final : public CalendarBackend {
   void start() override;
   void setWindow(double start, double end) override;
   std::vector<CalendarContents> calendars() const override;
-  ServiceCheck check() const override { return check_; }
   std::optional<QString> add(const QString& location) override;
   void remove(const QString& id) override;
   QStringList ownerAddresses() const override { return owners_; }
@@ -64,8 +63,7 @@ class ICalendarBackend final : public CalendarBackend {
   QNetworkAccessManager network_;
   ICalendarReadOptions options_;
   std::vector<std::unique_ptr<CalendarFeed>> feeds_;
-  QString listProblem_;
-  ServiceCheck check_;
+  Sentence listProblem_;
   bool started_ = false;
 };
 

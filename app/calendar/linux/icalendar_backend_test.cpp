@@ -84,7 +84,7 @@ TEST_F(ICalendarBackendTest, FollowsFilesAndFoldersAndKeepsTheLastGoodCopyOfABad
       [&] { return backend->calendars()[0].source.state.outcome != DiagnosticsLog::Outcome::ok; },
       5000));
   EXPECT_EQ(events(*backend, 0), 2U) << "the last good copy stays";
-  EXPECT_TRUE(backend->calendars()[0].source.state.text.contains("not iCalendar"));
+  EXPECT_TRUE(backend->calendars()[0].source.state.text.english().contains("not iCalendar"));
   EXPECT_NE(backend->check().outcome, DiagnosticsLog::Outcome::ok);
 
   // A folder of one event per file, one of them broken.
@@ -95,7 +95,7 @@ TEST_F(ICalendarBackendTest, FollowsFilesAndFoldersAndKeepsTheLastGoodCopyOfABad
   EXPECT_EQ(backend->add(dir_.filePath("vdir")), std::nullopt);
   ASSERT_EQ(backend->calendars().size(), 2U);
   EXPECT_EQ(events(*backend, 1), 2U);
-  EXPECT_TRUE(backend->calendars()[1].source.state.text.contains("1 document"));
+  EXPECT_TRUE(backend->calendars()[1].source.state.text.english().contains("1 document"));
   EXPECT_TRUE(backend->calendars()[1].source.removable);
 }
 
@@ -119,7 +119,7 @@ TEST_F(ICalendarBackendTest, TheUsersListIsKeptRefusesWhatCannotBeReadAndIsSetAs
   write(dir_.filePath("config/calendars.json"), "{\"calendars\": [");
   auto broken = started();
   EXPECT_TRUE(QFile::exists(dir_.filePath("config/calendars.json.unreadable")));
-  EXPECT_TRUE(broken->check().text.contains("set aside"));
+  EXPECT_TRUE(broken->check().text.english().contains("set aside"));
 }
 
 TEST(RemoteCalendarFeedTest, FetchesConditionallyKeepsTheLastGoodCopyAndBacksOff) {
@@ -154,13 +154,15 @@ TEST(RemoteCalendarFeedTest, FetchesConditionallyKeepsTheLastGoodCopyAndBacksOff
   EXPECT_EQ(server.requests().last().headers["if-none-match"], "\"v1\"");
   EXPECT_EQ(server.requests().last().headers["if-modified-since"], "Mon, 26 Oct 2026 08:00:00 GMT");
 
-  EXPECT_TRUE(fetchAnswering({500, {}, "oops"}).text.contains("HTTP 500"));
+  EXPECT_TRUE(fetchAnswering({500, {}, "oops"}).text.english().contains("HTTP 500"));
   EXPECT_NEAR(remote->secondsToNextFetch(), RemoteCalendarFeed::firstRetry, 2);
-  EXPECT_TRUE(fetchAnswering({404, {}, {}}).text.contains("HTTP 404"));
+  EXPECT_TRUE(fetchAnswering({404, {}, {}}).text.english().contains("HTTP 404"));
   EXPECT_NEAR(remote->secondsToNextFetch(), 2 * RemoteCalendarFeed::firstRetry, 2);
-  EXPECT_TRUE(fetchAnswering({200, {}, "<html>Sign in</html>"}).text.contains("not iCalendar"));
+  EXPECT_TRUE(
+      fetchAnswering({200, {}, "<html>Sign in</html>"}).text.english().contains("not iCalendar"));
   const QByteArray whole = feed(event("standup") + event("review", "11"));
-  EXPECT_TRUE(fetchAnswering({200, {}, whole.left(whole.size() / 2)}).text.contains("cut short"));
+  EXPECT_TRUE(
+      fetchAnswering({200, {}, whole.left(whole.size() / 2)}).text.english().contains("cut short"));
   EXPECT_EQ(remote->contents().events.size(), 1U) << "every failure kept the last good copy";
 
   EXPECT_EQ(fetchAnswering({200, {{"ETag", "\"v2\""}}, whole}).outcome,

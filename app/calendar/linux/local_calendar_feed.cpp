@@ -49,7 +49,8 @@ void LocalCalendarFeed::read() {
   watch();
   const QFileInfo info(location());
   if (!info.exists()) {
-    setProblem(DiagnosticsLog::Outcome::degraded, tr("%1 is not there").arg(location()));
+    setProblem(DiagnosticsLog::Outcome::degraded,
+               Sentence(QT_TR_NOOP("%1 is not there"), tr).arg(location()));
     return;
   }
   std::vector<std::string> documents;
@@ -64,7 +65,8 @@ void LocalCalendarFeed::read() {
     if (std::optional<std::string> text = contentsOf(file)) documents.push_back(std::move(*text));
   }
   if (!info.isDir() && documents.empty()) {
-    setProblem(DiagnosticsLog::Outcome::degraded, tr("%1 cannot be read").arg(location()));
+    setProblem(DiagnosticsLog::Outcome::degraded,
+               Sentence(QT_TR_NOOP("%1 cannot be read"), tr).arg(location()));
     return;
   }
   clearProblem();

@@ -90,7 +90,8 @@ void RemoteCalendarFeed::fetch() {
   next_.stop();
   if (reply_) return;
   if (url_.isEmpty()) {
-    setProblem(DiagnosticsLog::Outcome::failed, tr("%1 is not an https address").arg(location()));
+    setProblem(DiagnosticsLog::Outcome::failed,
+               Sentence(QT_TR_NOOP("%1 is not an https address"), tr).arg(location()));
     return;
   }
   QNetworkRequest request(url_);
@@ -115,17 +116,18 @@ void RemoteCalendarFeed::fetch() {
 void RemoteCalendarFeed::onFinished(QNetworkReply* reply) {
   reply->deleteLater();
   const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
-  if (tooLarge_) return failed(toQString(describe(ICalendarError::tooLarge)));
+  if (tooLarge_) return failed(Sentence::verbatim(toQString(describe(ICalendarError::tooLarge))));
   if (status == 304) {
     fetchedAt_ = now_();
     failures_ = 0;
     saveValidators();
-    setProblem(DiagnosticsLog::Outcome::ok, QString());  // nothing new, and no problem
+    setProblem(DiagnosticsLog::Outcome::ok, Sentence());  // nothing new, and no problem
     schedule(refreshEvery());
     return;
   }
   if (reply->error() != QNetworkReply::NoError || status != 200) {
-    return failed(status > 0 ? tr("HTTP %1").arg(status) : reply->errorString());
+    return failed(status > 0 ? Sentence(QT_TR_NOOP("HTTP %1"), tr).arg(status)
+                             : Sentence::verbatim(reply->errorString()));
   }
   const QByteArray body = reply->readAll();
   clearProblem();
@@ -135,9 +137,9 @@ void RemoteCalendarFeed::onFinished(QNetworkReply* reply) {
   schedule(refreshEvery());
 }
 
-void RemoteCalendarFeed::failed(const QString& reason) {
+void RemoteCalendarFeed::failed(const Sentence& reason) {
   setProblem(DiagnosticsLog::Outcome::degraded,
-             tr("could not fetch %1 (%2)").arg(url_.host(), reason));
+             Sentence(QT_TR_NOOP("could not fetch %1 (%2)"), tr).arg(url_.host()).arg(reason));
   retryLater();
 }
 

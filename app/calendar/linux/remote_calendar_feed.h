@@ -47,7 +47,7 @@ class RemoteCalendarFeed final : public CalendarFeed {
  private:
   void loadKept();
   void onFinished(QNetworkReply* reply);
-  void failed(const QString& reason);
+  void failed(const Sentence& reason);
   void retryLater();
   void keep(const QByteArray& body, const QNetworkReply& reply);
   void saveValidators() const;

@@ -26,7 +26,18 @@ bool GSettingsFocusSource::available() {
   return hasKey;
 }
 
-GSettingsFocusSource::GSettingsFocusSource(QObject* parent) : FocusStatusSource(parent) {}
+GSettingsFocusSource::GSettingsFocusSource(QObject* parent) : FocusStatusSource(parent) {
+  if (available()) {
+    setCheck(
+        DiagnosticsLog::Outcome::ok,
+        Sentence(QT_TR_NOOP("reading do-not-disturb from GNOME's settings (show-banners)"), tr));
+  } else {
+    setCheck(DiagnosticsLog::Outcome::degraded,
+             Sentence(QT_TR_NOOP("GNOME's notification settings are not installed: "
+                                 "do-not-disturb is unknown"),
+                      tr));
+  }
+}
 
 GSettingsFocusSource::~GSettingsFocusSource() {
   if (!settings_) return;
@@ -41,23 +52,13 @@ void GSettingsFocusSource::start() {
   read();
 }
 
-ServiceCheck GSettingsFocusSource::check() const {
-  if (!settings_) {
-    return {DiagnosticsLog::Outcome::degraded,
-            tr("GNOME's notification settings are not installed: do-not-disturb is "
-               "unknown")};
-  }
-  return {DiagnosticsLog::Outcome::ok,
-          tr("reading do-not-disturb from GNOME's settings (show-banners)")};
-}
-
 void GSettingsFocusSource::onChanged(GSettings*, const char*, void* self) {
   static_cast<GSettingsFocusSource*>(self)->read();
 }
 
 void GSettingsFocusSource::read() {
   const bool showsBanners = g_settings_get_boolean(settings_, bannersKey) != FALSE;
-  if (assignIfChanged(focused_, std::optional(!showsBanners))) emit focusedChanged();
+  publish(!showsBanners);
 }
 
 }  // namespace tindra

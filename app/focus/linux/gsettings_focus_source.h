@@ -20,8 +20,6 @@ class GSettingsFocusSource final : public FocusStatusSource {
   ~GSettingsFocusSource() override;
 
   void start() override;
-  std::optional<bool> focused() const override { return focused_; }
-  ServiceCheck check() const override;
 
  private:
   static void onChanged(GSettings* settings, const char* key, void* self);
@@ -29,7 +27,6 @@ class GSettingsFocusSource final : public FocusStatusSource {
 
   GSettings* settings_ = nullptr;
   unsigned long handler_ = 0;
-  std::optional<bool> focused_;
 };
 
 }  // namespace tindra

@@ -24,8 +24,10 @@ bool serverAbsent(const QString& error) {
 
 ServiceCheck readingCheck() {
   return {DiagnosticsLog::Outcome::ok,
-          NotificationServerFocusSource::tr(
-              "reading do-not-disturb from the notification server (Inhibited)")};
+          Sentence(QT_TRANSLATE_NOOP("tindra::NotificationServerFocusSource",
+                                     "reading do-not-disturb from the notification server "
+                                     "(Inhibited)"),
+                   NotificationServerFocusSource::tr)};
 }
 
 }  // namespace
@@ -35,8 +37,9 @@ NotificationServerFocusSource::NotificationServerFocusSource(QDBusConnection bus
       bus_(std::move(bus)),
       watcher_(
           dbus::notificationsService, bus_,
-          QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
-      check_{DiagnosticsLog::Outcome::ok, tr("asking the notification server for do-not-disturb")} {
+          QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration) {
+  setCheck(DiagnosticsLog::Outcome::ok,
+           Sentence(QT_TR_NOOP("asking the notification server for do-not-disturb"), tr));
 }
 
 void NotificationServerFocusSource::start() {
@@ -46,9 +49,10 @@ void NotificationServerFocusSource::start() {
   connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this,
           &NotificationServerFocusSource::read);
   connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
-    publish(std::nullopt, {DiagnosticsLog::Outcome::degraded,
-                           tr("the notification server went away: do-not-disturb is unknown "
-                              "until it returns")});
+    take(std::nullopt, {DiagnosticsLog::Outcome::degraded,
+                        Sentence(QT_TR_NOOP("the notification server went away: do-not-disturb "
+                                            "is unknown until it returns"),
+                                 tr)});
   });
   read();
 }
@@ -62,16 +66,18 @@ void NotificationServerFocusSource::read() {
                                ? answer.arguments().value(0).value<QDBusVariant>().variant()
                                : QVariant();
     if (value.typeId() == QMetaType::Bool) {
-      publish(value.toBool(), readingCheck());
+      take(value.toBool(), readingCheck());
     } else if (answer.type() == QDBusMessage::ErrorMessage && serverAbsent(answer.errorName())) {
-      publish(std::nullopt, {DiagnosticsLog::Outcome::degraded,
-                             tr("no notification server runs: do-not-disturb is "
-                                "unknown until one starts")});
+      take(std::nullopt, {DiagnosticsLog::Outcome::degraded,
+                          Sentence(QT_TR_NOOP("no notification server runs: do-not-disturb is "
+                                              "unknown until one starts"),
+                                   tr)});
     } else {
-      publish(std::nullopt,
-              {DiagnosticsLog::Outcome::degraded, tr("the notification server does not report "
-                                                     "do-not-disturb (no Inhibited property): only "
-                                                     "`tindra focus` shows a Focus")});
+      take(std::nullopt, {DiagnosticsLog::Outcome::degraded,
+                          Sentence(QT_TR_NOOP("the notification server does not report "
+                                              "do-not-disturb (no Inhibited property): only "
+                                              "`tindra focus` shows a Focus"),
+                                   tr)});
     }
   });
 }
@@ -86,13 +92,13 @@ void NotificationServerFocusSource::onPropertiesChanged(const QString& interface
   }
   const auto value = changed.constFind(inhibited);
   if (value != changed.constEnd() && value->typeId() == QMetaType::Bool) {
-    publish(value->toBool(), readingCheck());
+    take(value->toBool(), readingCheck());
   }
 }
 
-void NotificationServerFocusSource::publish(std::optional<bool> focused, ServiceCheck check) {
-  if (assignIfChanged(check_, std::move(check))) emit checkChanged();
-  if (assignIfChanged(focused_, focused)) emit focusedChanged();
+void NotificationServerFocusSource::take(std::optional<bool> focused, const ServiceCheck& check) {
+  setCheck(check.outcome, check.text);
+  publish(focused);
 }
 
 }  // namespace tindra

@@ -19,8 +19,6 @@ class NotificationServerFocusSource final : public FocusStatusSource {
   explicit NotificationServerFocusSource(QDBusConnection bus, QObject* parent = nullptr);
 
   void start() override;
-  std::optional<bool> focused() const override { return focused_; }
-  ServiceCheck check() const override { return check_; }
 
  private slots:
   void onPropertiesChanged(const QString& interface, const QVariantMap& changed,
@@ -28,12 +26,11 @@ class NotificationServerFocusSource final : public FocusStatusSource {
 
  private:
   void read();
-  void publish(std::optional<bool> focused, ServiceCheck check);
+  // What the server answered, and how it went.
+  void take(std::optional<bool> focused, const ServiceCheck& check);
 
   QDBusConnection bus_;
   QDBusServiceWatcher watcher_;
-  std::optional<bool> focused_;
-  ServiceCheck check_;
 };
 
 }  // namespace tindra

@@ -22,13 +22,15 @@ PulseVolumeBackend::PulseVolumeBackend(std::shared_ptr<PulseConnection> connecti
     : VolumeBackend(parent),
       connection_(std::move(connection)),
       tick_(*connection_, "tindra-volume-tick", tickSound()) {
+  setCheck(DiagnosticsLog::Outcome::ok, Sentence(QT_TR_NOOP("connecting to the sound server"), tr));
   connect(connection_.get(), &PulseConnection::readyChanged, this, [this](bool ready) {
     if (ready) {
-      setCheck(DiagnosticsLog::Outcome::ok, tr("following the sound server's default output"));
+      setCheck(DiagnosticsLog::Outcome::ok,
+               Sentence(QT_TR_NOOP("following the sound server's default output"), tr));
       readDefaultSink();
     } else {
       setCheck(DiagnosticsLog::Outcome::degraded,
-               tr("the sound server went away: no volume until it returns"));
+               Sentence(QT_TR_NOOP("the sound server went away: no volume until it returns"), tr));
       publish(std::nullopt);
     }
   });
@@ -100,8 +102,8 @@ void PulseVolumeBackend::readDefaultSink() {
 }
 
 void PulseVolumeBackend::setLevel(double level) {
-  if (!reading_) return;
-  const QByteArray sink = reading_->output.toUtf8();
+  if (!reading()) return;
+  const QByteArray sink = reading()->output.toUtf8();
   const double clamped = std::clamp(level, 0.0, 1.0);
   const int channels = channels_;
   connection_->run([sink, clamped, channels](pa_context* context) {
@@ -115,8 +117,8 @@ void PulseVolumeBackend::setLevel(double level) {
 }
 
 void PulseVolumeBackend::setMuted(bool muted) {
-  if (!reading_) return;
-  const QByteArray sink = reading_->output.toUtf8();
+  if (!reading()) return;
+  const QByteArray sink = reading()->output.toUtf8();
   connection_->run([sink, muted](pa_context* context) {
     pa_operation* operation = pa_context_set_sink_mute_by_name(context, sink.constData(),
                                                                muted ? 1 : 0, nullptr, nullptr);
@@ -125,15 +127,7 @@ void PulseVolumeBackend::setMuted(bool muted) {
 }
 
 void PulseVolumeBackend::playFeedback() {
-  if (reading_) tick_.play(reading_->output);
-}
-
-void PulseVolumeBackend::publish(std::optional<VolumeReading> reading) {
-  if (assignIfChanged(reading_, std::move(reading))) emit readingChanged();
-}
-
-void PulseVolumeBackend::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
-  if (assignIfChanged(check_, ServiceCheck{outcome, text})) emit checkChanged();
+  if (reading()) tick_.play(reading()->output);
 }
 
 }  // namespace tindra

@@ -24,11 +24,9 @@ class PulseVolumeBackend final : public VolumeBackend {
       QObject* parent = nullptr);
 
   void start() override;
-  std::optional<VolumeReading> reading() const override { return reading_; }
   void setLevel(double level) override;
   void setMuted(bool muted) override;
   void playFeedback() override;
-  ServiceCheck check() const override { return check_; }
 
   // The transport from a sink's properties: its bus ("usb", "bluetooth") and its name or port.
   static AudioTransport transportOf(const QString& bus, const QString& nameAndPort);
@@ -41,15 +39,10 @@ class PulseVolumeBackend final : public VolumeBackend {
 
  private:
   void readDefaultSink();
-  void publish(std::optional<VolumeReading> reading);
-  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
   std::shared_ptr<PulseConnection> connection_;
   PulseSample tick_;
-  std::optional<VolumeReading> reading_;
   int channels_ = 2;
-  ServiceCheck check_{DiagnosticsLog::Outcome::ok,
-                      QStringLiteral("connecting to the sound server")};
 };
 
 }  // namespace tindra

@@ -56,7 +56,9 @@ void SysfsBacklightBackend::start() {
   if (maximum_ <= 0) {
     setAccess(
         BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-        tr("no display backlight in %1: the brightness keys stay with the desktop").arg(folder_));
+        Sentence(
+            QT_TR_NOOP("no display backlight in %1: the brightness keys stay with the desktop"), tr)
+            .arg(folder_));
     return;
   }
   // brightness changes on every write through sysfs; actual_brightness is the file the kernel
@@ -69,11 +71,12 @@ void SysfsBacklightBackend::start() {
       bus_.interface()->isServiceRegistered(QStringLiteral("org.freedesktop.login1"));
   if (logind) {
     setAccess(BrightnessAccess::readWrite, DiagnosticsLog::Outcome::ok,
-              QStringLiteral("%1, set through logind").arg(device_));
+              Sentence(QT_TR_NOOP("%1, set through logind"), tr).arg(device_));
   } else {
     setAccess(BrightnessAccess::readOnly, DiagnosticsLog::Outcome::degraded,
-              QStringLiteral("%1 is shown; logind is not running, so the brightness keys stay "
-                             "with the desktop")
+              Sentence(QT_TR_NOOP("%1 is shown; logind is not running, so the brightness keys "
+                                  "stay with the desktop"),
+                       tr)
                   .arg(device_));
   }
 }
@@ -104,8 +107,9 @@ void SysfsBacklightBackend::setLevel(double level) {
     if (answer.type() == QDBusMessage::ErrorMessage) {
       qCWarning(lcHud).noquote() << "logind did not set the brightness:" << answer.errorMessage();
       setAccess(BrightnessAccess::readOnly, DiagnosticsLog::Outcome::degraded,
-                QStringLiteral("%1 is shown; logind refused to set it (%2), so the brightness "
-                               "keys stay with the desktop")
+                Sentence(QT_TR_NOOP("%1 is shown; logind refused to set it (%2), so the "
+                                    "brightness keys stay with the desktop"),
+                         tr)
                     .arg(device_, answer.errorName()));
       return;
     }

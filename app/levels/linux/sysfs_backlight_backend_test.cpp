@@ -76,7 +76,7 @@ TEST_F(SysfsBacklightBackendTest, FollowsTheKernelAndWritesThroughLogind) {
   ASSERT_TRUE(backend.reading());
   EXPECT_EQ(backend.reading()->level, 0.5);
   EXPECT_EQ(backend.access(), BrightnessAccess::readWrite);
-  EXPECT_TRUE(backend.check().text.contains("acpi_video0"));
+  EXPECT_TRUE(backend.check().text.english().contains("acpi_video0"));
 
   writeFile(path("actual_brightness"), "80");  // the firmware handled a hotkey
   ASSERT_TRUE(waitFor([&] { return backend.reading()->level == 0.8; }));
@@ -98,7 +98,7 @@ TEST_F(SysfsBacklightBackendTest, WithoutLogindTheLevelIsOnlyShown) {
   refused.start();
   refused.setLevel(0.9);
   ASSERT_TRUE(waitFor([&] { return refused.access() == BrightnessAccess::readOnly; }));
-  EXPECT_TRUE(refused.check().text.contains("AccessDenied"));
+  EXPECT_TRUE(refused.check().text.english().contains("AccessDenied"));
   EXPECT_EQ(refused.reading()->level, 0.5);
   ASSERT_EQ(logind_->call("/org/freedesktop/login1", "SetRefuse", {false}), QString());
 

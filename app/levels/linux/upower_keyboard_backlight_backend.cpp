@@ -40,8 +40,10 @@ void UPowerKeyboardBacklightBackend::start() {
   connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
     maximum_ = 0;
     forgetReading();
-    setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-              tr("UPower went away: the keyboard light keys stay with the desktop"));
+    setAccess(
+        BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
+        Sentence(QT_TR_NOOP("UPower went away: the keyboard light keys stay with the desktop"),
+                 tr));
   });
   readMaximum();
 }
@@ -56,16 +58,18 @@ void UPowerKeyboardBacklightBackend::readMaximum() {
                  maximum_ = intAnswer(answer).value_or(0);
                  if (maximum_ <= 0) {
                    forgetReading();
-                   setAccess(
-                       BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-                       tr("UPower reports no keyboard backlight (%1)")
-                           .arg(answer.type() == QDBusMessage::ErrorMessage ? answer.errorName()
-                                                                            : tr("no levels")));
+                   setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
+                             Sentence(QT_TR_NOOP("UPower reports no keyboard backlight (%1)"), tr)
+                                 .arg(answer.type() == QDBusMessage::ErrorMessage
+                                          ? Sentence::verbatim(answer.errorName())
+                                          : Sentence(QT_TR_NOOP("no levels"), tr)));
                    return;
                  }
                  readLevel([this] {
-                   setAccess(BrightnessAccess::readWrite, DiagnosticsLog::Outcome::ok,
-                             tr("keyboard backlight through UPower, %1 levels").arg(maximum_ + 1));
+                   setAccess(
+                       BrightnessAccess::readWrite, DiagnosticsLog::Outcome::ok,
+                       Sentence(QT_TR_NOOP("keyboard backlight through UPower, %1 levels"), tr)
+                           .arg(maximum_ + 1));
                  });
                });
 }
@@ -85,9 +89,10 @@ void UPowerKeyboardBacklightBackend::onBrightnessChanged(int value) {
   // The policy judges the reading; the level keeps double precision.
   if (!KeyboardBacklightPolicy::level(static_cast<float>(ratio)) || ratio < 0) {
     forgetReading();
-    setAccess(
-        BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-        tr("the keyboard backlight level cannot be read (%1 of %2)").arg(value).arg(maximum_));
+    setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
+              Sentence(QT_TR_NOOP("the keyboard backlight level cannot be read (%1 of %2)"), tr)
+                  .arg(value)
+                  .arg(maximum_));
     return;
   }
   publish(BacklightReading{device, std::min(ratio, 1.0), false});

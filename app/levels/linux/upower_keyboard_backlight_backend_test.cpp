@@ -45,7 +45,7 @@ TEST_F(UPowerKeyboardBacklightBackendTest, FollowsTheLightAndReadsEachWriteBack)
   backend.start();
   ASSERT_TRUE(waitFor([&] { return backend.access() == BrightnessAccess::readWrite; }));
   EXPECT_DOUBLE_EQ(backend.reading()->level, 1.0 / 3);
-  EXPECT_TRUE(backend.check().text.contains("4 levels"));
+  EXPECT_TRUE(backend.check().text.english().contains("4 levels"));
 
   hardware("SetHardwareBrightness", 3);  // the firmware's own key
   ASSERT_TRUE(waitFor([&] { return backend.reading()->level == 1.0; }));

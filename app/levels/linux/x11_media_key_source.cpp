@@ -40,8 +40,9 @@ X11MediaKeySource::X11MediaKeySource(QObject* parent) : MediaKeySource(parent) {
   connection_ = xcb_connect(nullptr, &screen);
   if (xcb_connection_has_error(connection_) != 0) {
     setCheck(DiagnosticsLog::Outcome::degraded,
-             tr("no X display: the keys stay with the desktop, and the level "
-                "changes it makes are shown"));
+             Sentence(QT_TR_NOOP("no X display: the keys stay with the desktop, and the level "
+                                 "changes it makes are shown"),
+                      tr));
     return;
   }
   xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection_));
@@ -63,7 +64,7 @@ X11MediaKeySource::X11MediaKeySource(QObject* parent) : MediaKeySource(parent) {
   notifier_ = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_),
                                                 QSocketNotifier::Read);
   connect(notifier_.get(), &QSocketNotifier::activated, this, &X11MediaKeySource::readEvents);
-  setCheck(DiagnosticsLog::Outcome::ok, tr("holding no keys"));
+  setCheck(DiagnosticsLog::Outcome::ok, Sentence(QT_TR_NOOP("holding no keys"), tr));
 }
 
 X11MediaKeySource::~X11MediaKeySource() {
@@ -159,7 +160,7 @@ void X11MediaKeySource::setWanted(const std::vector<KeyGrab>& wanted) {
   // Replies may have brought events along.
   readEvents();
   setCheck(refused_.empty() ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::degraded,
-           tr("holding %1 key combinations, %2 held by another program")
+           Sentence(QT_TR_NOOP("holding %1 key combinations, %2 held by another program"), tr)
                .arg(held_.size())
                .arg(refused_.size()));
 }
@@ -176,8 +177,10 @@ void X11MediaKeySource::readEvents() {
   if (xcb_connection_has_error(connection_) != 0) {
     notifier_->setEnabled(false);
     held_.clear();
-    setCheck(DiagnosticsLog::Outcome::degraded,
-             tr("the X server closed the connection: the keys stay with the desktop"));
+    setCheck(
+        DiagnosticsLog::Outcome::degraded,
+        Sentence(QT_TR_NOOP("the X server closed the connection: the keys stay with the desktop"),
+                 tr));
   }
 }
 
@@ -201,14 +204,6 @@ void X11MediaKeySource::handle(const xcb_generic_event_t& event) {
   }
   emit pressed(MediaKeyPress{found->second, isKeyDown, isRepeat, modifiersFromState(key.state),
                              std::chrono::steady_clock::now()});
-}
-
-void X11MediaKeySource::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
-  ServiceCheck check{outcome, text};
-  if (check == check_) return;
-  check_ = std::move(check);
-  qCInfo(lcMediaKeys).noquote() << "media keys:" << check_.text;
-  emit checkChanged();
 }
 
 }  // namespace tindra

@@ -27,7 +27,6 @@ class X11MediaKeySource final : public MediaKeySource {
   void start() override {}
   void setWanted(const std::vector<KeyGrab>& wanted) override;
   std::vector<KeyGrab> refused() const override { return refused_; }
-  ServiceCheck check() const override { return check_; }
 
   // X's modifier bits and Tindra's: Alt is Option, Super is Command.
   static KeyModifiers modifiersFromState(std::uint16_t state);
@@ -40,7 +39,6 @@ class X11MediaKeySource final : public MediaKeySource {
   void regrabAll();
   void readEvents();
   void handle(const xcb_generic_event_t& event);
-  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
   xcb_connection_t* connection_ = nullptr;
   xcb_window_t root_ = 0;
@@ -50,7 +48,6 @@ class X11MediaKeySource final : public MediaKeySource {
   std::vector<KeyGrab> held_;
   std::vector<KeyGrab> refused_;
   std::set<xcb_keycode_t> down_;  // for telling auto-repeat from a new press
-  ServiceCheck check_;
 };
 
 }  // namespace tindra

@@ -38,7 +38,7 @@ class X11MediaKeySourceTest : public ::testing::Test {
 TEST_F(X11MediaKeySourceTest, SeesTheHeldCombinationsAndNothingElse) {
   X11MediaKeySource source;
   ASSERT_EQ(source.check().outcome, DiagnosticsLog::Outcome::ok)
-      << source.check().text.toStdString();
+      << source.check().text.english().toStdString();
   Presses presses(source);
   source.setWanted({{Key::soundUp, {}},
                     {Key::soundUp, KeyModifiers::shift()},

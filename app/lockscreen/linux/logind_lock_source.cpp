@@ -31,8 +31,9 @@ LogindLockSource::LogindLockSource(QDBusConnection systemBus, QDBusConnection se
     : LockStateSource(parent),
       system_(std::move(systemBus)),
       session_(std::move(sessionBus)),
-      watcher_(logind, system_, QDBusServiceWatcher::WatchForRegistration),
-      check_{DiagnosticsLog::Outcome::ok, tr("asking logind for the session")} {}
+      watcher_(logind, system_, QDBusServiceWatcher::WatchForRegistration) {
+  setCheck(DiagnosticsLog::Outcome::ok, Sentence(QT_TR_NOOP("asking logind for the session"), tr));
+}
 
 void LogindLockSource::start() {
   // Any path: GNOME's saver speaks on /org/gnome/ScreenSaver, others on /ScreenSaver.
@@ -56,10 +57,12 @@ void LogindLockSource::findSession() {
         }
         const QString id = qEnvironmentVariable("XDG_SESSION_ID");
         if (id.isEmpty()) {
-          setCheck(DiagnosticsLog::Outcome::degraded,
-                   tr("logind does not know this session (%1): the screen lock is not "
-                      "followed")
-                       .arg(byProcess.errorName()));
+          setCheck(
+              DiagnosticsLog::Outcome::degraded,
+              Sentence(QT_TR_NOOP("logind does not know this session (%1): the screen lock is not "
+                                  "followed"),
+                       tr)
+                  .arg(byProcess.errorName()));
           return;
         }
         whenAnswered(system_.asyncCall(managerCall(QStringLiteral("GetSession"), id)), this,
@@ -68,10 +71,12 @@ void LogindLockSource::findSession() {
                          followSession(byId.arguments().value(0).value<QDBusObjectPath>().path());
                          return;
                        }
-                       setCheck(DiagnosticsLog::Outcome::degraded,
-                                tr("logind does not answer (%1): the screen lock is "
-                                   "not followed")
-                                    .arg(byId.errorName()));
+                       setCheck(
+                           DiagnosticsLog::Outcome::degraded,
+                           Sentence(QT_TR_NOOP("logind does not answer (%1): the screen lock is "
+                                               "not followed"),
+                                    tr)
+                               .arg(byId.errorName()));
                      });
       });
 }
@@ -105,8 +110,9 @@ void LogindLockSource::followSession(const QString& path) {
     // A Lock or Unlock that came while we asked is newer than the answer.
     const QVariant hint = answer.arguments().value(0).value<QDBusVariant>().variant();
     if (hint.typeId() == QMetaType::Bool && !locked_) setLocked(hint.toBool());
-    setCheck(DiagnosticsLog::Outcome::ok,
-             tr("following the screen lock of logind's session %1").arg(path));
+    setCheck(
+        DiagnosticsLog::Outcome::ok,
+        Sentence(QT_TR_NOOP("following the screen lock of logind's session %1"), tr).arg(path));
   });
 }
 
@@ -140,13 +146,6 @@ void LogindLockSource::setLocked(bool locked) {
   locked_ = locked;
   if (first && !locked) return;  // an unlocked session at start is no news
   emit changed(locked ? LockScreenPresence::Event::locked : LockScreenPresence::Event::unlocked);
-}
-
-void LogindLockSource::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
-  ServiceCheck next{outcome, text};
-  if (next == check_) return;
-  check_ = std::move(next);
-  emit checkChanged();
 }
 
 }  // namespace tindra

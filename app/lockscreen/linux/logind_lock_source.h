@@ -22,7 +22,6 @@ class LogindLockSource final : public LockStateSource {
                    QObject* parent = nullptr);
 
   void start() override;
-  ServiceCheck check() const override { return check_; }
 
  private slots:
   void onLock();
@@ -35,7 +34,6 @@ class LogindLockSource final : public LockStateSource {
   void findSession();
   void followSession(const QString& path);
   void setLocked(bool locked);
-  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
   QDBusConnection system_;
   QDBusConnection session_;
@@ -43,7 +41,6 @@ class LogindLockSource final : public LockStateSource {
   QString sessionPath_;
   std::optional<bool> locked_;
   std::optional<bool> screenSaver_;
-  ServiceCheck check_;
 };
 
 }  // namespace tindra

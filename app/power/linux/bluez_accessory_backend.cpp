@@ -67,8 +67,9 @@ BlueZAccessoryBackend::BlueZAccessoryBackend(QDBusConnection bus, QObject* paren
           QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
       upower_(
           dbus::upowerService, bus_,
-          QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
-      check_{DiagnosticsLog::Outcome::ok, tr("asking BlueZ for the accessories")} {
+          QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration) {
+  setCheck(DiagnosticsLog::Outcome::ok,
+           Sentence(QT_TR_NOOP("asking BlueZ for the accessories"), tr));
   qDBusRegisterMetaType<InterfaceMap>();
   qDBusRegisterMetaType<ManagedObjects>();
 }
@@ -91,15 +92,16 @@ void BlueZAccessoryBackend::start() {
           &BlueZAccessoryBackend::readBlueZ);
   connect(&bluez_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
     devices_.clear();
-    setCheck(DiagnosticsLog::Outcome::degraded,
-             tr("BlueZ went away: no accessories are shown until it returns"));
-    emit changed();
+    setCheck(
+        DiagnosticsLog::Outcome::degraded,
+        Sentence(QT_TR_NOOP("BlueZ went away: no accessories are shown until it returns"), tr));
+    update();
   });
   connect(&upower_, &QDBusServiceWatcher::serviceRegistered, this,
           &BlueZAccessoryBackend::readUPower);
   connect(&upower_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
     peripherals_.clear();
-    emit changed();
+    update();
   });
   readBlueZ();
   readUPower();
@@ -113,8 +115,9 @@ void BlueZAccessoryBackend::readBlueZ() {
     ready_ = true;
     if (answer.type() != QDBusMessage::ReplyMessage) {
       setCheck(DiagnosticsLog::Outcome::degraded,
-               tr("BlueZ does not answer (%1): no accessories are shown").arg(answer.errorName()));
-      if (first) emit changed();
+               Sentence(QT_TR_NOOP("BlueZ does not answer (%1): no accessories are shown"), tr)
+                   .arg(answer.errorName()));
+      if (first) emit changed();  // ready, with nothing to show
       return;
     }
     devices_.clear();
@@ -123,8 +126,9 @@ void BlueZAccessoryBackend::readBlueZ() {
       applyInterfaces(object.key().path(), QVariant::fromValue(object.value()));
     }
     setCheck(DiagnosticsLog::Outcome::ok,
-             tr("following BlueZ: %1 Bluetooth devices known").arg(devices_.size()));
-    emit changed();
+             Sentence(QT_TR_NOOP("following BlueZ: %1 Bluetooth devices known"), tr)
+                 .arg(devices_.size()));
+    if (!update() && first) emit changed();  // ready, with the same devices as before
   });
 }
 
@@ -143,7 +147,7 @@ void BlueZAccessoryBackend::applyInterfaces(const QString& path, const QVariant&
 void BlueZAccessoryBackend::onInterfacesAdded(const QDBusMessage& message) {
   const QString path = argument<QDBusObjectPath>(message, 0).path();
   applyInterfaces(path, QVariant::fromValue(argument<InterfaceMap>(message, 1)));
-  emit changed();
+  update();
 }
 
 void BlueZAccessoryBackend::onInterfacesRemoved(const QDBusMessage& message) {
@@ -156,7 +160,7 @@ void BlueZAccessoryBackend::onInterfacesRemoved(const QDBusMessage& message) {
       device->second.battery.reset();
     }
   }
-  emit changed();
+  update();
 }
 
 void BlueZAccessoryBackend::onBlueZProperties(const QDBusMessage& message) {
@@ -173,7 +177,7 @@ void BlueZAccessoryBackend::onBlueZProperties(const QDBusMessage& message) {
   } else {
     return;
   }
-  emit changed();
+  update();
 }
 
 void BlueZAccessoryBackend::readUPower() {
@@ -206,7 +210,7 @@ void BlueZAccessoryBackend::readPeripheral(const QString& path) {
     }
     if (!address) return;
     peripherals_[path] = {*address, percentage(properties.value(QStringLiteral("Percentage")))};
-    emit changed();
+    update();
   });
 }
 
@@ -215,7 +219,7 @@ void BlueZAccessoryBackend::onUPowerDeviceAdded(const QDBusMessage& message) {
 }
 
 void BlueZAccessoryBackend::onUPowerDeviceRemoved(const QDBusMessage& message) {
-  if (peripherals_.erase(argument<QDBusObjectPath>(message, 0).path()) > 0) emit changed();
+  if (peripherals_.erase(argument<QDBusObjectPath>(message, 0).path()) > 0) update();
 }
 
 void BlueZAccessoryBackend::onUPowerProperties(const QDBusMessage& message) {
@@ -225,7 +229,7 @@ void BlueZAccessoryBackend::onUPowerProperties(const QDBusMessage& message) {
   const QVariantMap changes = argument<QVariantMap>(message, 1);
   if (!changes.contains(QStringLiteral("Percentage"))) return;
   peripheral->second.battery = percentage(changes.value(QStringLiteral("Percentage")));
-  emit changed();
+  update();
 }
 
 BluetoothAccessory BlueZAccessoryBackend::accessoryOf(const QVariantMap& device,
@@ -251,7 +255,11 @@ BluetoothAccessory BlueZAccessoryBackend::accessoryOf(const QVariantMap& device,
   return accessory;
 }
 
-std::vector<BluetoothAccessory> BlueZAccessoryBackend::connected() const {
+bool BlueZAccessoryBackend::update() {
+  return publish(merged());
+}
+
+std::vector<BluetoothAccessory> BlueZAccessoryBackend::merged() const {
   std::vector<BluetoothAccessory> result;
   for (const auto& [path, device] : devices_) {
     if (!typed<bool>(device.properties, QStringLiteral("Connected")).value_or(false)) continue;
@@ -265,10 +273,6 @@ std::vector<BluetoothAccessory> BlueZAccessoryBackend::connected() const {
     result.push_back(std::move(accessory));
   }
   return result;
-}
-
-void BlueZAccessoryBackend::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
-  if (assignIfChanged(check_, ServiceCheck{outcome, text})) emit checkChanged();
 }
 
 }  // namespace tindra

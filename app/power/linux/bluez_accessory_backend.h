@@ -25,8 +25,6 @@ class BlueZAccessoryBackend final : public AccessoryBackend {
   explicit BlueZAccessoryBackend(QDBusConnection bus, QObject* parent = nullptr);
 
   void start() override;
-  std::vector<BluetoothAccessory> connected() const override;
-  ServiceCheck check() const override { return check_; }
   bool ready() const override { return ready_; }
 
   // One BlueZ device's properties (and Battery1 percentage, if any) as an accessory.
@@ -54,14 +52,16 @@ class BlueZAccessoryBackend final : public AccessoryBackend {
   void readUPower();
   void readPeripheral(const QString& path);
   void applyInterfaces(const QString& path, const QVariant& interfaces);
-  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
+  // Publishes the connected devices, each with its battery from BlueZ or else UPower; whether
+  // they changed.
+  bool update();
+  std::vector<BluetoothAccessory> merged() const;
 
   QDBusConnection bus_;
   QDBusServiceWatcher bluez_;
   QDBusServiceWatcher upower_;
   std::map<QString, Device> devices_;          // by object path
   std::map<QString, Peripheral> peripherals_;  // UPower's, by object path
-  ServiceCheck check_;
   bool ready_ = false;
 };
 

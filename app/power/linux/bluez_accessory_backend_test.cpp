@@ -69,7 +69,7 @@ class BlueZAccessoryBackendTest : public ::testing::Test {
 TEST_F(BlueZAccessoryBackendTest, ConnectionsKindsAndBatteriesFromBothServices) {
   BlueZAccessoryBackend backend(QDBusConnection::systemBus());
   backend.start();
-  ASSERT_TRUE(waitFor([&] { return backend.check().text.contains("following BlueZ"); }));
+  ASSERT_TRUE(waitFor([&] { return backend.check().text.english().contains("following BlueZ"); }));
   EXPECT_TRUE(backend.connected().empty());  // known, not connected
 
   blueZ("ConnectDevice", {"hci0", headset});

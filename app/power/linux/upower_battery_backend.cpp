@@ -60,8 +60,9 @@ UPowerBatteryBackend::UPowerBatteryBackend(QDBusConnection bus, QObject* parent)
           QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
       profilesWatcher_(
           profilesService, bus_,
-          QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration),
-      check_{DiagnosticsLog::Outcome::ok, tr("asking UPower for the battery")} {}
+          QDBusServiceWatcher::WatchForRegistration | QDBusServiceWatcher::WatchForUnregistration) {
+  setCheck(DiagnosticsLog::Outcome::ok, Sentence(QT_TR_NOOP("asking UPower for the battery"), tr));
+}
 
 void UPowerBatteryBackend::start() {
   bus_.connect(dbus::upowerService, displayDevice, dbus::properties,
@@ -117,19 +118,21 @@ void UPowerBatteryBackend::onReadAll(QDBusPendingCallWatcher* call) {
   if (reply.isError()) {
     // Not running now; the watcher reads again when it starts.
     setCheck(DiagnosticsLog::Outcome::degraded,
-             tr("UPower does not answer (%1): no battery is shown").arg(reply.error().name()));
+             Sentence(QT_TR_NOOP("UPower does not answer (%1): no battery is shown"), tr)
+                 .arg(reply.error().name()));
     publish(std::nullopt);
     return;
   }
   device_ = UPowerDevice{};
   apply(reply.value());
-  setCheck(DiagnosticsLog::Outcome::ok, reading_ ? tr("reading the battery from UPower")
-                                                 : tr("UPower answers and reports no battery"));
+  setCheck(DiagnosticsLog::Outcome::ok,
+           reading() ? Sentence(QT_TR_NOOP("reading the battery from UPower"), tr)
+                     : Sentence(QT_TR_NOOP("UPower answers and reports no battery"), tr));
 }
 
 void UPowerBatteryBackend::onServiceGone() {
   setCheck(DiagnosticsLog::Outcome::degraded,
-           tr("UPower went away: no battery is shown until it returns"));
+           Sentence(QT_TR_NOOP("UPower went away: no battery is shown until it returns"), tr));
   publish(std::nullopt);
 }
 
@@ -151,14 +154,6 @@ void UPowerBatteryBackend::apply(const QVariantMap& properties) {
   take(properties, "TimeToEmpty", device_.timeToEmpty);
   take(properties, "TimeToFull", device_.timeToFull);
   publish(device_.batteryStatus(powerSaver_));
-}
-
-void UPowerBatteryBackend::publish(std::optional<BatteryStatus> reading) {
-  if (assignIfChanged(reading_, reading)) emit readingChanged();
-}
-
-void UPowerBatteryBackend::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
-  if (assignIfChanged(check_, ServiceCheck{outcome, text})) emit checkChanged();
 }
 
 }  // namespace tindra

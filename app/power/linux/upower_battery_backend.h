@@ -23,8 +23,6 @@ class UPowerBatteryBackend final : public BatteryBackend {
   explicit UPowerBatteryBackend(QDBusConnection bus, QObject* parent = nullptr);
 
   void start() override;
-  std::optional<BatteryStatus> reading() const override { return reading_; }
-  ServiceCheck check() const override { return check_; }
 
  private slots:
   void onPropertiesChanged(const QString& interface, const QVariantMap& changed,
@@ -38,16 +36,12 @@ class UPowerBatteryBackend final : public BatteryBackend {
   void onServiceGone();
   void apply(const QVariantMap& properties);
   void readProfile();
-  void publish(std::optional<BatteryStatus> reading);
-  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
   QDBusConnection bus_;
   QDBusServiceWatcher watcher_;
   QDBusServiceWatcher profilesWatcher_;
   UPowerDevice device_;
   bool powerSaver_ = false;
-  std::optional<BatteryStatus> reading_;
-  ServiceCheck check_;
 };
 
 }  // namespace tindra

@@ -62,7 +62,7 @@ class UPowerBatteryBackendTest : public ::testing::Test {
 TEST_F(UPowerBatteryBackendTest, FollowsTheDisplayDeviceAndKeepsValuesOverNonsense) {
   UPowerBatteryBackend backend(QDBusConnection::systemBus());
   backend.start();
-  ASSERT_TRUE(waitFor([&] { return backend.check().text.contains("no battery"); }));
+  ASSERT_TRUE(waitFor([&] { return backend.check().text.english().contains("no battery"); }));
   EXPECT_EQ(backend.check().outcome, DiagnosticsLog::Outcome::ok);
   EXPECT_FALSE(backend.reading());
 
@@ -140,7 +140,7 @@ TEST_F(UPowerBatteryBackendTest, LosesTheBatteryWithUPowerAndFindsItWhenUPowerRe
   ASSERT_TRUE(upower_->stop());
   ASSERT_TRUE(waitFor([&] { return !backend.reading(); }));
   EXPECT_EQ(backend.check().outcome, DiagnosticsLog::Outcome::degraded);
-  EXPECT_TRUE(backend.check().text.contains("went away"));
+  EXPECT_TRUE(backend.check().text.english().contains("went away"));
 
   QString error;
   ASSERT_TRUE(upower_->start(&error)) << error.toStdString();

@@ -46,9 +46,11 @@ X11VisibilitySource::X11VisibilitySource(GameTest isGame, QObject* parent)
   int screen = 0;
   connection_ = xcb_connect(nullptr, &screen);
   if (xcb_connection_has_error(connection_) != 0) {
-    setCheck(DiagnosticsLog::Outcome::degraded,
-             tr("no X display: the notch never steps aside for full-screen windows "
-                "or games"));
+    setCheck(
+        DiagnosticsLog::Outcome::degraded,
+        Sentence(QT_TR_NOOP("no X display: the notch never steps aside for full-screen windows "
+                            "or games"),
+                 tr));
     return;
   }
   xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection_));
@@ -217,12 +219,13 @@ void X11VisibilitySource::reread() {
     if (seen.fullScreen) frontmost->fullScreenWindowFrames.push_back(seen.frame);
   }
   if (xcb_connection_has_error(connection_) == 0) {
-    setCheck(DiagnosticsLog::Outcome::ok,
-             tr("following the active window and full-screen state from the window "
-                "manager (EWMH)"));
+    setCheck(
+        DiagnosticsLog::Outcome::ok,
+        Sentence(QT_TR_NOOP("following the active window and full-screen state from the window "
+                            "manager (EWMH)"),
+                 tr));
   }
-  const bool changedWindows = assignIfChanged(windows_, std::move(windows));
-  if (assignIfChanged(frontmost_, std::move(frontmost)) || changedWindows) emit changed();
+  publish(std::move(frontmost), std::move(windows));
 }
 
 void X11VisibilitySource::readEvents() {
@@ -235,8 +238,9 @@ void X11VisibilitySource::readEvents() {
   if (xcb_connection_has_error(connection_) != 0) {
     notifier_.reset();
     setCheck(DiagnosticsLog::Outcome::failed,
-             tr("the X server closed the connection: the notch no longer steps "
-                "aside"));
+             Sentence(QT_TR_NOOP("the X server closed the connection: the notch no longer steps "
+                                 "aside"),
+                      tr));
   }
 }
 
@@ -253,10 +257,6 @@ bool X11VisibilitySource::takeEvents() {
     stale |= type == XCB_CONFIGURE_NOTIFY || type == XCB_DESTROY_NOTIFY;
   }
   return stale;
-}
-
-void X11VisibilitySource::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
-  if (assignIfChanged(check_, ServiceCheck{outcome, text})) emit checkChanged();
 }
 
 }  // namespace tindra

@@ -33,9 +33,6 @@ class X11VisibilitySource final : public VisibilitySource {
   ~X11VisibilitySource() override;
 
   void start() override;
-  std::optional<FrontmostApp> frontmost() const override { return frontmost_; }
-  std::vector<WindowSnapshot> windows() const override { return windows_; }
-  ServiceCheck check() const override { return check_; }
 
   // A display as Qt sees it: its origin (the same in X's pixels and in Qt's), its size in Qt's
   // device-independent pixels, and how many of X's pixels make one of those.
@@ -60,7 +57,6 @@ class X11VisibilitySource final : public VisibilitySource {
   Window read(xcb_window_t window, std::span<const ScreenScale> screens);
   Identity identify(xcb_window_t window);
   void follow(xcb_window_t active);
-  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
   GameTest isGame_;
   xcb_connection_t* connection_ = nullptr;
@@ -68,9 +64,6 @@ class X11VisibilitySource final : public VisibilitySource {
   std::unique_ptr<Atoms> atoms_;
   std::unique_ptr<QSocketNotifier> notifier_;
   xcb_window_t followed_ = 0;
-  std::optional<FrontmostApp> frontmost_;
-  std::vector<WindowSnapshot> windows_;
-  ServiceCheck check_;
 };
 
 }  // namespace tindra

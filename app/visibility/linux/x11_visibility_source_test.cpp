@@ -116,7 +116,7 @@ TEST_F(X11VisibilityTest, TheNotchStepsAsideOverFullScreenWindowsAndComesBack) {
   EXPECT_FALSE(notch.isVisible());
   EXPECT_EQ(monitor.reasonFor(screen()), NotchHideReason::fullScreen);
   EXPECT_TRUE(std::ranges::any_of(app.diagnostics().entries(), [](const auto& entry) {
-    return entry.text == QLatin1String("the notch steps aside: fullScreen");
+    return entry.text.english() == QLatin1String("the notch steps aside: fullScreen");
   }));
 
   // With full-screen hiding off a full-screen window is no reason, but the next one is.

@@ -32,7 +32,8 @@ GeoClueLocationSource::GeoClueLocationSource(QDBusConnection bus, QObject* paren
     : LocationSource(parent),
       bus_(std::move(bus)),
       watcher_(service, bus_, QDBusServiceWatcher::WatchForRegistration) {
-  check_ = {DiagnosticsLog::Outcome::degraded, tr("asking GeoClue for the position")};
+  setCheck(DiagnosticsLog::Outcome::degraded,
+           Sentence(QT_TR_NOOP("asking GeoClue for the position"), tr));
   connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this,
           &GeoClueLocationSource::askForClient);
 }
@@ -44,10 +45,6 @@ GeoClueLocationSource::~GeoClueLocationSource() {
 }
 
 void GeoClueLocationSource::start() {
-  if (!bus_.isConnected()) {
-    setCheck(DiagnosticsLog::Outcome::failed, tr("no system bus: GeoClue cannot be asked"));
-    return;
-  }
   askForClient();
 }
 
@@ -58,8 +55,9 @@ void GeoClueLocationSource::askForClient() {
                                                            QStringLiteral("GetClient"));
   whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
     if (answer.type() == QDBusMessage::ErrorMessage) {
-      setCheck(DiagnosticsLog::Outcome::degraded,
-               tr("GeoClue is not available (%1)").arg(answer.errorMessage()));
+      setCheck(
+          DiagnosticsLog::Outcome::degraded,
+          Sentence(QT_TR_NOOP("GeoClue is not available (%1)"), tr).arg(answer.errorMessage()));
       return;
     }
     configure(answer.arguments().value(0).value<QDBusObjectPath>().path());
@@ -88,11 +86,13 @@ void GeoClueLocationSource::startClient() {
       QDBusMessage::createMethodCall(service, client_, clientInterface, QStringLiteral("Start"));
   whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
     if (answer.type() == QDBusMessage::ErrorMessage) {
-      setCheck(DiagnosticsLog::Outcome::degraded,
-               tr("GeoClue refused the position (%1)").arg(answer.errorMessage()));
+      setCheck(
+          DiagnosticsLog::Outcome::degraded,
+          Sentence(QT_TR_NOOP("GeoClue refused the position (%1)"), tr).arg(answer.errorMessage()));
       return;
     }
-    setCheck(DiagnosticsLog::Outcome::ok, tr("GeoClue gives the position, at city accuracy"));
+    setCheck(DiagnosticsLog::Outcome::ok,
+             Sentence(QT_TR_NOOP("GeoClue gives the position, at city accuracy"), tr));
   });
 }
 
@@ -116,18 +116,8 @@ void GeoClueLocationSource::readLocation(const QString& path) {
         std::abs(latitude) > 90 || std::abs(longitude) > 180) {
       return;
     }
-    const GeoCoordinate position{latitude, longitude};
-    if (location_ == position) return;
-    location_ = position;
-    emit locationChanged();
+    publish(GeoCoordinate{latitude, longitude});
   });
-}
-
-void GeoClueLocationSource::setCheck(DiagnosticsLog::Outcome outcome, const QString& text) {
-  const ServiceCheck check{outcome, text};
-  if (check == check_) return;
-  check_ = check;
-  emit checkChanged();
 }
 
 }  // namespace tindra

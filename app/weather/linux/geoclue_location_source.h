@@ -24,8 +24,6 @@ class GeoClueLocationSource final : public LocationSource {
   ~GeoClueLocationSource() override;
 
   void start() override;
-  std::optional<GeoCoordinate> location() const override { return location_; }
-  ServiceCheck check() const override { return check_; }
 
  private slots:
   void onLocationUpdated(const QDBusObjectPath& previous, const QDBusObjectPath& current);
@@ -35,13 +33,10 @@ class GeoClueLocationSource final : public LocationSource {
   void configure(const QString& client);
   void startClient();
   void readLocation(const QString& path);
-  void setCheck(DiagnosticsLog::Outcome outcome, const QString& text);
 
   QDBusConnection bus_;
   QDBusServiceWatcher watcher_;
   QString client_;
-  std::optional<GeoCoordinate> location_;
-  ServiceCheck check_;
 };
 
 }  // namespace tindra

@@ -39,7 +39,7 @@ TEST_F(GeoClueLocationSourceTest, FollowsThePositionGeoClueReports) {
   GeoClueLocationSource source(QDBusConnection::systemBus());
   source.start();
   ASSERT_TRUE(waitFor([&] { return source.check().outcome == DiagnosticsLog::Outcome::ok; }))
-      << source.check().text.toStdString();
+      << source.check().text.english().toStdString();
   EXPECT_FALSE(source.location());
   QSignalSpy moved(&source, &LocationSource::locationChanged);
   ASSERT_EQ(geoclue_->call(manager, "SetLocation", {59.9139, 10.7522, 5000.0}), QString());
@@ -54,13 +54,13 @@ TEST_F(GeoClueLocationSourceTest, ARefusalOrNoGeoClueIsSaidAndNothingBreaks) {
   ASSERT_EQ(geoclue_->call(manager, "SetRefuse", {true}), QString());
   GeoClueLocationSource refused(QDBusConnection::systemBus());
   refused.start();
-  ASSERT_TRUE(waitFor([&] { return refused.check().text.contains("refused"); }));
+  ASSERT_TRUE(waitFor([&] { return refused.check().text.english().contains("refused"); }));
   EXPECT_FALSE(refused.location());
 
   ASSERT_TRUE(geoclue_->stop());
   GeoClueLocationSource missing(QDBusConnection::systemBus());
   missing.start();
-  ASSERT_TRUE(waitFor([&] { return missing.check().text.contains("not available"); }));
+  ASSERT_TRUE(waitFor([&] { return missing.check().text.english().contains("not available"); }));
   // GeoClue arriving later is followed.
   QString error;
   ASSERT_TRUE(geoclue_->start(&error)) << error.toStdString();
