@@ -13,15 +13,13 @@
 #include <cstdlib>
 #include <string_view>
 
-#include "base/provider.h"
+#include "demo_tour.h"
 #include "diagnostics/first_frame_report.h"
 #include "diagnostics/key_latency_report.h"
 #include "diagnostics/notice_latency_report.h"
 #include "diagnostics/stall_report.h"
-#include "levels/hud_view_model.h"
 #include "notch/display_platform.h"
 #include "settings/settings_store.h"
-#include "shell/demo_tour.h"
 #include "shell/focus_command.h"
 #include "tindra_app.h"
 
@@ -80,9 +78,7 @@ int main(int argc, char* argv[]) {
   tindra::reportFirstFrameIfAsked();
   tindra::reportNoticeLatencyIfAsked(tindra.activities());
   tindra::reportStallsIfAsked();
-  if (auto* hud = tindra.provider(QStringLiteral("hud"))) {
-    tindra::reportKeyLatencyIfAsked(*static_cast<tindra::HudViewModel*>(hud->viewModel()));
-  }
+  tindra::reportKeyLatencyIfAsked(*tindra.providers().get<tindra::HudProvider>().viewModel());
   if (!options.isSet(demo)) return QApplication::exec();
 
   tindra::DemoTour tour(tindra, QDir(options.value(demo)));

@@ -5,11 +5,11 @@
 #pragma once
 
 #include <QMenu>
-#include <QNetworkAccessManager>
 #include <QObject>
 #include <memory>
-#include <vector>
 
+#include "base/shared_backends.h"
+#include "tindra_providers.h"
 #include "views/view_registry.h"
 
 namespace tindra {
@@ -17,11 +17,8 @@ namespace tindra {
 class ActivityCenter;
 class AdapterCheck;
 class DiagnosticsLog;
-class FileTrayProvider;
 class NotchContent;
-class NowPlayingProvider;
 class OnboardingWindow;
-class Provider;
 class NotchScreenManager;
 class ScreenSource;
 class SettingsFileWatcher;
@@ -29,7 +26,6 @@ class SettingsStore;
 class ShellActions;
 class TrayItem;
 class VisibilityMonitor;
-class WeatherProvider;
 
 class TindraApp : public QObject {
   Q_OBJECT
@@ -47,10 +43,9 @@ class TindraApp : public QObject {
   SettingsStore& settings() { return *settings_; }
   ActivityCenter& activities() { return *activities_; }
   DiagnosticsLog& diagnostics() { return *diagnostics_; }
-  // The running provider called `name`, or null.
-  Provider* provider(const QString& name) const;
-  FileTrayProvider& fileTray() const;
-  NowPlayingProvider* nowPlaying() const;
+  const TindraProviders& providers() const { return *providers_; }
+  // The shared backends, and the invented ones the demo plays.
+  SharedBackends& backends() { return backends_; }
   NotchScreenManager& notches() { return *notches_; }
   ShellActions& shell() { return *shell_; }
   TrayItem& tray() { return *tray_; }
@@ -62,21 +57,22 @@ class TindraApp : public QObject {
   QMenu* notchMenu() const;
   void offerMenuOnNotches();
   void startProviders();
-  void followNetwork(WeatherProvider& weather);
+  void offerProvidersToShell();
   void stepAside();
 
   Options options_;
-  QNetworkAccessManager network_;  // the forecast's; before the providers that use it
+  SharedBackends backends_;  // before the providers that share them
   std::unique_ptr<SettingsStore> settings_;
   std::unique_ptr<SettingsFileWatcher> watcher_;
   std::unique_ptr<ActivityCenter> activities_;
   std::unique_ptr<DiagnosticsLog> diagnostics_;
-  std::vector<std::unique_ptr<Provider>> providers_;
-  ViewRegistry views_;
-  std::unique_ptr<NotchContent> content_;
+  ViewRegistry views_{TindraProviders::views()};
+  // The providers outlive the shell's windows, which show their calendars and places.
+  std::unique_ptr<TindraProviders> providers_;
   std::unique_ptr<AdapterCheck> adapterCheck_;
   std::unique_ptr<ShellActions> shell_;
   std::unique_ptr<TrayItem> tray_;
+  std::unique_ptr<NotchContent> content_;
   std::unique_ptr<ScreenSource> screens_;
   std::unique_ptr<NotchScreenManager> notches_;
   std::unique_ptr<VisibilityMonitor> visibility_;

@@ -3,11 +3,15 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
 namespace tindra {
 
 class ApplicationOpener {
  public:
+  // This platform's way of opening applications (made in the platform's folder).
+  static std::unique_ptr<ApplicationOpener> forPlatform();
+
   virtual ~ApplicationOpener() = default;
   // The application's name as its desktop entry gives it; empty when no such entry is installed.
   virtual QString displayName(const QString& desktopEntry) const = 0;

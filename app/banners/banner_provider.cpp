@@ -1,4 +1,7 @@
 #include "banners/banner_provider.h"
+#include "banners/fake_notification_source.h"
+#include "base/backend_selection.h"
+#include "settings/settings_store.h"
 
 #include "base/activity_center.h"
 #include "base/diagnostics_log.h"
@@ -13,13 +16,12 @@ BannerProvider::BannerProvider(ProviderContext context, std::unique_ptr<Notifica
                                std::shared_ptr<FocusStatusSource> focus,
                                std::unique_ptr<ApplicationOpener> opener, BannerApps apps,
                                QObject* parent)
-    : Provider(context, parent),
+    : Provider(context, id, parent),
       source_(std::move(source)),
       focus_(std::move(focus)),
       opener_(std::move(opener)),
       apps_(std::move(apps)),
       viewModel_([this] { openSender(); }) {
-  source_->setParent(nullptr);  // owned here, not by the Qt tree
   connect(source_.get(), &NotificationSource::notified, this, &BannerProvider::onNotified);
   connect(source_.get(), &NotificationSource::closed, this, &BannerProvider::onClosed);
   connect(source_.get(), &NotificationSource::serverGone, this, &BannerProvider::clearAll);
@@ -131,6 +133,27 @@ void BannerProvider::clearAll() {
 
 void BannerProvider::openSender() {
   if (!messageEntry_.isEmpty()) opener_->open(messageEntry_);
+}
+
+std::unique_ptr<BannerProvider> BannerProvider::make(ProviderContext& context) {
+  SharedBackends& shared = *context.shared;
+  return std::make_unique<BannerProvider>(
+      context,
+      chooseBackend(
+          id, shared, [] { return std::make_unique<FakeNotificationSource>(); },
+          [&] { return NotificationSource::forPlatform(shared); }),
+      FocusStatusSource::shared(shared), ApplicationOpener::forPlatform(),
+      userApps(context.settings.file().parent_path() / "banner-apps.json"));
+}
+
+// A call or a message is a section only while it shows, after the level indicator.
+ProviderViews BannerProvider::views() {
+  return {.compact = {{ActivityKind::message, QStringLiteral("banners/MessageCompact.qml")},
+                      {ActivityKind::incomingCall, QStringLiteral("banners/CallCompact.qml")}},
+          .sections = {{.name = QStringLiteral("banners"),
+                        .rank = 10,
+                        .file = QStringLiteral("banners/BannerPanel.qml"),
+                        .transient = true}}};
 }
 
 }  // namespace tindra

@@ -15,6 +15,7 @@
 #include "banners/banner_view_model.h"
 #include "banners/notification_source.h"
 #include "base/provider.h"
+#include "base/provider_views.h"
 #include "focus/desktop_notification.h"
 #include "focus/focus_status_source.h"
 #include "settings/settings_store.h"
@@ -25,6 +26,11 @@ class BannerProvider final : public Provider {
   Q_OBJECT
 
  public:
+  static constexpr std::string_view id = "banners";
+  // With the backends this platform gives it (the fake ones when TINDRA_FAKE names "banners").
+  static std::unique_ptr<BannerProvider> make(ProviderContext& context);
+  static ProviderViews views();
+
   // Seconds a message or missed call stays, whatever the notice-length setting says.
   static constexpr double messageDuration = 7.0;
   // A call whose notification is never withdrawn (its program died) stops ringing after this.
@@ -40,11 +46,8 @@ class BannerProvider final : public Provider {
   // "banner-apps.json" beside the settings file: the user's own call and message applications.
   static BannerApps userApps(const std::filesystem::path& file);
 
-  QString name() const override { return QStringLiteral("banners"); }
   void start() override;
   BannerViewModel* viewModel() override { return &viewModel_; }
-  // Where the notifications come from; the demo plays its fake one.
-  NotificationSource& source() const { return *source_; }
 
  private:
   void recordCheck();

@@ -13,7 +13,6 @@
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/view_shot.h"
-#include "views/view_registry.h"
 
 namespace tindra {
 namespace {
@@ -125,11 +124,12 @@ TEST_F(BannerProviderTest, AMessageShowsWhoAndWhatWithAButtonThatOpensItsSender)
   view.open();
   EXPECT_EQ(opener_->opened, QStringList{"org.example.Chat"});
 
-  const QImage compact = viewShot(ViewRegistry::compact(ActivityKind::message)->source, &view,
+  const QImage compact = viewShot(compactView<BannerProvider>(ActivityKind::message), &view,
                                   {260, 32}, "message-compact");
   EXPECT_FALSE(compact.isNull());
-  EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/qml/BannerPanel.qml"), &view, {280, 110}, "message-panel")
-                   .isNull());
+  EXPECT_FALSE(
+      viewShot(QUrl("qrc:/Tindra/banners/BannerPanel.qml"), &view, {280, 110}, "message-panel")
+          .isNull());
 
   source_->close(7);
   EXPECT_EQ(activities_.current(), ActivityKind::idle);

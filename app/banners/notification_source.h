@@ -4,6 +4,7 @@
 #pragma once
 
 #include "base/backend.h"
+#include "base/shared_backends.h"
 #include "focus/desktop_notification.h"
 
 namespace tindra {
@@ -14,6 +15,10 @@ class NotificationSource : public Backend {
  public:
   using Backend::Backend;
   class Null;
+
+  // This platform's notifications, or the do-nothing source where none can be read (made in the
+  // platform's folder).
+  static std::unique_ptr<NotificationSource> forPlatform(SharedBackends& shared);
 
   virtual void stop() = 0;
 

@@ -45,9 +45,11 @@ class Backend : public QObject {
 
 // The do-nothing backend of `Interface`: it reads nothing, and its check says why. Interfaces
 // that take commands give NullBackend<Interface> do-nothing overrides in a class of their own.
-template <class Interface>
-class NullBackend : public Interface {
+template <class Of>
+class NullBackend : public Of {
  public:
+  using Interface = Of;
+
   explicit NullBackend(const Sentence& reason,
                        DiagnosticsLog::Outcome outcome = DiagnosticsLog::Outcome::degraded) {
     this->setCheck(outcome, reason);

@@ -5,11 +5,13 @@
 
 namespace tindra {
 
-bool fakeBackendRequested(const QString& provider) {
+bool fakeBackendRequested(std::string_view provider) {
+  const QString wanted =
+      QString::fromUtf8(provider.data(), static_cast<qsizetype>(provider.size()));
   const QStringList asked = qEnvironmentVariable("TINDRA_FAKE").split(u',', Qt::SkipEmptyParts);
   for (const QString& name : asked) {
     const QString trimmed = name.trimmed();
-    if (trimmed == QLatin1String("all") || trimmed == provider) return true;
+    if (trimmed == QLatin1String("all") || trimmed == wanted) return true;
   }
   return false;
 }

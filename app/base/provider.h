@@ -1,37 +1,48 @@
-// Provider: one source of activities. A provider owns one backend (declared in its own folder,
-// implemented per platform, with a do-nothing and a fake variant), runs the core's parsers and
-// policies on what the backend reports, offers ActivityEvents to the ActivityCenter and exposes
-// a QObject view model to its views. Providers never talk to each other or to windows.
-// Main thread only.
+// Provider: one source of activities. A provider owns its backends (each an interface in its own
+// folder, with a real backend per platform, a do-nothing one and a fake one), runs the core's
+// parsers and policies on what they report, offers ActivityEvents to the ActivityCenter and
+// exposes a QObject view model to the views it declares. Providers never talk to each other or
+// to windows. Main thread only.
+//
+// Every provider type also has, for the app's registry (ProviderSet):
+//   static constexpr std::string_view id = "battery";   its name in TINDRA_FAKE and diagnostics
+//   static std::unique_ptr<T> make(ProviderContext&);   with the backends this platform gives it
+//   static ProviderViews views();                       the QML views of its view model
 #pragma once
 
 #include <QObject>
 #include <QString>
+#include <string_view>
 
 namespace tindra {
 
 class ActivityCenter;
 class DiagnosticsLog;
 class SettingsStore;
+class SharedBackends;
 
-// What every provider is given: the one activity centre, the settings and the diagnostics log.
+// What every provider is given: the one activity centre, the settings and the diagnostics log;
+// and, for making its backends, the backends it may share with others (null in tests that give
+// a provider its backends themselves).
 struct ProviderContext {
   ActivityCenter& activities;
   SettingsStore& settings;
   DiagnosticsLog& diagnostics;
+  SharedBackends* shared = nullptr;
 };
 
 class Provider : public QObject {
   Q_OBJECT
 
  public:
-  Provider(ProviderContext context, QObject* parent = nullptr)
-      : QObject(parent), context_(context) {}
+  Provider(ProviderContext context, std::string_view id, QObject* parent = nullptr)
+      : QObject(parent),
+        context_(context),
+        name_(QString::fromUtf8(id.data(), static_cast<qsizetype>(id.size()))) {}
 
-  // The section name of its panel part and its name in TINDRA_FAKE and diagnostics
-  // ("battery", "media", ...).
-  virtual QString name() const = 0;
-  // Connects the backend and records the start-up check in the diagnostics log.
+  // Its name in TINDRA_FAKE and the diagnostics, and the key its views find its model by.
+  const QString& name() const { return name_; }
+  // Connects the backends and records their start-up checks in the diagnostics log.
   virtual void start() = 0;
   // The view model its QML views bind to; owned by the provider.
   virtual QObject* viewModel() = 0;
@@ -43,6 +54,7 @@ class Provider : public QObject {
 
  private:
   ProviderContext context_;
+  QString name_;
 };
 
 }  // namespace tindra

@@ -4,13 +4,19 @@
 #pragma once
 
 #include <QString>
+#include <memory>
 
 namespace tindra {
+
+class SharedBackends;
 
 class SoundPlayer {
  public:
   virtual ~SoundPlayer() = default;
   virtual void play(const QString& name) = 0;
+
+  // The one player of this platform, shared by every provider.
+  static std::shared_ptr<SoundPlayer> shared(SharedBackends& shared);
 };
 
 }  // namespace tindra

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "base/backend.h"
+#include "base/shared_backends.h"
 #include "calendar/calendar_event_info.h"
 #include "calendar/reminder_item.h"
 
@@ -37,6 +38,10 @@ class CalendarBackend : public Backend {
  public:
   using Backend::Backend;
   class Null;
+
+  // This platform's calendars: the real backend, or the do-nothing one where none can be read
+  // (made in the platform's folder).
+  static std::unique_ptr<CalendarBackend> forPlatform(SharedBackends& shared);
 
   // The events wanted: those overlapping [start, end), seconds since 1970.
   virtual void setWindow(double start, double end) = 0;

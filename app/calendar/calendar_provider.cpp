@@ -1,4 +1,8 @@
 #include "calendar/calendar_provider.h"
+#include <QDesktopServices>
+#include "base/backend_selection.h"
+#include "base/wall_clock.h"
+#include "calendar/fake_calendar_backend.h"
 
 #include <unicode/gregocal.h>
 
@@ -56,7 +60,7 @@ CalendarProvider::CalendarProvider(ProviderContext context,
                                    std::unique_ptr<TravelTimeEstimator> travel,
                                    std::shared_ptr<SoundPlayer> sounds, Clock now, OpenURL open,
                                    QObject* parent)
-    : Provider(context, parent),
+    : Provider(context, id, parent),
       backend_(std::move(backend)),
       travel_(std::move(travel)),
       sounds_(std::move(sounds)),
@@ -64,7 +68,6 @@ CalendarProvider::CalendarProvider(ProviderContext context,
       open_(std::move(open)),
       calendar_(userCalendar()),
       viewModel_([this](const QString& id) { return join(id); }) {
-  backend_->setParent(nullptr);  // owned here, not by the Qt tree
   timer_.setSingleShot(true);
   timer_.setTimerType(Qt::PreciseTimer);
   connect(&timer_, &QTimer::timeout, this, &CalendarProvider::update);
@@ -314,6 +317,26 @@ bool CalendarProvider::join(const QString& id) {
     return open_(QUrl(toQString(event.meetingLink->url)));
   }
   return false;
+}
+
+std::unique_ptr<CalendarProvider> CalendarProvider::make(ProviderContext& context) {
+  SharedBackends& shared = *context.shared;
+  return std::make_unique<CalendarProvider>(
+      context,
+      chooseBackend(
+          id, shared, [] { return std::make_unique<FakeCalendarBackend>(secondsSince1970()); },
+          [&] { return CalendarBackend::forPlatform(shared); }),
+      TravelTimeEstimator::forPlatform(), SoundPlayer::shared(shared), secondsSince1970,
+      [](const QUrl& link) { return QDesktopServices::openUrl(link); });
+}
+
+ProviderViews CalendarProvider::views() {
+  return {
+      .compact = {{ActivityKind::upcomingEvent, QStringLiteral("calendar/CalendarCompact.qml")}},
+      .sections = {{.name = QStringLiteral("calendar"),
+                    .title = QT_TRANSLATE_NOOP("PinnedSectionsEditor", "Calendar"),
+                    .rank = 30,
+                    .file = QStringLiteral("calendar/CalendarPanel.qml")}}};
 }
 
 }  // namespace tindra

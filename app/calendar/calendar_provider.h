@@ -15,6 +15,7 @@
 #include <optional>
 
 #include "base/provider.h"
+#include "base/provider_views.h"
 #include "base/sound_player.h"
 #include "calendar/calendar_backend.h"
 #include "calendar/calendar_view_model.h"
@@ -29,6 +30,11 @@ class CalendarProvider final : public Provider {
   Q_OBJECT
 
  public:
+  static constexpr std::string_view id = "calendar";
+  // With the backends this platform gives it (the fake ones when TINDRA_FAKE names "calendar").
+  static std::unique_ptr<CalendarProvider> make(ProviderContext& context);
+  static ProviderViews views();
+
   using Clock = std::function<double()>;  // seconds since 1970
   using OpenURL = std::function<bool(const QUrl&)>;
   // Days after today whose events are read, for the next event and the departure advice.
@@ -40,7 +46,6 @@ class CalendarProvider final : public Provider {
                    Clock now, OpenURL open, QObject* parent = nullptr);
   ~CalendarProvider() override;
 
-  QString name() const override { return QStringLiteral("calendar"); }
   void start() override;
   CalendarViewModel* viewModel() override { return &viewModel_; }
   CalendarBackend& backend() { return *backend_; }

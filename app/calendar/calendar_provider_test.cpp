@@ -11,7 +11,6 @@
 #include "settings/settings_keys.h"
 #include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
-#include "views/view_registry.h"
 
 namespace tindra {
 namespace {
@@ -184,11 +183,11 @@ TEST_F(CalendarProviderTest, ViewsDrawTheMeetingItsJoinButtonAndTheAgenda) {
   provider_->start();
   enable();
   CalendarViewModel* view = provider_->viewModel();
-  const QImage compact = viewShot(ViewRegistry::compact(ActivityKind::upcomingEvent)->source, view,
+  const QImage compact = viewShot(compactView<CalendarProvider>(ActivityKind::upcomingEvent), view,
                                   {260, 32}, "calendar-compact");
   ASSERT_FALSE(compact.isNull());
   const QImage panel =
-      viewShot(QUrl("qrc:/Tindra/qml/CalendarPanel.qml"), view, {240, 156}, "calendar-panel");
+      viewShot(QUrl("qrc:/Tindra/calendar/CalendarPanel.qml"), view, {240, 156}, "calendar-panel");
   ASSERT_FALSE(panel.isNull());
   // The Join button's blue is there.
   int blue = 0;
@@ -200,7 +199,7 @@ TEST_F(CalendarProviderTest, ViewsDrawTheMeetingItsJoinButtonAndTheAgenda) {
   }
   EXPECT_GT(blue, 100);
   advanceTo(tenOClock() + 9 * 60);
-  EXPECT_FALSE(viewShot(ViewRegistry::compact(ActivityKind::upcomingEvent)->source, view, {260, 32},
+  EXPECT_FALSE(viewShot(compactView<CalendarProvider>(ActivityKind::upcomingEvent), view, {260, 32},
                         "calendar-compact-started")
                    .isNull());
 }

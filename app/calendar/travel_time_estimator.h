@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QString>
 #include <functional>
+#include <memory>
 #include <optional>
 
 #include "calendar/calendar_event_info.h"
@@ -15,6 +16,10 @@ namespace tindra {
 
 class TravelTimeEstimator {
  public:
+  // This platform's routing service, or the do-nothing estimator where it has none (made in
+  // the platform's folder).
+  static std::unique_ptr<TravelTimeEstimator> forPlatform();
+
   // Seconds of travel, or none when no route is found.
   using Answer = std::function<void(std::optional<double> seconds)>;
 

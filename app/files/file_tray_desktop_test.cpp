@@ -104,8 +104,10 @@ TEST(FileTrayDesktopTest, FilesComeInByDragAndGoOutTheSameWay) {
            "0.5",
            "mouseup",
            "1"});
-  ASSERT_TRUE(QTest::qWaitFor([&] { return app.fileTray().tray().items().size() == 1; }, 10000));
-  EXPECT_EQ(app.fileTray().tray().items()[0].path, dropped.fileName().toStdString());
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] { return app.providers().get<FileTrayProvider>().tray().items().size() == 1; }, 10000));
+  EXPECT_EQ(app.providers().get<FileTrayProvider>().tray().items()[0].path,
+            dropped.fileName().toStdString());
 
   // And out again, from the opened notch to another application.
   DropTarget receiver;

@@ -1,4 +1,6 @@
 #include "files/file_tray_provider.h"
+#include <QDesktopServices>
+#include "base/wall_clock.h"
 
 #include <QFileInfo>
 #include <QMimeDatabase>
@@ -56,7 +58,7 @@ void tell(QStringList& status, const QString& before, const QStringList& names,
 FileTrayProvider::FileTrayProvider(ProviderContext context, std::filesystem::path dataFolder,
                                    std::function<double()> now,
                                    std::function<bool(const QUrl&)> openUrl, QObject* parent)
-    : Provider(context, parent),
+    : Provider(context, id, parent),
       storage_(std::move(dataFolder)),
       now_(std::move(now)),
       openUrl_(std::move(openUrl)),
@@ -334,6 +336,19 @@ void FileTrayProvider::publishProgress() {
                                             : 0.0;
   const int count = static_cast<int>(copy_->requests.size());
   viewModel_.setProgress(true, done, tr("Copying %n item(s) into the tray…", nullptr, count));
+}
+
+std::unique_ptr<FileTrayProvider> FileTrayProvider::make(ProviderContext& context) {
+  return std::make_unique<FileTrayProvider>(
+      context, defaultDataFolder(), secondsSince1970,
+      [](const QUrl& file) { return QDesktopServices::openUrl(file); });
+}
+
+ProviderViews FileTrayProvider::views() {
+  return {.sections = {{.name = QStringLiteral("fileTray"),
+                        .title = QT_TRANSLATE_NOOP("PinnedSectionsEditor", "File Tray"),
+                        .rank = 50,
+                        .file = QStringLiteral("files/FileTrayPanel.qml")}}};
 }
 
 }  // namespace tindra

@@ -18,6 +18,7 @@
 #include <memory>
 
 #include "base/provider.h"
+#include "base/provider_views.h"
 #include "files/file_tray.h"
 #include "files/file_tray_copier.h"
 #include "files/file_tray_storage.h"
@@ -30,6 +31,11 @@ class FileTrayProvider final : public Provider {
   Q_OBJECT
 
  public:
+  static constexpr std::string_view id = "files";
+  // With the backends this platform gives it (the fake ones when TINDRA_FAKE names "files").
+  static std::unique_ptr<FileTrayProvider> make(ProviderContext& context);
+  static ProviderViews views();
+
   // `now` gives seconds since 1970; `openUrl` opens a file with the desktop's handler.
   FileTrayProvider(ProviderContext context, std::filesystem::path dataFolder,
                    std::function<double()> now, std::function<bool(const QUrl&)> openUrl,
@@ -39,7 +45,6 @@ class FileTrayProvider final : public Provider {
   // Tindra's data folder: "$XDG_DATA_HOME/tindra".
   static std::filesystem::path defaultDataFolder();
 
-  QString name() const override { return QStringLiteral("files"); }
   void start() override;
   FileTrayViewModel* viewModel() override { return &viewModel_; }
 

@@ -185,7 +185,7 @@ TEST_F(FileTrayProviderTest, TheSectionShowsItsItems) {
   QFile::remove(files_.filePath("notes.txt"));
   ASSERT_TRUE(waitFor([&] { return item(*tray, 2)["missing"].toBool(); }));
   ASSERT_TRUE(tray->drop({file("photo.jpg")}));
-  EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/qml/FileTrayPanel.qml"), tray->viewModel(), {240, 150},
+  EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/files/FileTrayPanel.qml"), tray->viewModel(), {240, 150},
                         "file-tray-panel")
                    .isNull());
 }

@@ -9,7 +9,7 @@ namespace tindra {
 
 FocusProvider::FocusProvider(ProviderContext context, std::shared_ptr<FocusStatusSource> status,
                              QObject* parent)
-    : Provider(context, parent), status_(std::move(status)) {
+    : Provider(context, id, parent), status_(std::move(status)) {
   connect(status_.get(), &FocusStatusSource::focusedChanged, this, &FocusProvider::update);
   connect(status_.get(), &FocusStatusSource::checkChanged, this, &FocusProvider::recordCheck);
 }
@@ -50,6 +50,15 @@ void FocusProvider::update() {
     qCInfo(lcFocus) << "Focus off";
     activities().offer(ActivityEvent::ended(ActivityKind::focus));
   }
+}
+
+std::unique_ptr<FocusProvider> FocusProvider::make(ProviderContext& context) {
+  return std::make_unique<FocusProvider>(context, FocusStatusSource::shared(*context.shared));
+}
+
+ProviderViews FocusProvider::views() {
+  return {.compact = {{ActivityKind::focus, QStringLiteral("focus/FocusCompact.qml")}},
+          .idle = {{.rank = 30, .file = QStringLiteral("focus/FocusIdleItem.qml")}}};
 }
 
 }  // namespace tindra

@@ -9,6 +9,7 @@
 #include <optional>
 
 #include "base/provider.h"
+#include "base/provider_views.h"
 #include "focus/focus_presentation.h"
 #include "focus/focus_status_source.h"
 #include "focus/focus_view_model.h"
@@ -20,11 +21,15 @@ class FocusProvider final : public Provider {
   Q_OBJECT
 
  public:
+  static constexpr std::string_view id = "focus";
+  // With the backends this platform gives it (the fake ones when TINDRA_FAKE names "focus").
+  static std::unique_ptr<FocusProvider> make(ProviderContext& context);
+  static ProviderViews views();
+
   // `status` may be shared with the banner provider, which keeps quiet while a Focus is on.
   FocusProvider(ProviderContext context, std::shared_ptr<FocusStatusSource> status,
                 QObject* parent = nullptr);
 
-  QString name() const override { return QStringLiteral("focus"); }
   void start() override;
   FocusViewModel* viewModel() override { return &viewModel_; }
 

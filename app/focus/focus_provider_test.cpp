@@ -10,7 +10,6 @@
 #include "settings/settings_store.h"
 #include "shell/focus_command.h"
 #include "testing/view_shot.h"
-#include "views/view_registry.h"
 
 namespace tindra {
 namespace {
@@ -88,7 +87,7 @@ TEST_F(FocusProviderTest, TheCommandRefusesWhatItCannotWrite) {
 TEST_F(FocusProviderTest, TheNoticeShowsTheSymbolAndName) {
   provider_->start();
   ASSERT_EQ(focusCommand({"on", "--name", "Deep Work", "--symbol", "book"}), 0);
-  const QImage shot = viewShot(ViewRegistry::compact(ActivityKind::focus)->source,
+  const QImage shot = viewShot(compactView<FocusProvider>(ActivityKind::focus),
                                provider_->viewModel(), {260, 32}, "focus-notice");
   ASSERT_FALSE(shot.isNull());
   // The symbol is drawn in the Focus colour on the left ear.
@@ -97,7 +96,7 @@ TEST_F(FocusProviderTest, TheNoticeShowsTheSymbolAndName) {
     for (int y = 0; y < shot.height(); ++y) symbolDrawn |= qBlue(shot.pixel(x, y)) > 200;
   }
   EXPECT_TRUE(symbolDrawn);
-  EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/qml/FocusIdleItem.qml"), provider_->viewModel(),
+  EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/focus/FocusIdleItem.qml"), provider_->viewModel(),
                         {140, 20}, "focus-indicator")
                    .isNull());
 }

@@ -7,6 +7,7 @@
 #include <optional>
 
 #include "base/backend.h"
+#include "base/shared_backends.h"
 #include "hud/brightness_access.h"
 
 namespace tindra {
@@ -25,6 +26,11 @@ class BacklightBackend : public Backend {
  public:
   using Backend::Backend;
   class Null;
+
+  // This platform's backends of the display's backlight and of the keyboard's: the real ones, or
+  // do-nothing ones where there can be no such light (made in the platform's folder).
+  static std::unique_ptr<BacklightBackend> displayForPlatform(SharedBackends& shared);
+  static std::unique_ptr<BacklightBackend> keyboardForPlatform(SharedBackends& shared);
 
   // Asks for `level`; writeFinished reports what the light read afterwards.
   virtual void setLevel(double level) = 0;

@@ -3,6 +3,8 @@
 // another output, such as the invented accessories' earbuds.
 #pragma once
 
+#include <functional>
+
 #include "levels/volume_backend.h"
 
 namespace tindra {
@@ -17,39 +19,19 @@ class FakeVolumeBackend final : public VolumeBackend {
   }
 
   // Shared by the level indicator and the accessories: a second start keeps the level.
-  void start() override {
-    if (!reading()) {
-      publish(VolumeReading{"invented-output", 0.6, false, AudioTransport::builtIn, true, true});
-    }
-  }
-  void setLevel(double level) override {
-    change([level](VolumeReading& r) { r.level = level; });
-  }
-  void setMuted(bool muted) override {
-    change([muted](VolumeReading& r) { r.muted = muted; });
-  }
+  void start() override;
+  void setLevel(double level) override;
+  void setMuted(bool muted) override;
   void playFeedback() override { ++feedbackPlayed; }
 
   int feedbackPlayed = 0;
 
   using VolumeBackend::publish;
   // The default output becomes `output`, a Bluetooth device when `bluetoothAddress` is given.
-  void routeTo(const QString& output, std::optional<std::string> bluetoothAddress) {
-    change([&](VolumeReading& r) {
-      r.output = output;
-      r.transport = bluetoothAddress ? AudioTransport::bluetooth : AudioTransport::builtIn;
-      r.bluetoothAddress = std::move(bluetoothAddress);
-    });
-  }
+  void routeTo(const QString& output, std::optional<std::string> bluetoothAddress);
 
  private:
-  template <class Edit>
-  void change(Edit edit) {
-    if (!reading()) return;
-    VolumeReading next = *reading();
-    edit(next);
-    publish(next);
-  }
+  void change(const std::function<void(VolumeReading&)>& edit);
 };
 
 }  // namespace tindra

@@ -1,4 +1,6 @@
 #include "levels/hud_provider.h"
+#include "base/backend_selection.h"
+#include "levels/fake_backlight_backend.h"
 
 #include <QStringList>
 #include <array>
@@ -41,7 +43,7 @@ bool contains(const std::vector<KeyGrab>& grabs, Key key) {
 }  // namespace
 
 HudProvider::HudProvider(ProviderContext context, HudBackends backends, QObject* parent)
-    : Provider(context, parent),
+    : Provider(context, id, parent),
       volumeBackend_(std::move(backends.volume)),
       keys_(std::move(backends.keys)),
       display_{HUDKind::brightness, std::move(backends.display), {}, {}},
@@ -312,6 +314,35 @@ void HudProvider::recordKeys() {
   diagnostics().record(lcMediaKeys(), QStringLiteral("keys"),
                        degraded ? DiagnosticsLog::Outcome::degraded : DiagnosticsLog::Outcome::ok,
                        text);
+}
+
+std::unique_ptr<HudProvider> HudProvider::make(ProviderContext& context) {
+  SharedBackends& shared = *context.shared;
+  HudBackends backends{
+      VolumeBackend::shared(shared),
+      chooseBackend(
+          id, shared,
+          [] {
+            return std::make_unique<FakeBacklightBackend>(QStringLiteral("invented-panel"), 0.7);
+          },
+          [&] { return BacklightBackend::displayForPlatform(shared); }),
+      chooseBackend(
+          id, shared,
+          [] {
+            return std::make_unique<FakeBacklightBackend>(QStringLiteral("invented-keyboard"), 0.4);
+          },
+          [&] { return BacklightBackend::keyboardForPlatform(shared); }),
+      MediaKeySource::forPlatform(shared)};
+  return std::make_unique<HudProvider>(context, std::move(backends));
+}
+
+// The level indicator is a section only while it lasts, before every other.
+ProviderViews HudProvider::views() {
+  return {.compact = {{ActivityKind::hud, QStringLiteral("levels/HudCompact.qml")}},
+          .sections = {{.name = QStringLiteral("hud"),
+                        .rank = 0,
+                        .file = QStringLiteral("levels/HudPanel.qml"),
+                        .transient = true}}};
 }
 
 }  // namespace tindra

@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "base/provider.h"
+#include "base/provider_views.h"
 #include "hud/keyboard_backlight_write_monitor.h"
 #include "hud/media_key_action.h"
 #include "hud/media_key_context.h"
@@ -35,9 +36,13 @@ class HudProvider final : public Provider {
   Q_OBJECT
 
  public:
+  static constexpr std::string_view id = "hud";
+  // With the backends this platform gives it (the fake ones when TINDRA_FAKE names "hud").
+  static std::unique_ptr<HudProvider> make(ProviderContext& context);
+  static ProviderViews views();
+
   HudProvider(ProviderContext context, HudBackends backends, QObject* parent = nullptr);
 
-  QString name() const override { return QStringLiteral("hud"); }
   void start() override;
   HudViewModel* viewModel() override { return &viewModel_; }
 

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "base/backend.h"
+#include "base/shared_backends.h"
 #include "hud/key_modifiers.h"
 #include "hud/system_defined_key_event.h"
 
@@ -34,6 +35,11 @@ class MediaKeySource : public Backend {
  public:
   using Backend::Backend;
   class Null;
+
+  // This platform's keys: the real source, or the do-nothing one where no program may take them
+  // (made in the platform's folder). Never fake: with TINDRA_FAKE=hud the real keys step the
+  // invented levels.
+  static std::unique_ptr<MediaKeySource> forPlatform(SharedBackends& shared);
 
   // Holds exactly `wanted` from now on, releasing the rest.
   virtual void setWanted(const std::vector<KeyGrab>& wanted) = 0;

@@ -8,6 +8,7 @@
 #include <string>
 
 #include "base/backend.h"
+#include "base/shared_backends.h"
 #include "hud/audio_transport.h"
 
 namespace tindra {
@@ -32,6 +33,13 @@ class VolumeBackend : public Backend {
  public:
   using Backend::Backend;
   class Null;
+
+  // This platform's volume backend: the real one, or the do-nothing one where there can be no
+  // sound server (made in the platform's folder).
+  static std::unique_ptr<VolumeBackend> forPlatform(SharedBackends& shared);
+  // The one output volume every provider follows: the invented one when TINDRA_FAKE names
+  // "hud", else this platform's.
+  static std::shared_ptr<VolumeBackend> shared(SharedBackends& shared);
 
   // None while there is no sound server or no output.
   const std::optional<VolumeReading>& reading() const { return reading_; }

@@ -1,4 +1,8 @@
 #include "lockscreen/lock_screen_provider.h"
+#include <QSysInfo>
+#include "base/backend_selection.h"
+#include "base/wall_clock.h"
+#include "lockscreen/fake_lock_state_source.h"
 
 #include "base/diagnostics_log.h"
 #include "base/logging_categories.h"
@@ -12,11 +16,10 @@ LockScreenProvider::LockScreenProvider(ProviderContext context,
                                        std::unique_ptr<LockStateSource> source,
                                        LockSessionGuard guard, std::function<double()> now,
                                        QObject* parent)
-    : Provider(context, parent),
+    : Provider(context, id, parent),
       source_(std::move(source)),
       guard_(std::move(guard)),
       now_(std::move(now)) {
-  source_->setParent(nullptr);  // owned here, not by the Qt tree
   connect(source_.get(), &LockStateSource::changed, this, &LockScreenProvider::onChanged);
   connect(source_.get(), &LockStateSource::checkChanged, this, &LockScreenProvider::recordCheck);
 }
@@ -48,13 +51,29 @@ void LockScreenProvider::judgeLastLaunch() {
 }
 
 void LockScreenProvider::onChanged(LockScreenPresence::Event event) {
-  const bool wasLocked = locked();
   for (const LockScreenPresence::Action action : presence_.handle(event)) {
     if (action == LockScreenPresence::Action::beginSession) guard_.begin(now_());
     if (action == LockScreenPresence::Action::endSession) guard_.end();
   }
   qCInfo(lcLockScreen).noquote() << "screen" << toQString(tindra::name(event));
-  if (locked() != wasLocked) emit lockedChanged(locked());
+  viewModel_.setLocked(presence_.isLocked || presence_.isScreensaverRunning);
+}
+
+std::unique_ptr<LockScreenProvider> LockScreenProvider::make(ProviderContext& context) {
+  SharedBackends& shared = *context.shared;
+  return std::make_unique<LockScreenProvider>(
+      context,
+      chooseBackend(
+          id, shared, [] { return std::make_unique<FakeLockStateSource>(); },
+          [&] { return LockStateSource::forPlatform(shared); }),
+      LockSessionGuard(context.settings.file().parent_path(), LockSessionGuard::readBootID(),
+                       QSysInfo::prettyProductName().toStdString()),
+      secondsSince1970);
+}
+
+// Nothing is drawn while the screen is locked: the notch steps aside.
+ProviderViews LockScreenProvider::views() {
+  return {};
 }
 
 }  // namespace tindra

@@ -9,7 +9,9 @@
 #include <memory>
 
 #include "base/provider.h"
+#include "base/provider_views.h"
 #include "lockscreen/lock_screen_presence.h"
+#include "lockscreen/lock_screen_view_model.h"
 #include "lockscreen/lock_session_guard.h"
 #include "lockscreen/lock_state_source.h"
 
@@ -17,23 +19,23 @@ namespace tindra {
 
 class LockScreenProvider final : public Provider {
   Q_OBJECT
-  Q_PROPERTY(bool locked READ locked NOTIFY lockedChanged)
 
  public:
+  static constexpr std::string_view id = "lockscreen";
+  // With the backends this platform gives it (the fake ones when TINDRA_FAKE names "lockscreen").
+  static std::unique_ptr<LockScreenProvider> make(ProviderContext& context);
+  static ProviderViews views();
+
   // `now` gives seconds since 1970.
   LockScreenProvider(ProviderContext context, std::unique_ptr<LockStateSource> source,
                      LockSessionGuard guard, std::function<double()> now,
                      QObject* parent = nullptr);
 
-  QString name() const override { return QStringLiteral("lockscreen"); }
   void start() override;
-  QObject* viewModel() override { return this; }
+  LockScreenViewModel* viewModel() override { return &viewModel_; }
 
-  bool locked() const { return presence_.isLocked || presence_.isScreensaverRunning; }
+  bool locked() const { return viewModel_.locked(); }
   const LockScreenPresence& presence() const { return presence_; }
-
- signals:
-  void lockedChanged(bool locked);
 
  private:
   void recordCheck();
@@ -44,6 +46,7 @@ class LockScreenProvider final : public Provider {
   LockSessionGuard guard_;
   std::function<double()> now_;
   LockScreenPresence presence_;
+  LockScreenViewModel viewModel_;
 };
 
 }  // namespace tindra

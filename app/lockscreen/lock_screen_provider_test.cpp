@@ -44,7 +44,7 @@ class LockScreenProviderTest : public ::testing::Test {
 TEST_F(LockScreenProviderTest, EachLockedStretchIsAGuardedSessionAndTheNotchStepsAside) {
   launch("boot-1");
   ASSERT_EQ(record(), LockSessionRecord::fresh());
-  QSignalSpy locked(provider_.get(), &LockScreenProvider::lockedChanged);
+  QSignalSpy locked(provider_->viewModel(), &LockScreenViewModel::lockedChanged);
 
   source_->send(Event::locked);
   ASSERT_TRUE(record() && record()->openSession);

@@ -1,4 +1,10 @@
 #include "media/now_playing_provider.h"
+#include "base/backend_selection.h"
+#include "media/adapter_now_playing_source.h"
+#include "media/fake_now_playing_source.h"
+#include "media/network_artwork_fetcher.h"
+#include "media/offline_artwork_fetcher.h"
+#include "media/platform_adapter_launch.h"
 
 #include <QDateTime>
 
@@ -25,7 +31,7 @@ NowPlayingProvider::NowPlayingProvider(ProviderContext context, SourceFactory ma
                                        std::unique_ptr<AdapterProbe> probe,
                                        std::unique_ptr<ArtworkFetcher> fetcher,
                                        std::unique_ptr<ProcessTapSession> tap, QObject* parent)
-    : Provider(context, parent),
+    : Provider(context, id, parent),
       makeSource_(std::move(makeSource)),
       probe_(std::move(probe)),
       fetcher_(std::move(fetcher)),
@@ -139,6 +145,34 @@ void NowPlayingProvider::send(const NowPlayingCommand& command) {
     return;
   }
   source_->send(command);
+}
+
+std::unique_ptr<NowPlayingProvider> NowPlayingProvider::make(ProviderContext& context) {
+  SharedBackends& shared = *context.shared;
+  if (fakeBackendRequested(id)) {
+    // Nothing to test and nothing to download: covers and bars are invented too.
+    return std::make_unique<NowPlayingProvider>(
+        context,
+        [&shared] {
+          auto fake = std::make_unique<FakeNowPlayingSource>();
+          shared.remember(*fake);
+          return fake;
+        },
+        nullptr, std::make_unique<OfflineArtworkFetcher>());
+  }
+  const AdapterLaunch launch = platformAdapterLaunch();
+  return std::make_unique<NowPlayingProvider>(
+      context, [launch] { return std::make_unique<AdapterNowPlayingSource>(launch); },
+      std::make_unique<AdapterProbe>(launch), std::make_unique<NetworkArtworkFetcher>(),
+      ProcessTapSession::forPlatform(shared));
+}
+
+ProviderViews NowPlayingProvider::views() {
+  return {.compact = {{ActivityKind::nowPlaying, QStringLiteral("media/MediaCompact.qml")}},
+          .sections = {{.name = QStringLiteral("media"),
+                        .title = QT_TRANSLATE_NOOP("PinnedSectionsEditor", "Now Playing"),
+                        .rank = 20,
+                        .file = QStringLiteral("media/MediaPanel.qml")}}};
 }
 
 }  // namespace tindra

@@ -10,6 +10,7 @@
 
 #include "activity/swipe_recognizer.h"
 #include "base/provider.h"
+#include "base/provider_views.h"
 #include "media/adapter_probe.h"
 #include "media/artwork_fetcher.h"
 #include "media/artwork_service.h"
@@ -26,6 +27,11 @@ class NowPlayingProvider final : public Provider {
   Q_OBJECT
 
  public:
+  static constexpr std::string_view id = "media";
+  // With the backends this platform gives it (the fake ones when TINDRA_FAKE names "media").
+  static std::unique_ptr<NowPlayingProvider> make(ProviderContext& context);
+  static ProviderViews views();
+
   using SourceFactory = std::function<std::unique_ptr<NowPlayingSource>()>;
 
   // Without a probe (the fake source) the source starts at once. Covers are downloaded and
@@ -35,11 +41,12 @@ class NowPlayingProvider final : public Provider {
                      std::unique_ptr<ProcessTapSession> tap = nullptr, QObject* parent = nullptr);
   ~NowPlayingProvider() override;
 
-  QString name() const override { return QStringLiteral("media"); }
   void start() override;
   NowPlayingViewModel* viewModel() override { return &viewModel_; }
 
   bool hasSource() const { return source_ != nullptr; }
+  // The adapter it tests and runs, for the check on request; none for the invented source.
+  const AdapterLaunch* adapter() const { return probe_ ? &probe_->launch() : nullptr; }
 
   // A sideways swipe on the notch skips tracks when the user wants it: moving the track away to
   // the left brings the next one, to the right the previous one.

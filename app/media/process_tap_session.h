@@ -7,10 +7,13 @@
 #include <QString>
 #include <cstdint>
 #include <functional>
+#include <memory>
 #include <optional>
 #include <span>
 
 namespace tindra {
+
+class SharedBackends;
 
 // Whose audio to capture: the player's process where known, and its bundle identifier (the
 // desktop entry on Linux: "mpv", "firefox").
@@ -28,6 +31,9 @@ class ProcessTapSession : public QObject {
  public:
   // Capture thread: interleaved 32-bit float frames of `channels` channels. Copy and return.
   using Samples = std::function<void(std::span<const float> interleaved, int channels)>;
+
+  // This platform's capture; none where nothing can be captured (the bars are then pseudo ones).
+  static std::unique_ptr<ProcessTapSession> forPlatform(SharedBackends& shared);
 
   using QObject::QObject;
 

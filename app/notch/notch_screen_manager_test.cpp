@@ -78,7 +78,7 @@ class NotchScreenManagerTest : public ::testing::Test {
   SettingsStore store_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
   ActivityCenter activities_{store_};
   FakeScreenSource source_;
-  ViewRegistry views_;
+  ViewRegistry views_{ViewRegistry::Declared{}};
   NotchContent content_{activities_, store_, views_};
   NotchScreenManager manager_{source_, store_, activities_, content_,
                               [](NotchWindow& window) { window.setAnimated(false); }};

@@ -47,7 +47,7 @@ TEST_F(NotchSwipeDesktopTest, SwipesOpenAndCloseTheNotchAndSkipTracks) {
   ASSERT_TRUE(app.settings().write(settings::notchOpeningMode, NotchOpeningMode::click));
   NotchWindow& notch = *app.notches().windows().front();
   const QPoint centre = notch.geometry().topLeft() + notch.notchRect().center().toPoint();
-  const auto* media = app.nowPlaying()->viewModel();
+  const auto* media = app.providers().get<NowPlayingProvider>().viewModel();
   const auto playing = [&](const QString& track) {
     return QTest::qWaitFor([&] { return media->title().startsWith(track); }, 5000);
   };

@@ -3,9 +3,11 @@
 // AccessoryBackend::Null is the do-nothing backend of a session without Bluetooth to ask.
 #pragma once
 
+#include <memory>
 #include <vector>
 
 #include "base/backend.h"
+#include "base/shared_backends.h"
 #include "power/bluetooth_accessory.h"
 
 namespace tindra {
@@ -16,6 +18,10 @@ class AccessoryBackend : public Backend {
  public:
   using Backend::Backend;
   using Null = NullBackend<AccessoryBackend>;
+
+  // This platform's accessory backend: the real one, or the do-nothing one where the service
+  // cannot be there (made in the platform's folder).
+  static std::unique_ptr<AccessoryBackend> forPlatform(SharedBackends& shared);
 
   const std::vector<BluetoothAccessory>& connected() const { return connected_; }
   // Whether the first full reading is in (or it is known there is none), so that the devices

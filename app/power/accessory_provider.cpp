@@ -1,4 +1,6 @@
 #include "power/accessory_provider.h"
+#include "base/backend_selection.h"
+#include "power/fake_accessory_backend.h"
 
 #include "base/activity_center.h"
 #include "base/diagnostics_log.h"
@@ -12,7 +14,7 @@ AccessoryProvider::AccessoryProvider(ProviderContext context,
                                      std::unique_ptr<AccessoryBackend> backend,
                                      std::shared_ptr<VolumeBackend> output,
                                      std::shared_ptr<SoundPlayer> sounds, QObject* parent)
-    : Provider(context, parent),
+    : Provider(context, id, parent),
       backend_(std::move(backend)),
       output_(std::move(output)),
       sounds_(std::move(sounds)) {
@@ -97,6 +99,25 @@ void AccessoryProvider::show(const AccessoryNotice& notice) {
   } else if (notice.kind == AccessoryNotice::Kind::low) {
     sounds_->play(QStringLiteral("tindra-low-battery"));
   }
+}
+
+std::unique_ptr<AccessoryProvider> AccessoryProvider::make(ProviderContext& context) {
+  SharedBackends& shared = *context.shared;
+  return std::make_unique<AccessoryProvider>(
+      context,
+      chooseBackend(
+          id, shared, [] { return std::make_unique<FakeAccessoryBackend>(); },
+          [&] { return AccessoryBackend::forPlatform(shared); }),
+      VolumeBackend::shared(shared), SoundPlayer::shared(shared));
+}
+
+// The accessories stand beside the battery in the "batteries" section.
+ProviderViews AccessoryProvider::views() {
+  return {.compact = {{ActivityKind::accessory, QStringLiteral("power/AccessoryCompact.qml")}},
+          .sections = {{.name = QStringLiteral("batteries"),
+                        .title = QT_TRANSLATE_NOOP("PinnedSectionsEditor", "Batteries"),
+                        .rank = 60,
+                        .file = QStringLiteral("power/AccessoriesPanel.qml")}}};
 }
 
 }  // namespace tindra

@@ -13,6 +13,7 @@
 #include <memory>
 
 #include "base/provider.h"
+#include "base/provider_views.h"
 #include "base/sound_player.h"
 #include "levels/volume_backend.h"
 #include "power/accessory_backend.h"
@@ -27,18 +28,21 @@ class AccessoryProvider final : public Provider {
   Q_OBJECT
 
  public:
+  static constexpr std::string_view id = "accessories";
+  // With the backends this platform gives it (the fake ones when TINDRA_FAKE names "accessories").
+  static std::unique_ptr<AccessoryProvider> make(ProviderContext& context);
+  static ProviderViews views();
+
   // `output` is the default audio output, shared with the level indicator; without one there are
   // no route notices. `sounds` may be null.
   AccessoryProvider(ProviderContext context, std::unique_ptr<AccessoryBackend> backend,
                     std::shared_ptr<VolumeBackend> output = nullptr,
                     std::shared_ptr<SoundPlayer> sounds = nullptr, QObject* parent = nullptr);
 
-  QString name() const override { return QStringLiteral("accessories"); }
   void start() override;
   AccessoryViewModel* viewModel() override { return &viewModel_; }
-  // For the demo, which moves the invented sound and connects invented devices.
-  VolumeBackend* output() const { return output_.get(); }
-  AccessoryBackend& backend() const { return *backend_; }
+  // What it follows; tests wait for its first full reading.
+  const AccessoryBackend& backend() const { return *backend_; }
 
  private:
   void onChanged();

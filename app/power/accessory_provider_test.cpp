@@ -136,8 +136,8 @@ int redOnTheRight(const QImage& picture) {
 // Each notice on the ears and the section, in both styles, to be looked at; low parts in red.
 TEST_F(AccessoryProviderTest, NoticesAndTheSectionAreDrawn) {
   AccessoryViewModel& view = *provider_->viewModel();
-  const QUrl compact("qrc:/Tindra/qml/AccessoryCompact.qml");
-  const QUrl panel("qrc:/Tindra/qml/AccessoriesPanel.qml");
+  const QUrl compact("qrc:/Tindra/power/AccessoryCompact.qml");
+  const QUrl panel("qrc:/Tindra/power/AccessoriesPanel.qml");
   const BluetoothAccessory buds = FakeAccessoryBackend::inventedBuds();
   view.setAccessories({buds, headphones(64)});
   view.setNotice({AccessoryNotice::Kind::connected, buds, std::nullopt});

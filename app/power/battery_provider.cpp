@@ -1,4 +1,6 @@
 #include "power/battery_provider.h"
+#include "base/backend_selection.h"
+#include "power/fake_battery_backend.h"
 
 #include "base/activity_center.h"
 #include "base/diagnostics_log.h"
@@ -21,8 +23,7 @@ std::optional<bool> storedBool(const SettingsStore& settings, std::string_view n
 
 BatteryProvider::BatteryProvider(ProviderContext context, std::unique_ptr<BatteryBackend> backend,
                                  std::shared_ptr<SoundPlayer> sounds, QObject* parent)
-    : Provider(context, parent), backend_(std::move(backend)), sounds_(std::move(sounds)) {
-  backend_->setParent(nullptr);  // owned here, not by the Qt tree
+    : Provider(context, id, parent), backend_(std::move(backend)), sounds_(std::move(sounds)) {
   connect(backend_.get(), &BatteryBackend::readingChanged, this, &BatteryProvider::onReading);
   connect(backend_.get(), &BatteryBackend::checkChanged, this, &BatteryProvider::recordCheck);
 }
@@ -76,6 +77,25 @@ void BatteryProvider::onReading() {
   if (notice->kind == BatteryNotice::Kind::pluggedIn)
     sounds_->play(QStringLiteral("tindra-charging"));
   if (notice->kind == BatteryNotice::Kind::low) sounds_->play(QStringLiteral("tindra-low-battery"));
+}
+
+std::unique_ptr<BatteryProvider> BatteryProvider::make(ProviderContext& context) {
+  SharedBackends& shared = *context.shared;
+  return std::make_unique<BatteryProvider>(
+      context,
+      chooseBackend(
+          id, shared, [] { return std::make_unique<FakeBatteryBackend>(); },
+          [&] { return BatteryBackend::forPlatform(shared); }),
+      SoundPlayer::shared(shared));
+}
+
+ProviderViews BatteryProvider::views() {
+  return {.compact = {{ActivityKind::batteryAlert, QStringLiteral("power/BatteryCompact.qml")}},
+          .sections = {{.name = QStringLiteral("batteries"),
+                        .title = QT_TRANSLATE_NOOP("PinnedSectionsEditor", "Batteries"),
+                        .rank = 60,
+                        .file = QStringLiteral("power/BatteriesPanel.qml")}},
+          .idle = {{.rank = 10, .file = QStringLiteral("power/BatteryIdleItem.qml")}}};
 }
 
 }  // namespace tindra

@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "base/provider.h"
+#include "base/provider_views.h"
 #include "base/sound_player.h"
 #include "power/battery_backend.h"
 #include "power/battery_notice_tracker.h"
@@ -19,11 +20,15 @@ class BatteryProvider final : public Provider {
   Q_OBJECT
 
  public:
+  static constexpr std::string_view id = "battery";
+  // With the backends this platform gives it (the fake ones when TINDRA_FAKE names "battery").
+  static std::unique_ptr<BatteryProvider> make(ProviderContext& context);
+  static ProviderViews views();
+
   // `sounds` may be null (no sound server on this platform).
   BatteryProvider(ProviderContext context, std::unique_ptr<BatteryBackend> backend,
                   std::shared_ptr<SoundPlayer> sounds = nullptr, QObject* parent = nullptr);
 
-  QString name() const override { return QStringLiteral("battery"); }
   void start() override;
   BatteryViewModel* viewModel() override { return &viewModel_; }
 

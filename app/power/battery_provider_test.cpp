@@ -116,7 +116,7 @@ TEST_F(BatteryProviderTest, NoticesAndTheSectionAreDrawn) {
     }
     return std::pair{red, green};
   };
-  const QUrl compact("qrc:/Tindra/qml/BatteryCompact.qml");
+  const QUrl compact("qrc:/Tindra/power/BatteryCompact.qml");
   view.setReading(charging(64));
   view.setNotice(BatteryNotice::pluggedIn(charging(64)));
   EXPECT_GT(redAndGreen(viewShot(compact, &view, {260, 32}, "battery-plugged-in")).second, 20);
@@ -126,7 +126,7 @@ TEST_F(BatteryProviderTest, NoticesAndTheSectionAreDrawn) {
   EXPECT_GT(redAndGreen(viewShot(compact, &view, {260, 32}, "battery-low")).first, 20);
   view.setReading(BatteryStatus(19, false, false, false, 47, std::nullopt, true));
   EXPECT_FALSE(
-      viewShot(QUrl("qrc:/Tindra/qml/BatteriesPanel.qml"), &view, {140, 150}, "batteries-panel")
+      viewShot(QUrl("qrc:/Tindra/power/BatteriesPanel.qml"), &view, {140, 150}, "batteries-panel")
           .isNull());
 }
 

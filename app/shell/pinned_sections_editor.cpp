@@ -6,21 +6,8 @@
 
 namespace tindra {
 
-namespace {
-
-// A section as the list names it.
-QString title(const QString& name) {
-  if (name == QLatin1String("media")) return PinnedSectionsEditor::tr("Now Playing");
-  if (name == QLatin1String("calendar")) return PinnedSectionsEditor::tr("Calendar");
-  if (name == QLatin1String("weather")) return PinnedSectionsEditor::tr("Weather");
-  if (name == QLatin1String("fileTray")) return PinnedSectionsEditor::tr("File Tray");
-  if (name == QLatin1String("batteries")) return PinnedSectionsEditor::tr("Batteries");
-  return name;
-}
-
-}  // namespace
-
-PinnedSectionsEditor::PinnedSectionsEditor(QWidget* parent) : QListWidget(parent) {
+PinnedSectionsEditor::PinnedSectionsEditor(const ViewRegistry& views, QWidget* parent)
+    : QListWidget(parent), views_(views) {
   setDragDropMode(QAbstractItemView::InternalMove);
   setToolTip(tr("Tick the sections to pin and drag them into order"));
   connect(this, &QListWidget::itemChanged, this, &PinnedSectionsEditor::edited);
@@ -33,13 +20,15 @@ void PinnedSectionsEditor::setPinned(const std::vector<std::string>& pinned) {
   if (count() > 0 && pinned == this->pinned()) return;
   const QSignalBlocker quiet(this);
   clear();
-  QStringList order = ViewRegistry::pinned(pinned);
+  QStringList order = views_.pinned(pinned);
   const qsizetype ticked = order.size();
-  for (const QString& name : ViewRegistry::pinnable()) {
-    if (!order.contains(name)) order << name;
+  QHash<QString, QString> titles;
+  for (const ViewRegistry::Section* section : views_.pinnable()) {
+    if (!order.contains(section->name)) order << section->name;
+    titles[section->name] = tr(section->title);
   }
   for (qsizetype i = 0; i < order.size(); ++i) {
-    auto* item = new QListWidgetItem(title(order[i]), this);
+    auto* item = new QListWidgetItem(titles.value(order[i]), this);
     item->setData(Qt::UserRole, order[i]);
     item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable | Qt::ItemIsUserCheckable |
                    Qt::ItemIsDragEnabled);

@@ -34,8 +34,8 @@ constexpr double maxExactInteger = 9007199254740992.0;
 
 }  // namespace
 
-SettingsWindow::SettingsWindow(SettingsStore& settings, QWidget* parent)
-    : QWidget(parent), settings_(settings) {
+SettingsWindow::SettingsWindow(SettingsStore& settings, const ViewRegistry& views, QWidget* parent)
+    : QWidget(parent), settings_(settings), views_(views) {
   setWindowTitle(tr("Tindra Settings"));
   resize(820, 640);
   search_.setPlaceholderText(tr("Search settings"));
@@ -236,7 +236,7 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
     }
     case Type::list:
       if (key.name == settings::pinnedWidgets.name) {
-        auto* list = new PinnedSectionsEditor;
+        auto* list = new PinnedSectionsEditor(views_);
         using Codec = SettingsCodec<std::vector<std::string>>;
         connect(list, &PinnedSectionsEditor::edited, this,
                 [this, list, name] { write(name, Codec::encode(list->pinned())); });

@@ -24,11 +24,14 @@ class QVBoxLayout;
 
 namespace tindra {
 
+class ViewRegistry;
+
 class SettingsWindow : public QWidget {
   Q_OBJECT
 
  public:
-  explicit SettingsWindow(SettingsStore& settings, QWidget* parent = nullptr);
+  // `views` names the sections that `pinnedWidgets` can pin.
+  SettingsWindow(SettingsStore& settings, const ViewRegistry& views, QWidget* parent = nullptr);
 
   // The editor of the key called `name` (for tests), or nullptr.
   QWidget* editorFor(std::string_view name) const;
@@ -79,6 +82,7 @@ class SettingsWindow : public QWidget {
   void report(const SettingsStore::WriteResult& result);
 
   SettingsStore& settings_;
+  const ViewRegistry& views_;
   SettingsObservation observation_;
   QLineEdit search_;
   QListWidget pageList_;

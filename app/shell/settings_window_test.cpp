@@ -39,6 +39,7 @@
 #include "shell/tray_item.h"
 #include "testing/view_shot.h"
 #include "tindra_app.h"
+#include "tindra_providers.h"
 
 namespace tindra {
 namespace {
@@ -48,6 +49,7 @@ class SettingsWindowTest : public ::testing::Test {
   QTemporaryDir dir_;
   std::filesystem::path file_ = dir_.filePath("settings.json").toStdString();
   SettingsStore store_{file_, [] { return 0.0; }};
+  const ViewRegistry views_{TindraProviders::views()};
 };
 
 TEST_F(SettingsWindowTest, EveryKeyIsOnExactlyOnePage) {
@@ -66,7 +68,7 @@ TEST_F(SettingsWindowTest, EveryKeyIsOnExactlyOnePage) {
 
 // Pinned sections are ticked and dragged into order; what the file says shows the same way.
 TEST_F(SettingsWindowTest, PinnedSectionsAreTickedAndOrdered) {
-  SettingsWindow window(store_);
+  SettingsWindow window(store_, views_);
   auto* list = qobject_cast<PinnedSectionsEditor*>(window.editorFor(settings::pinnedWidgets.name));
   ASSERT_NE(list, nullptr);
   ASSERT_EQ(list->count(), 5);                // the five that stay while the notch is open
@@ -103,7 +105,7 @@ QString longestWord(std::string_view description) {
 }
 
 TEST_F(SettingsWindowTest, TheSearchFindsEveryKeyByItsNameAndAWordOfItsDescriptionAndJumpsToIt) {
-  SettingsWindow window(store_);
+  SettingsWindow window(store_, views_);
   for (const settings::SettingsKeyDescription& key : settings::allKeys()) {
     window.search(toQString(key.name));
     EXPECT_TRUE(window.isListed(key.name)) << key.name;
@@ -122,7 +124,7 @@ TEST_F(SettingsWindowTest, TheSearchFindsEveryKeyByItsNameAndAWordOfItsDescripti
 }
 
 TEST_F(SettingsWindowTest, NumbersAreOfferedInTheirRange) {
-  SettingsWindow window(store_);
+  SettingsWindow window(store_, views_);
   auto* threshold = qobject_cast<QSpinBox*>(window.editorFor(settings::batteryLowThreshold.name));
   ASSERT_NE(threshold, nullptr);
   EXPECT_EQ(threshold->minimum(), 5);
@@ -140,7 +142,7 @@ TEST_F(SettingsWindowTest, NumbersAreOfferedInTheirRange) {
 }
 
 TEST_F(SettingsWindowTest, ResetPageResetsThatPageAlone) {
-  SettingsWindow window(store_);
+  SettingsWindow window(store_, views_);
   ASSERT_TRUE(store_.write(settings::playSounds, false));
   ASSERT_TRUE(store_.write(settings::hudDuration, 3.0));
   window.resetPage(settingsPageOf(settings::playSounds.name));
@@ -155,18 +157,18 @@ TEST_F(SettingsWindowTest, TheDesktopsLanguageIsUsedWhereTindraHasIt) {
                              QStringLiteral("_"), QStringLiteral(":/i18n")));
   QCoreApplication::installTranslator(&norwegian);
   DiagnosticsLog log;
-  ShellActions actions(store_, log);
+  ShellActions actions(store_, log, views_);
   EXPECT_EQ(actions.settingsAction()->text(), QStringLiteral("Innstillinger…"));
   EXPECT_EQ(actions.quitAction()->text(), QStringLiteral("Avslutt Tindra"));
   EXPECT_EQ(settingsPages().front().title, QStringLiteral("Generelt"));
-  SettingsWindow window(store_);
+  SettingsWindow window(store_, views_);
   EXPECT_EQ(window.windowTitle(), QStringLiteral("Tindra-innstillinger"));
   QCoreApplication::removeTranslator(&norwegian);
   EXPECT_EQ(settingsPages().front().title, QStringLiteral("General"));
 }
 
 TEST_F(SettingsWindowTest, KeysThatDoNotApplyHereAreNotListed) {
-  SettingsWindow window(store_);
+  SettingsWindow window(store_, views_);
   window.setHidden([](std::string_view name) { return name.starts_with("battery"); });
   EXPECT_TRUE(window.editorFor(settings::batteryLowThreshold.name)->isHidden());
   EXPECT_FALSE(window.editorFor(settings::playSounds.name)->isHidden());
@@ -175,7 +177,7 @@ TEST_F(SettingsWindowTest, KeysThatDoNotApplyHereAreNotListed) {
 }
 
 TEST_F(SettingsWindowTest, EditsGoThroughTheStoreAndOutsideChangesShow) {
-  SettingsWindow window(store_);
+  SettingsWindow window(store_, views_);
   // Opening the window writes nothing: defaults stay unstored.
   EXPECT_FALSE(std::filesystem::exists(file_));
 
@@ -217,7 +219,8 @@ TEST(SettingsWindowFailureTest, AFailedWriteIsSaidUntilAWriteSucceeds) {
   QFile(blocker).open(QIODevice::WriteOnly);
   SettingsStore store(std::filesystem::path(blocker.toStdString()) / "settings.json",
                       [] { return 0.0; });
-  SettingsWindow window(store);
+  const ViewRegistry views(TindraProviders::views());
+  SettingsWindow window(store, views);
   EXPECT_TRUE(window.problem().isEmpty());
   qobject_cast<QCheckBox*>(window.editorFor(settings::playSounds.name))->click();
   EXPECT_TRUE(window.problem().contains(QStringLiteral("not saved")))

@@ -16,9 +16,11 @@
 
 namespace tindra {
 
-ShellActions::ShellActions(SettingsStore& settings, DiagnosticsLog& diagnostics, QObject* parent)
+ShellActions::ShellActions(SettingsStore& settings, DiagnosticsLog& diagnostics,
+                           const ViewRegistry& views, QObject* parent)
     : QObject(parent),
       settings_(settings),
+      views_(views),
       diagnostics_(diagnostics),
       settingsAction_(tr("Settings…")),
       diagnosticsAction_(tr("Diagnostics…")),
@@ -87,7 +89,7 @@ void ShellActions::openDiagnostics() {
 
 void ShellActions::openSettings() {
   if (settingsWindow_ == nullptr) {
-    settingsWindow_ = new SettingsWindow(settings_);
+    settingsWindow_ = new SettingsWindow(settings_, views_);
     if (calendars_ != nullptr) {
       settingsWindow_->setExtra(settings::calendarExcludedIdentifiers.name,
                                 new CalendarListEditor(*calendars_, settings_));

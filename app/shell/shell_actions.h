@@ -15,6 +15,8 @@
 
 namespace tindra {
 
+class ViewRegistry;
+
 class DiagnosticsLog;
 class WeatherProvider;
 class SettingsStore;
@@ -23,7 +25,9 @@ class ShellActions : public QObject {
   Q_OBJECT
 
  public:
-  ShellActions(SettingsStore& settings, DiagnosticsLog& diagnostics, QObject* parent = nullptr);
+  // `views` names the sections Settings offers to pin.
+  ShellActions(SettingsStore& settings, DiagnosticsLog& diagnostics, const ViewRegistry& views,
+               QObject* parent = nullptr);
   ~ShellActions() override;
 
   // A menu with Settings…, Diagnostics…, Start at Login and Quit; the tray and the notch share it.
@@ -68,6 +72,7 @@ class ShellActions : public QObject {
   QWidget* diagnosticsPanel();
 
   SettingsStore& settings_;
+  const ViewRegistry& views_;
   DiagnosticsLog& diagnostics_;
   QAction settingsAction_;
   QAction diagnosticsAction_;

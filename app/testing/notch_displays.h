@@ -16,6 +16,7 @@
 #include "notch/notch_screen_manager.h"
 #include "notch/screen_source.h"
 #include "settings/settings_store.h"
+#include "tindra_providers.h"
 #include "views/notch_content.h"
 #include "views/view_registry.h"
 
@@ -43,7 +44,7 @@ class Displays {
   QTemporaryDir dir_;
   SettingsStore store_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
   ActivityCenter activities_{store_};
-  ViewRegistry views_;
+  ViewRegistry views_{TindraProviders::views()};
   NotchContent content_{activities_, store_, views_};
   std::unique_ptr<ScreenSource> screens_;
   std::unique_ptr<NotchScreenManager> manager_;

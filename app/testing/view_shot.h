@@ -8,6 +8,9 @@
 #include <QString>
 #include <QUrl>
 
+#include "activity/activity_kind.h"
+#include "views/view_registry.h"
+
 namespace tindra {
 
 // A null image when the view does not load.
@@ -15,5 +18,13 @@ QImage viewShot(const QUrl& source, QObject* model, QSize size, const QString& n
 
 // Saves `picture` as `name`.png in TINDRA_SCREENSHOTS when that is set.
 void keepScreenshot(const QImage& picture, const QString& name);
+
+// Where the compact view `Provider` declares for `kind` is loaded from, found as the app finds it;
+// throws (failing the test) when it declares none.
+template <class Provider>
+QUrl compactView(ActivityKind kind) {
+  const ViewRegistry views({{Provider::id, Provider::views()}});
+  return views.compact(kind).value().source;
+}
 
 }  // namespace tindra

@@ -28,24 +28,24 @@ QColor NotchContent::activityAccent() const {
 }
 
 QUrl NotchContent::compactSource() const {
-  const auto view = ViewRegistry::compact(activities_.current());
+  const auto view = views_.compact(activities_.current());
   return view && views_.model(view->provider) ? view->source : QUrl();
 }
 
 QObject* NotchContent::compactModel() const {
-  const auto view = ViewRegistry::compact(activities_.current());
+  const auto view = views_.compact(activities_.current());
   return view ? views_.model(view->provider) : nullptr;
 }
 
-QStringList NotchContent::shownSections(const std::vector<std::string>& pinned) {
+QStringList NotchContent::shownSections(const std::vector<std::string>& pinned) const {
   QStringList transient;
-  for (const ViewRegistry::Section& section : ViewRegistry::sections()) {
+  for (const ViewRegistry::Section& section : views_.sections()) {
     if (section.transient) transient << section.name;
   }
-  const QStringList shown = ViewRegistry::pinned(pinned);
+  const QStringList shown = views_.pinned(pinned);
   if (!shown.isEmpty()) return transient + shown;
   QStringList all;
-  for (const ViewRegistry::Section& section : ViewRegistry::sections()) all << section.name;
+  for (const ViewRegistry::Section& section : views_.sections()) all << section.name;
   return all;
 }
 
@@ -53,8 +53,7 @@ void NotchContent::refresh() {
   const std::vector<std::string> pinned = settings_.read(settings::pinnedWidgets);
   QVariantList sections;
   for (const QString& name : shownSections(pinned)) {
-    const auto section =
-        std::ranges::find(ViewRegistry::sections(), name, &ViewRegistry::Section::name);
+    const auto section = std::ranges::find(views_.sections(), name, &ViewRegistry::Section::name);
     // A section may be drawn by several providers' views, side by side.
     for (const ViewRegistry::View& view : section->views) {
       QObject* model = views_.model(view.provider);
@@ -68,7 +67,7 @@ void NotchContent::refresh() {
     }
   }
   QVariantList idleItems;
-  for (const ViewRegistry::View& item : ViewRegistry::idleItems()) {
+  for (const ViewRegistry::View& item : views_.idleItems()) {
     QObject* model = views_.model(item.provider);
     if (model)
       idleItems << QVariantMap{{"source", item.source}, {"model", QVariant::fromValue(model)}};

@@ -49,7 +49,7 @@ class NotchContent : public QObject {
   NotchAppearance& appearance() { return appearance_; }
 
   // The section names shown, in order, for `pinned` (unknown names are skipped).
-  static QStringList shownSections(const std::vector<std::string>& pinned);
+  QStringList shownSections(const std::vector<std::string>& pinned) const;
   // Reads the registry again, for providers that started after this was made.
   void refresh();
 

@@ -7,6 +7,7 @@
 
 #include "base/activity_center.h"
 #include "settings/settings_keys.h"
+#include "tindra_providers.h"
 
 namespace tindra {
 namespace {
@@ -22,7 +23,7 @@ class NotchContentTest : public ::testing::Test {
   QTemporaryDir dir_;
   SettingsStore store_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
   ActivityCenter activities_{store_};
-  ViewRegistry views_;
+  ViewRegistry views_{TindraProviders::views()};
   QObject media_;
   QObject battery_;
   NotchContent content_{activities_, store_, views_};
@@ -30,12 +31,12 @@ class NotchContentTest : public ::testing::Test {
 
 TEST_F(NotchContentTest, PinnedSectionsComeInTheirOrderAndUnknownNamesAreSkipped) {
   // The level indicator's and the calls' sections come first and whatever is pinned.
-  EXPECT_EQ(NotchContent::shownSections({}), (QStringList{"hud", "banners", "media", "calendar",
-                                                          "weather", "fileTray", "batteries"}));
-  EXPECT_EQ(NotchContent::shownSections({"batteries", "weather?", "media", "batteries", "hud"}),
+  EXPECT_EQ(content_.shownSections({}), (QStringList{"hud", "banners", "media", "calendar",
+                                                     "weather", "fileTray", "batteries"}));
+  EXPECT_EQ(content_.shownSections({"batteries", "weather?", "media", "batteries", "hud"}),
             (QStringList{"hud", "banners", "batteries", "media"}));
   EXPECT_EQ(
-      NotchContent::shownSections({"nonsense"}),
+      content_.shownSections({"nonsense"}),
       (QStringList{"hud", "banners", "media", "calendar", "weather", "fileTray", "batteries"}));
 
   // Only sections whose provider runs are drawn.

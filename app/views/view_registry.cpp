@@ -1,76 +1,79 @@
 #include "views/view_registry.h"
 
+#include <algorithm>
+
 namespace tindra {
 
 namespace {
 
-QUrl view(const char* file) {
-  return QUrl(QStringLiteral("qrc:/Tindra/qml/") + QLatin1String(file));
+QString text(std::string_view name) {
+  return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
 }
 
 }  // namespace
 
-const std::vector<ViewRegistry::Section>& ViewRegistry::sections() {
-  static const std::vector<Section> all{
-      {QStringLiteral("hud"), {{QStringLiteral("hud"), view("HudPanel.qml")}}, true},
-      {QStringLiteral("banners"), {{QStringLiteral("banners"), view("BannerPanel.qml")}}, true},
-      {QStringLiteral("media"), {{QStringLiteral("media"), view("MediaPanel.qml")}}},
-      {QStringLiteral("calendar"), {{QStringLiteral("calendar"), view("CalendarPanel.qml")}}},
-      {QStringLiteral("weather"), {{QStringLiteral("weather"), view("WeatherPanel.qml")}}},
-      {QStringLiteral("fileTray"), {{QStringLiteral("files"), view("FileTrayPanel.qml")}}},
-      {QStringLiteral("batteries"),
-       {{QStringLiteral("battery"), view("BatteriesPanel.qml")},
-        {QStringLiteral("accessories"), view("AccessoriesPanel.qml")}}},
+QUrl ViewRegistry::source(const QString& file) {
+  return QUrl(QStringLiteral("qrc:/Tindra/") + file);
+}
+
+ViewRegistry::ViewRegistry(const Declared& declared) {
+  // Ranked first, then in registration order: a stable sort keeps providers sharing a rank (or
+  // a section) in the order they were registered.
+  struct Ranked {
+    int rank;
+    QString provider;
+    const ProviderViews::Section* section;
   };
+  std::vector<Ranked> parts;
+  std::vector<std::pair<int, View>> idle;
+  for (const auto& [name, views] : declared) {
+    for (const ProviderViews::Section& section : views.sections) {
+      parts.push_back({section.rank, text(name), &section});
+    }
+    for (const ProviderViews::IdleItem& item : views.idle) {
+      idle.push_back({item.rank, View{text(name), source(item.file)}});
+    }
+    for (const ProviderViews::Compact& compact : views.compact) {
+      compact_.push_back({compact.kind, View{text(name), source(compact.file)}});
+    }
+  }
+  std::ranges::stable_sort(parts, {}, &Ranked::rank);
+  for (const Ranked& part : parts) {
+    auto section = std::ranges::find(sections_, part.section->name, &Section::name);
+    if (section == sections_.end()) {
+      sections_.push_back({part.section->name, part.section->title, {}, part.section->transient});
+      section = std::prev(sections_.end());
+    }
+    section->views.push_back({part.provider, source(part.section->file)});
+  }
+  std::ranges::stable_sort(idle, {}, &std::pair<int, View>::first);
+  for (auto& item : idle) idleItems_.push_back(std::move(item.second));
+}
+
+std::vector<const ViewRegistry::Section*> ViewRegistry::pinnable() const {
+  std::vector<const Section*> all;
+  for (const Section& section : sections_) {
+    if (!section.transient) all.push_back(&section);
+  }
   return all;
 }
 
-QStringList ViewRegistry::pinnable() {
-  QStringList names;
-  for (const Section& section : sections()) {
-    if (!section.transient) names << section.name;
-  }
-  return names;
-}
-
-QStringList ViewRegistry::pinned(const std::vector<std::string>& pinned) {
-  const QStringList known = pinnable();
+QStringList ViewRegistry::pinned(const std::vector<std::string>& pinned) const {
   QStringList names;
   for (const std::string& name : pinned) {
     const QString candidate = QString::fromStdString(name);
-    if (known.contains(candidate) && !names.contains(candidate)) names << candidate;
+    const auto section = std::ranges::find(sections_, candidate, &Section::name);
+    if (section != sections_.end() && !section->transient && !names.contains(candidate)) {
+      names << candidate;
+    }
   }
   return names;
 }
 
-const std::vector<ViewRegistry::View>& ViewRegistry::idleItems() {
-  static const std::vector<View> all{{QStringLiteral("battery"), view("BatteryIdleItem.qml")},
-                                     {QStringLiteral("weather"), view("WeatherIdleItem.qml")},
-                                     {QStringLiteral("focus"), view("FocusIdleItem.qml")}};
-  return all;
-}
-
-std::optional<ViewRegistry::View> ViewRegistry::compact(ActivityKind kind) {
-  switch (kind) {
-    case ActivityKind::nowPlaying:
-      return View{QStringLiteral("media"), view("MediaCompact.qml")};
-    case ActivityKind::hud:
-      return View{QStringLiteral("hud"), view("HudCompact.qml")};
-    case ActivityKind::upcomingEvent:
-      return View{QStringLiteral("calendar"), view("CalendarCompact.qml")};
-    case ActivityKind::batteryAlert:
-      return View{QStringLiteral("battery"), view("BatteryCompact.qml")};
-    case ActivityKind::accessory:
-      return View{QStringLiteral("accessories"), view("AccessoryCompact.qml")};
-    case ActivityKind::focus:
-      return View{QStringLiteral("focus"), view("FocusCompact.qml")};
-    case ActivityKind::message:
-      return View{QStringLiteral("banners"), view("MessageCompact.qml")};
-    case ActivityKind::incomingCall:
-      return View{QStringLiteral("banners"), view("CallCompact.qml")};
-    default:
-      return std::nullopt;
-  }
+std::optional<ViewRegistry::View> ViewRegistry::compact(ActivityKind kind) const {
+  const auto found = std::ranges::find(compact_, kind, &std::pair<ActivityKind, View>::first);
+  if (found == compact_.end()) return std::nullopt;
+  return found->second;
 }
 
 void ViewRegistry::setModel(const QString& provider, QObject* model) {

@@ -1,7 +1,8 @@
-// ViewRegistry: which QML views draw what, written once: the compact view (the two ears while
-// closed) of each activity kind, the section of the opened panel of each subsystem, and the
-// small items of the idle layout. Each view binds to one provider's view model, which TindraApp
-// hands in by provider name; a view whose provider is not running is not drawn.
+// ViewRegistry: which QML views draw what, gathered from the views each provider declares: the
+// compact view (the two ears while closed) of each activity kind, the sections of the opened
+// panel in their order, and the small items of the idle layout. Each view binds to its
+// provider's view model, which the app hands in by the provider's name; a view whose provider
+// does not run is not drawn.
 #pragma once
 
 #include <QHash>
@@ -12,9 +13,12 @@
 #include <QUrl>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "activity/activity_kind.h"
+#include "base/provider_views.h"
 
 namespace tindra {
 
@@ -26,27 +30,37 @@ class ViewRegistry {
   };
   struct Section {
     QString name;             // as listed in `pinnedWidgets`: "media", "batteries", ...
+    const char* title;        // for a person, marked for translation as "PinnedSectionsEditor"
     std::vector<View> views;  // one or more providers' parts, drawn side by side
-    // Shown only while its activity lasts, whatever is pinned (the level indicator).
-    bool transient = false;
+    bool transient = false;   // shown only while its activity lasts, whatever is pinned
   };
+  using Declared = std::vector<std::pair<std::string_view, ProviderViews>>;
+
+  // From each provider's name and views, in registration order.
+  explicit ViewRegistry(const Declared& declared);
+
+  // Where a view declared as `file` ("power/BatteryIdleItem.qml") is loaded from.
+  static QUrl source(const QString& file);
 
   // Every panel section in the panel's default order.
-  static const std::vector<Section>& sections();
-  // The names of the sections a person can pin (all but the transient ones), in that order.
-  static QStringList pinnable();
-  // The sections of `pinned` that can be pinned, in its order, each once.
-  static QStringList pinned(const std::vector<std::string>& pinned);
+  const std::vector<Section>& sections() const { return sections_; }
+  // The sections a person can pin (all but the transient ones), in that order.
+  std::vector<const Section*> pinnable() const;
+  // The names of the sections of `pinned` that can be pinned, in its order, each once.
+  QStringList pinned(const std::vector<std::string>& pinned) const;
   // The idle layout's small items, in order.
-  static const std::vector<View>& idleItems();
+  const std::vector<View>& idleItems() const { return idleItems_; }
   // The compact view of `kind`, if a provider draws its own.
-  static std::optional<View> compact(ActivityKind kind);
+  std::optional<View> compact(ActivityKind kind) const;
 
   void setModel(const QString& provider, QObject* model);
   // The provider's view model; null when it does not run.
   QObject* model(const QString& provider) const;
 
  private:
+  std::vector<Section> sections_;
+  std::vector<View> idleItems_;
+  std::vector<std::pair<ActivityKind, View>> compact_;
   QHash<QString, QPointer<QObject>> models_;
 };
 

@@ -8,6 +8,7 @@
 
 #include "activity/activity_kind.h"
 #include "testing/sample_view_models.h"
+#include "tindra_providers.h"
 
 void qml_register_types_Tindra();
 
@@ -27,12 +28,13 @@ TEST(ViewRegistryTest, EveryViewLoadsOnItsProvidersModelWithoutWarnings) {
   SampleViewModels samples;
   const std::map<QString, QObject*> models = samples.byProvider();
 
-  std::vector<ViewRegistry::View> views = ViewRegistry::idleItems();
-  for (const auto& section : ViewRegistry::sections()) {
+  const ViewRegistry registry(TindraProviders::views());
+  std::vector<ViewRegistry::View> views = registry.idleItems();
+  for (const auto& section : registry.sections()) {
     views.insert(views.end(), section.views.begin(), section.views.end());
   }
   for (const ActivityKind kind : allCases<ActivityKind>()) {
-    if (const auto view = ViewRegistry::compact(kind)) views.push_back(*view);
+    if (const auto view = registry.compact(kind)) views.push_back(*view);
   }
   for (const ViewRegistry::View& view : views) {
     SCOPED_TRACE(view.source.toString().toStdString());

@@ -1,4 +1,6 @@
 #include "visibility/visibility_monitor.h"
+#include "base/backend_selection.h"
+#include "visibility/fake_visibility_source.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -14,7 +16,8 @@ namespace tindra {
 
 namespace {
 
-const QString source = QStringLiteral("visibility");
+const QString source = QString::fromLatin1(VisibilityMonitor::id.data(),
+                                           static_cast<qsizetype>(VisibilityMonitor::id.size()));
 
 }  // namespace
 
@@ -25,7 +28,6 @@ VisibilityMonitor::VisibilityMonitor(std::unique_ptr<VisibilitySource> visibilit
       source_(std::move(visibility)),
       settings_(settings),
       diagnostics_(diagnostics) {
-  source_->setParent(nullptr);  // owned here, not by the Qt tree
   connect(source_.get(), &VisibilitySource::changed, this, &VisibilityMonitor::update);
   connect(source_.get(), &VisibilitySource::checkChanged, this, &VisibilityMonitor::recordCheck);
 }
@@ -78,6 +80,16 @@ void VisibilityMonitor::update() {
                                 : Sentence(QT_TR_NOOP("the notch shows"), tr));
   }
   emit changed();
+}
+
+std::unique_ptr<VisibilityMonitor> VisibilityMonitor::make(SettingsStore& settings,
+                                                           DiagnosticsLog& diagnostics,
+                                                           SharedBackends& shared) {
+  return std::make_unique<VisibilityMonitor>(
+      chooseBackend(
+          id, shared, [] { return std::make_unique<FakeVisibilitySource>(); },
+          [&] { return VisibilitySource::forPlatform(shared); }),
+      settings, diagnostics);
 }
 
 }  // namespace tindra

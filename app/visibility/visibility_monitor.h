@@ -17,11 +17,19 @@
 namespace tindra {
 
 class DiagnosticsLog;
+class SharedBackends;
 
 class VisibilityMonitor : public QObject {
   Q_OBJECT
 
  public:
+  // Its name in TINDRA_FAKE and the diagnostics.
+  static constexpr std::string_view id = "visibility";
+  // With the source this platform gives it (the fake one when TINDRA_FAKE names "visibility").
+  static std::unique_ptr<VisibilityMonitor> make(SettingsStore& settings,
+                                                 DiagnosticsLog& diagnostics,
+                                                 SharedBackends& shared);
+
   VisibilityMonitor(std::unique_ptr<VisibilitySource> source, SettingsStore& settings,
                     DiagnosticsLog& diagnostics, QObject* parent = nullptr);
 

@@ -4,12 +4,14 @@
 // system tells nothing: the notch then never steps aside.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <vector>
 
 #include "activity/frontmost_app.h"
 #include "activity/window_snapshot.h"
 #include "base/backend.h"
+#include "base/shared_backends.h"
 
 namespace tindra {
 
@@ -19,6 +21,10 @@ class VisibilitySource : public Backend {
  public:
   using Backend::Backend;
   using Null = NullBackend<VisibilitySource>;
+
+  // This platform's windows, or the do-nothing source where the window system tells nothing
+  // (made in the platform's folder).
+  static std::unique_ptr<VisibilitySource> forPlatform(SharedBackends& shared);
 
   // In the coordinates of Qt's screens (top-left origin).
   const std::optional<FrontmostApp>& frontmost() const { return frontmost_; }

@@ -4,9 +4,11 @@
 // weather then uses the place the user set or the time zone's city.
 #pragma once
 
+#include <memory>
 #include <optional>
 
 #include "base/backend.h"
+#include "base/shared_backends.h"
 #include "weather/geo_coordinate.h"
 
 namespace tindra {
@@ -17,6 +19,10 @@ class LocationSource : public Backend {
  public:
   using Backend::Backend;
   using Null = NullBackend<LocationSource>;
+
+  // This platform's location service, or the do-nothing source where there can be none (made
+  // in the platform's folder).
+  static std::unique_ptr<LocationSource> forPlatform(SharedBackends& shared);
 
   // The latest position; none until one is known.
   const std::optional<GeoCoordinate>& location() const { return location_; }

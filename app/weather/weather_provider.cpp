@@ -1,4 +1,9 @@
 #include "weather/weather_provider.h"
+#include <QNetworkInformation>
+#include "base/backend_selection.h"
+#include "base/qt_http_transport.h"
+#include "base/wall_clock.h"
+#include "weather/fake_weather.h"
 
 #include <unicode/timezone.h>
 
@@ -164,7 +169,7 @@ WeatherProvider::WeatherProvider(ProviderContext context,
                                  std::unique_ptr<LocationSource> locationService,
                                  std::shared_ptr<HTTPTransport> transport, Places places, Clock now,
                                  QObject* parent)
-    : Provider(context, parent),
+    : Provider(context, id, parent),
       locationService_(std::move(locationService)),
       places_(std::move(places)),
       now_(std::move(now)),
@@ -175,7 +180,6 @@ WeatherProvider::WeatherProvider(ProviderContext context,
       std::make_shared<CourseReader>(std::move(transport), [self](TemperatureCourse course) {
         if (self) self->arriving_ = std::move(course);
       });
-  locationService_->setParent(nullptr);  // owned here, not by the Qt tree
   timer_.setSingleShot(true);
   connect(&timer_, &QTimer::timeout, this, &WeatherProvider::update);
   connect(locationService_.get(), &LocationSource::locationChanged, this, &WeatherProvider::update);
@@ -412,6 +416,49 @@ void WeatherProvider::aim(double now, const std::optional<SunTimes::Moment>& sun
   }
   nextLook_ = next;
   timer_.start(static_cast<int>(std::ceil((next - now) * 1000.0)));
+}
+
+namespace {
+
+// No forecast request while the network is down, and one soon after it returns. Without a way
+// to know, the network counts as up and a failed request waits its ten minutes.
+void followNetwork(WeatherProvider& weather) {
+  if (!QNetworkInformation::loadBackendByFeatures(QNetworkInformation::Feature::Reachability)) {
+    return;
+  }
+  QNetworkInformation* network = QNetworkInformation::instance();
+  const auto follow = [&weather](QNetworkInformation::Reachability reachability) {
+    weather.setOnline(reachability != QNetworkInformation::Reachability::Disconnected);
+  };
+  follow(network->reachability());
+  QObject::connect(network, &QNetworkInformation::reachabilityChanged, &weather, follow);
+}
+
+}  // namespace
+
+std::unique_ptr<WeatherProvider> WeatherProvider::make(ProviderContext& context) {
+  SharedBackends& shared = *context.shared;
+  const auto network =
+      shared.get<QNetworkAccessManager>([] { return std::make_shared<QNetworkAccessManager>(); });
+  auto weather = std::make_unique<WeatherProvider>(
+      context,
+      chooseBackend(
+          id, shared, [] { return std::make_unique<FakeLocationSource>(); },
+          [&] { return LocationSource::forPlatform(shared); }),
+      fakeBackendRequested(id) ? std::shared_ptr<HTTPTransport>(
+                                     std::make_shared<FakeForecastTransport>(secondsSince1970))
+                               : std::make_shared<QtHTTPTransport>(*network, secondsSince1970),
+      defaultPlaces(), secondsSince1970);
+  followNetwork(*weather);
+  return weather;
+}
+
+ProviderViews WeatherProvider::views() {
+  return {.sections = {{.name = QStringLiteral("weather"),
+                        .title = QT_TRANSLATE_NOOP("PinnedSectionsEditor", "Weather"),
+                        .rank = 40,
+                        .file = QStringLiteral("weather/WeatherPanel.qml")}},
+          .idle = {{.rank = 20, .file = QStringLiteral("weather/WeatherIdleItem.qml")}}};
 }
 
 }  // namespace tindra

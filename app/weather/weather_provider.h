@@ -15,6 +15,7 @@
 #include <optional>
 
 #include "base/provider.h"
+#include "base/provider_views.h"
 #include "settings/durable_file.h"
 #include "settings/settings_store.h"
 #include "weather/location_source.h"
@@ -31,6 +32,11 @@ class WeatherProvider final : public Provider {
   Q_OBJECT
 
  public:
+  static constexpr std::string_view id = "weather";
+  // With the backends this platform gives it (the fake ones when TINDRA_FAKE names "weather").
+  static std::unique_ptr<WeatherProvider> make(ProviderContext& context);
+  static ProviderViews views();
+
   using Clock = std::function<double()>;  // seconds since 1970
   struct Places {
     std::filesystem::path snapshot;       // the kept snapshot and the last attempt
@@ -45,7 +51,6 @@ class WeatherProvider final : public Provider {
                   QObject* parent = nullptr);
   ~WeatherProvider() override;
 
-  QString name() const override { return QStringLiteral("weather"); }
   void start() override;
   WeatherViewModel* viewModel() override { return &viewModel_; }
 

@@ -208,10 +208,10 @@ TEST_F(WeatherProviderTest, ViewsDrawTheWeatherByDayAndByNight) {
     auto weather = makeProvider();
     weather->update();
     EXPECT_TRUE(weather->viewModel()->available());
-    const QImage panel = viewShot(QUrl("qrc:/Tindra/qml/WeatherPanel.qml"), weather->viewModel(),
-                                  {180, 156}, "weather-panel-" + name);
+    const QImage panel = viewShot(QUrl("qrc:/Tindra/weather/WeatherPanel.qml"),
+                                  weather->viewModel(), {180, 156}, "weather-panel-" + name);
     EXPECT_FALSE(panel.isNull());
-    EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/qml/WeatherIdleItem.qml"), weather->viewModel(),
+    EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/weather/WeatherIdleItem.qml"), weather->viewModel(),
                           {90, 24}, "weather-idle-" + name)
                      .isNull());
     QFile::remove(dir_.filePath("data/weather-snapshot.json"));

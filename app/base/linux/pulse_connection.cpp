@@ -1,5 +1,7 @@
 #include "base/linux/pulse_connection.h"
 
+#include "base/shared_backends.h"
+
 #include "base/logging_categories.h"
 
 namespace tindra {
@@ -106,6 +108,10 @@ void PulseConnection::onEvent(pa_context*, pa_subscription_event_type_t type, ui
   } else {
     connection->post([connection] { emit connection->changed(); });
   }
+}
+
+std::shared_ptr<PulseConnection> PulseConnection::shared(SharedBackends& shared) {
+  return shared.get<PulseConnection>([] { return std::make_shared<PulseConnection>(); });
 }
 
 }  // namespace tindra

@@ -1,7 +1,7 @@
 // PulseConnection: Tindra's one connection to the sound server through libpulse (PulseAudio, or
 // PipeWire's pulse layer), on libpulse's own thread. It connects when the server is there,
 // reconnects when the server restarts, and reports the server's sink and server events on the
-// main thread. The volume backend and the live spectrum share one (backend_factory.cpp).
+// main thread. The volume, the sounds and the live spectrum share one (PulseConnection::shared).
 #pragma once
 
 #include <pulse/pulseaudio.h>
@@ -11,8 +11,11 @@
 #include <QString>
 #include <QTimer>
 #include <functional>
+#include <memory>
 
 namespace tindra {
+
+class SharedBackends;
 
 class PulseConnection : public QObject {
   Q_OBJECT
@@ -22,6 +25,9 @@ class PulseConnection : public QObject {
 
   explicit PulseConnection(QObject* parent = nullptr);
   ~PulseConnection() override;
+
+  // The one connection of the program, shared by the volume, the sounds and the live spectrum.
+  static std::shared_ptr<PulseConnection> shared(SharedBackends& shared);
 
   void start();
   bool isReady() const { return ready_; }

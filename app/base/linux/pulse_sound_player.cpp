@@ -1,5 +1,7 @@
 #include "base/linux/pulse_sound_player.h"
 
+#include "base/shared_backends.h"
+
 #include <QFile>
 
 namespace tindra {
@@ -18,6 +20,14 @@ PulseSoundPlayer::PulseSoundPlayer(std::shared_ptr<PulseConnection> connection,
 
 void PulseSoundPlayer::play(const QString& name) {
   if (const auto sample = samples_.find(name); sample != samples_.end()) sample->second->play({});
+}
+
+std::shared_ptr<SoundPlayer> SoundPlayer::shared(SharedBackends& shared) {
+  return shared.get<SoundPlayer>([&shared] {
+    return std::make_shared<PulseSoundPlayer>(
+        PulseConnection::shared(shared),
+        QStringList{"tindra-charging", "tindra-low-battery", "tindra-event"});
+  });
 }
 
 }  // namespace tindra

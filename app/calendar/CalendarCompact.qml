@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The featured meeting on the closed notch: its calendar's colour and title on the left ear,
 // and on the right one the ear text: the minutes or hours to go, the start time, or "Now".

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // A Focus symbol drawn with a few strokes: moon, person, briefcase, bed, car, book, game
 // controller or a figure at rest. Drawn again only when the symbol changes.

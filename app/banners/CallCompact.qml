@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // A ringing call on the closed notch: only that it rings, and in which application; answer it
 // on the desktop's own banner. The handset pulses while it rings.

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The indicator's symbol, drawn with lines: a speaker (with one to three waves, or a cross when
 // silent), a sun (short or long rays), an external display, or a keyboard light (dim or bright).

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // An accessory's picture, drawn with lines by its kind: earbuds, over-ear headphones, a speaker,
 // or a plain rounded device for anything else. Drawn again only when the kind or size changes.

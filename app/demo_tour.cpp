@@ -1,4 +1,4 @@
-#include "shell/demo_tour.h"
+#include "demo_tour.h"
 
 #include <QCursor>
 #include <QGuiApplication>
@@ -65,40 +65,30 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
   ActivityCenter& activities = app_.activities();
   const auto pointerTo = [this](bool onNotch) {
     NotchWindow* notch = firstNotch(app_);
-    if (notch == nullptr) return;
+    if (notch == nullptr) return fail(QStringLiteral("no notch to point at"));
     const QRect window = notch->geometry();
     const QPointF centre = notch->notchRect().center();
     const QPoint target = onNotch ? window.topLeft() + centre.toPoint()
                                   : window.topLeft() + QPoint(window.width() / 2, 400);
     QCursor::setPos(notch->screen(), target);
   };
-  const auto media = [this]() -> NowPlayingViewModel* {
-    Provider* provider = app_.provider(QStringLiteral("media"));
-    return provider ? qobject_cast<NowPlayingViewModel*>(provider->viewModel()) : nullptr;
-  };
+  NowPlayingViewModel& media = *app_.providers().get<NowPlayingProvider>().viewModel();
   const auto press = [this](Key key, HUDBarStyle style, HUDTint tint) {
-    auto* hud = qobject_cast<HudProvider*>(app_.provider(QStringLiteral("hud")));
-    if (hud == nullptr) return;
+    HudProvider& hud = app_.providers().get<HudProvider>();
     (void)app_.settings().write(settings::hudBarStyle, style);
     (void)app_.settings().write(settings::hudTint, tint);
-    hud->handleKey({key, true, false, {}, std::chrono::steady_clock::now()});
-    hud->handleKey({key, false, false, {}, std::chrono::steady_clock::now()});
-  };
-  const auto accessories = [this] {
-    return qobject_cast<AccessoryProvider*>(app_.provider(QStringLiteral("accessories")));
+    hud.handleKey({key, true, false, {}, std::chrono::steady_clock::now()});
+    hud.handleKey({key, false, false, {}, std::chrono::steady_clock::now()});
   };
   // The invented sound moves to the invented earbuds.
-  const auto routeToBuds = [accessories] {
-    auto* fake =
-        accessories() ? dynamic_cast<FakeVolumeBackend*>(accessories()->output()) : nullptr;
-    if (fake) {
+  const auto routeToBuds = [this] {
+    if (auto* fake = invented<FakeVolumeBackend>("the output volume")) {
       fake->routeTo(QStringLiteral("invented-buds"), FakeAccessoryBackend::inventedBuds().address);
     }
   };
   // Invented headphones join the earbuds, or leave again.
-  const auto headphones = [accessories](bool connect) {
-    auto* fake =
-        accessories() ? dynamic_cast<FakeAccessoryBackend*>(&accessories()->backend()) : nullptr;
+  const auto headphones = [this](bool connect) {
+    auto* fake = invented<FakeAccessoryBackend>("the accessories");
     if (fake == nullptr) return;
     BluetoothAccessory phones{.name = "Invented Headphones",
                               .address = "0a:00:00:00:00:02",
@@ -108,9 +98,9 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
                                : std::vector{FakeAccessoryBackend::inventedBuds()});
   };
   const auto notify = [this](const DesktopNotification& notification) {
-    auto* banners = qobject_cast<BannerProvider*>(app_.provider(QStringLiteral("banners")));
-    auto* fake = banners ? dynamic_cast<FakeNotificationSource*>(&banners->source()) : nullptr;
-    if (fake) fake->send(notification);
+    if (auto* fake = invented<FakeNotificationSource>("the notifications")) {
+      fake->send(notification);
+    }
   };
   steps_ = {
       {0,
@@ -132,10 +122,7 @@ DemoTour::DemoTour(TindraApp& app, QDir folder, QObject* parent)
       {700, [this] { shoot(QStringLiteral("3-opened-level.png")); }},
       // The level lapses after 1.5 s; the panel goes on without it.
       {1500, [this] { shoot(QStringLiteral("4-opened.png")); }},
-      {0,
-       [media] {
-         if (NowPlayingViewModel* model = media()) model->togglePlayPause();
-       }},
+      {0, [&media] { media.togglePlayPause(); }},
       {400, [this] { shoot(QStringLiteral("5-opened-paused.png")); }},
       {0, [pointerTo] { pointerTo(false); }},
       {900, [this] { shoot(QStringLiteral("6-closed-paused.png")); }},
@@ -230,10 +217,15 @@ void DemoTour::showBackdrops() {
   for (NotchWindow* notch : app_.notches().windows()) notch->raise();
 }
 
+void DemoTour::fail(const QString& why) {
+  qCritical().noquote() << "demo step" << position_ << "failed:" << why;
+  ok_ = false;
+}
+
 void DemoTour::shoot(const QString& name) {
   NotchWindow* notch = firstNotch(app_);
   if (notch == nullptr || notch->screen() == nullptr) {
-    ok_ = false;
+    fail(QStringLiteral("no notch on screen for %1").arg(name));
     return;
   }
   // The root window holds what the display shows, transparency around the notch included.
@@ -242,7 +234,7 @@ void DemoTour::shoot(const QString& name) {
       notch->screen()->grabWindow(0, area.x(), area.y(), area.width(), area.height());
   const QString path = folder_.absoluteFilePath(name);
   if (picture.isNull() || !picture.save(path)) {
-    ok_ = false;
+    fail(QStringLiteral("%1 could not be taken").arg(path));
     return;
   }
   shots_ << path;

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The connected Bluetooth accessories in the batteries section: picture, name, and each part's
 // level (left, right and case for earbuds, one level otherwise), as numbers or as rings.

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // An accessory's battery parts as rings side by side: left, right and case for earbuds, one ring
 // with the device's picture otherwise. `parts` limits which are drawn; parts without a level are

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // A battery notice on the closed notch: the battery on the left ear, and on the right one what
 // happened with the percentage: power connected (green), disconnected, or the low warning (red).

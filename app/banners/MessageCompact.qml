@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // A message or missed call on the closed notch: who, on the right ear; a bubble or a handset on
 // the left one.

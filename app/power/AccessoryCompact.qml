@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // An accessory notice on the closed notch: the device's picture on the left ear and, on the right
 // one, its battery when it connects (left and right earbud, or its one level), "Disconnected"

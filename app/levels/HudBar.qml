@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Shapes
+import Tindra
 
 // The level as the user chose to see it: a continuous bar, 16 segments or a ring. One animated
 // level drives every style: it glides linearly while a key is held (each step takes the time

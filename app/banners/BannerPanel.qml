@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The call or message in the opened notch: a ringing call says only that it rings (answer it on
 // the desktop's banner); a message or missed call shows its sender, its text and a button that

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Shapes
+import Tindra
 
 // One battery part as a small ring filled to its level, with the part's letter inside or, for a
 // device's only battery, the device's picture; in the warning red when the level is low.

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The batteries section: the internal battery with its state and time left. Accessories join
 // it when their provider arrives.

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The weather in the idle layout: its symbol and the temperature; nothing while there is no
 // weather fit to show.

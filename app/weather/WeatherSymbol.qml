@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // A weather symbol by its name ("sun.max.fill", "cloud.moon.rain.fill", ...), drawn once for
 // each name and size: the sun or the moon, a cloud before it, and what falls from the cloud.

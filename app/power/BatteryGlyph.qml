@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // A battery outline filled to `percent`, with a bolt while charging. Green on power, red when low.
 Item {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // A telephone handset, green, for a ringing or missed call.
 Canvas {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // A Focus turning on, on the closed notch: its symbol on the left ear, its name on the right.
 Item {

@@ -13,11 +13,12 @@
 #include <memory>
 #include <vector>
 
+#include "tindra_app.h"
+
 class QWidget;
 
 namespace tindra {
 
-class TindraApp;
 
 class DemoTour : public QObject {
   Q_OBJECT
@@ -40,6 +41,15 @@ class DemoTour : public QObject {
   void next();
   void shoot(const QString& name);
   void showBackdrops();
+  // Says why a step could not run; the tour then ends as failed.
+  void fail(const QString& why);
+  // The invented backend a step plays, or null (and the tour fails) when `what` runs for real.
+  template <class Fake>
+  Fake* invented(const char* what) {
+    Fake* fake = app_.backends().find<Fake>();
+    if (fake == nullptr) fail(QStringLiteral("%1 are not invented").arg(QLatin1String(what)));
+    return fake;
+  }
 
   TindraApp& app_;
   QDir folder_;

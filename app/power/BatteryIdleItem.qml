@@ -1,4 +1,5 @@
 import QtQuick
+import Tindra
 
 // The battery's percentage in the idle layout; nothing at all without a battery.
 Row {
