@@ -12,6 +12,7 @@
 #include "focus/fake_focus_status_source.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
+#include "testing/picture_checks.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
@@ -124,12 +125,21 @@ TEST_F(BannerProviderTest, AMessageShowsWhoAndWhatWithAButtonThatOpensItsSender)
   view.open();
   EXPECT_EQ(opener_->opened, QStringList{"org.example.Chat"});
 
+  // Closed: a green bubble on the left ear, the sender on the right one.
   const QImage compact = viewShot(compactView<BannerProvider>(ActivityKind::message), &view,
                                   {260, 32}, "message-compact");
-  EXPECT_FALSE(compact.isNull());
-  EXPECT_FALSE(
-      viewShot(QUrl("qrc:/Tindra/banners/BannerPanel.qml"), &view, {280, 110}, "message-panel")
-          .isNull());
+  EXPECT_GT(countPixels(compact, hueOf("#30d158"), {0, 0, 40, 32}), 100);
+  EXPECT_GT(countPixels(compact, near(Qt::white), rightHalf(compact)), 20);
+  // Opened, from the top: the app in grey, the sender large, the text, the blue Open button with
+  // its label.
+  const QImage panel =
+      viewShot(QUrl("qrc:/Tindra/banners/BannerPanel.qml"), &view, {280, 110}, "message-panel");
+  EXPECT_GT(countPixels(panel, near("#a1a1a6"), {0, 0, 280, 14}), 20);
+  EXPECT_GE(drawnArea(panel, {0, 16, 280, 24}).height(), 10);
+  EXPECT_GT(countPixels(panel, isDrawn, {0, 44, 280, 18}), 60);
+  const QRect button{0, 64, 280, 30};
+  EXPECT_GT(countPixels(panel, hueOf("#0a84ff"), button), 800);
+  EXPECT_GT(countPixels(panel, near(Qt::white), button), 40);
 
   source_->close(7);
   EXPECT_EQ(activities_.current(), ActivityKind::idle);

@@ -9,6 +9,7 @@
 #include "calendar/fake_calendar_backend.h"
 #include "calendar/upcoming_event_sound_log.h"
 #include "settings/settings_keys.h"
+#include "testing/picture_checks.h"
 #include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
 
@@ -183,25 +184,33 @@ TEST_F(CalendarProviderTest, ViewsDrawTheMeetingItsJoinButtonAndTheAgenda) {
   provider_->start();
   enable();
   CalendarViewModel* view = provider_->viewModel();
-  const QImage compact = viewShot(compactView<CalendarProvider>(ActivityKind::upcomingEvent), view,
-                                  {260, 32}, "calendar-compact");
-  ASSERT_FALSE(compact.isNull());
+  const QUrl compact = compactView<CalendarProvider>(ActivityKind::upcomingEvent);
+  const PixelTest blue = hueOf("#0a84ff"), green = hueOf("#30d158");
+  // Closed: the calendar's colour and the title, cut short, on the left; the minutes to go in
+  // white on the right, and once it started "Now" in green.
+  const QImage soon = viewShot(compact, view, {260, 32}, "calendar-compact");
+  EXPECT_GT(countPixels(soon, blue, {0, 0, 20, 32}), 40);
+  const QRect title = drawnArea(soon, {20, 0, 110, 32});
+  EXPECT_GT(title.width(), 30);
+  EXPECT_LE(title.width(), 66);
+  EXPECT_GT(countPixels(soon, near(Qt::white), rightHalf(soon)), 20);
+  EXPECT_EQ(countPixels(soon, green), 0);
+
+  // Opened: the Join button under the meeting, then the agenda, each row with its calendar's
+  // colour; the past breakfast dimmed, and the meeting's row with a small Join of its own.
   const QImage panel =
       viewShot(QUrl("qrc:/Tindra/calendar/CalendarPanel.qml"), view, {240, 156}, "calendar-panel");
-  ASSERT_FALSE(panel.isNull());
-  // The Join button's blue is there.
-  int blue = 0;
-  for (int y = 0; y < panel.height(); ++y) {
-    for (int x = 0; x < panel.width(); ++x) {
-      const QColor c = panel.pixelColor(x, y);
-      if (c.blue() > 200 && c.red() < 60) ++blue;
-    }
-  }
-  EXPECT_GT(blue, 100);
+  EXPECT_GT(countPixels(panel, blue, {0, 30, 120, 30}), 800);
+  EXPECT_GT(countPixels(panel, blue, {0, 80, 4, 76}), 100);
+  EXPECT_GT(countPixels(panel, near(Qt::white), {20, 82, 180, 16}), 20);      // birthday
+  EXPECT_EQ(countPixels(panel, near(Qt::white, 80), {20, 102, 180, 16}), 0);  // breakfast
+  EXPECT_GT(countPixels(panel, near(Qt::white), {20, 122, 180, 16}), 20);     // review
+  EXPECT_GT(countPixels(panel, blue, {200, 118, 40, 24}), 200);
+
   advanceTo(tenOClock() + 9 * 60);
-  EXPECT_FALSE(viewShot(compactView<CalendarProvider>(ActivityKind::upcomingEvent), view, {260, 32},
-                        "calendar-compact-started")
-                   .isNull());
+  const QImage started = viewShot(compact, view, {260, 32}, "calendar-compact-started");
+  EXPECT_GT(countPixels(started, green, rightHalf(started)), 20);
+  EXPECT_EQ(countPixels(started, near(Qt::white), rightHalf(started)), 0);
 }
 
 }  // namespace

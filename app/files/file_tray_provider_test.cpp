@@ -12,6 +12,7 @@
 #include "base/diagnostics_log.h"
 #include "base/qt_text.h"
 #include "settings/settings_keys.h"
+#include "testing/picture_checks.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
@@ -185,9 +186,19 @@ TEST_F(FileTrayProviderTest, TheSectionShowsItsItems) {
   QFile::remove(files_.filePath("notes.txt"));
   ASSERT_TRUE(waitFor([&] { return item(*tray, 2)["missing"].toBool(); }));
   ASSERT_TRUE(tray->drop({file("photo.jpg")}));
-  EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/files/FileTrayPanel.qml"), tray->viewModel(), {240, 150},
-                        "file-tray-panel")
-                   .isNull());
+  const QImage panel = viewShot(QUrl("qrc:/Tindra/files/FileTrayPanel.qml"), tray->viewModel(),
+                                {240, 150}, "file-tray-panel");
+  // Remove All, for more than one item, top right; each row's × at the right.
+  EXPECT_GT(countPixels(panel, isDrawn, {150, 0, 90, 14}), 30);
+  EXPECT_GT(countPixels(panel, isDrawn, {225, 18, 15, 80}), 60);
+  // Two files there, in white beside a light icon; the missing one's icon in red and the reason
+  // below its name.
+  EXPECT_GT(countPixels(panel, near("#d1d1d6"), {0, 18, 14, 46}), 250);
+  EXPECT_GT(countPixels(panel, near(Qt::white), {20, 18, 200, 46}), 60);
+  EXPECT_GT(countPixels(panel, hueOf("#ff453a"), {0, 74, 14, 24}), 100);
+  EXPECT_GT(countPixels(panel, hueOf("#ff453a"), {20, 86, 200, 12}), 50);
+  // What the last drop could not do, in orange at the bottom.
+  EXPECT_GT(countPixels(panel, hueOf("#ff9f0a"), {0, 120, 240, 30}), 40);
 }
 
 }  // namespace

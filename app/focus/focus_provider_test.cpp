@@ -9,6 +9,7 @@
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "shell/focus_command.h"
+#include "testing/picture_checks.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
@@ -89,16 +90,15 @@ TEST_F(FocusProviderTest, TheNoticeShowsTheSymbolAndName) {
   ASSERT_EQ(focusCommand({"on", "--name", "Deep Work", "--symbol", "book"}), 0);
   const QImage shot = viewShot(compactView<FocusProvider>(ActivityKind::focus),
                                provider_->viewModel(), {260, 32}, "focus-notice");
-  ASSERT_FALSE(shot.isNull());
-  // The symbol is drawn in the Focus colour on the left ear.
-  bool symbolDrawn = false;
-  for (int x = 10; x < 40 && !symbolDrawn; ++x) {
-    for (int y = 0; y < shot.height(); ++y) symbolDrawn |= qBlue(shot.pixel(x, y)) > 200;
-  }
-  EXPECT_TRUE(symbolDrawn);
-  EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/focus/FocusIdleItem.qml"), provider_->viewModel(),
-                        {140, 20}, "focus-indicator")
-                   .isNull());
+  // The symbol on the left ear and the name on the right, both in the Focus colour.
+  const PixelTest focusColour = hueOf("#7d7aff");
+  EXPECT_GT(countPixels(shot, focusColour, {10, 0, 30, 32}), 60);
+  EXPECT_GT(countPixels(shot, focusColour, rightHalf(shot)), 60);
+  // The lasting indicator: the symbol, then the name beside it.
+  const QImage indicator = viewShot(QUrl("qrc:/Tindra/focus/FocusIdleItem.qml"),
+                                    provider_->viewModel(), {140, 20}, "focus-indicator");
+  EXPECT_GT(countPixels(indicator, isDrawn, {0, 0, 14, 20}), 40);
+  EXPECT_GT(drawnArea(indicator, {18, 0, 122, 20}).width(), 50);
 }
 
 }  // namespace

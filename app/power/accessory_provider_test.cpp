@@ -10,6 +10,7 @@
 #include "power/fake_accessory_backend.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
+#include "testing/picture_checks.h"
 #include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
 
@@ -121,47 +122,63 @@ TEST_F(AccessoryProviderTest, TheBatteryStyleAndLowLevelFollowTheSettings) {
   EXPECT_EQ(drawing.count(), 2);
 }
 
-// Red pixels on the right half, where the levels are.
-int redOnTheRight(const QImage& picture) {
-  int red = 0;
-  for (int y = 0; y < picture.height(); ++y) {
-    for (int x = picture.width() / 2; x < picture.width(); ++x) {
-      const QColor c = picture.pixelColor(x, y);
-      red += c.red() > 200 && c.green() < 120 ? 1 : 0;
-    }
-  }
-  return red;
-}
-
-// Each notice on the ears and the section, in both styles, to be looked at; low parts in red.
+// Each notice on the ears and the section, in both styles: the device's picture on the left, on
+// the right its levels as numbers or rings, "Disconnected" in grey, the new output's name, and
+// low parts in red.
 TEST_F(AccessoryProviderTest, NoticesAndTheSectionAreDrawn) {
   AccessoryViewModel& view = *provider_->viewModel();
   const QUrl compact("qrc:/Tindra/power/AccessoryCompact.qml");
   const QUrl panel("qrc:/Tindra/power/AccessoriesPanel.qml");
+  const PixelTest red = hueOf("#ff453a");
+  const auto shot = [&](const AccessoryNotice& notice, const QString& name) {
+    view.setNotice(notice);
+    const QImage picture = viewShot(compact, &view, {260, 32}, name);
+    EXPECT_GT(countPixels(picture, isDrawn, {0, 0, 40, 32}), 20) << name.toStdString();
+    return picture;
+  };
   const BluetoothAccessory buds = FakeAccessoryBackend::inventedBuds();
   view.setAccessories({buds, headphones(64)});
-  view.setNotice({AccessoryNotice::Kind::connected, buds, std::nullopt});
-  EXPECT_FALSE(viewShot(compact, &view, {260, 32}, "accessory-connected").isNull());
-  view.setNotice({AccessoryNotice::Kind::disconnected, headphones(64), std::nullopt});
-  EXPECT_FALSE(viewShot(compact, &view, {260, 32}, "accessory-disconnected").isNull());
-  view.setNotice({AccessoryNotice::Kind::routed, buds, std::nullopt});
-  EXPECT_FALSE(viewShot(compact, &view, {260, 32}, "accessory-routed").isNull());
-  view.setNotice({AccessoryNotice::Kind::low, headphones(9), AccessoryBatteryPart::main});
-  EXPECT_GT(redOnTheRight(viewShot(compact, &view, {260, 32}, "accessory-low")), 20);
+  const QImage connected =
+      shot({AccessoryNotice::Kind::connected, buds, std::nullopt}, "accessory-connected");
+  EXPECT_GT(countPixels(connected, near(Qt::white), rightHalf(connected)), 40);
+  EXPECT_EQ(countPixels(connected, red), 0);
+  const QImage gone = shot({AccessoryNotice::Kind::disconnected, headphones(64), std::nullopt},
+                           "accessory-disconnected");
+  EXPECT_GT(countPixels(gone, near("#a1a1a6"), rightHalf(gone)), 40);
+  EXPECT_EQ(countPixels(gone, near(Qt::white), rightHalf(gone)), 0);
+  const QImage routed =
+      shot({AccessoryNotice::Kind::routed, buds, std::nullopt}, "accessory-routed");
+  // "Playing on Invented Buds" reaches far further left than "L 80  R 76".
+  EXPECT_GT(drawnArea(routed, rightHalf(routed)).width(),
+            drawnArea(connected, rightHalf(connected)).width() + 40);
+  const QImage low = shot({AccessoryNotice::Kind::low, headphones(9), AccessoryBatteryPart::main},
+                          "accessory-low");
+  EXPECT_GT(countPixels(low, red, rightHalf(low)), 20);
   const QImage numbers = viewShot(panel, &view, {170, 110}, "accessories-panel");
-  EXPECT_EQ(redOnTheRight(numbers), 0);
+  EXPECT_EQ(countPixels(numbers, red), 0);
 
   view.setDrawing(AccessoryBatteryStyle::ring, 20);
-  EXPECT_GT(redOnTheRight(viewShot(compact, &view, {260, 32}, "accessory-low-ring")), 20);
-  view.setNotice({AccessoryNotice::Kind::connected, buds, std::nullopt});
-  EXPECT_FALSE(viewShot(compact, &view, {260, 32}, "accessory-connected-ring").isNull());
+  const QImage lowRing =
+      shot({AccessoryNotice::Kind::low, headphones(9), AccessoryBatteryPart::main},
+           "accessory-low-ring");
+  EXPECT_GT(countPixels(lowRing, red, rightHalf(lowRing)), 20);
+  EXPECT_GE(drawnArea(lowRing, rightHalf(lowRing)).height(), 18);  // a ring, not a number
+  // Both earbuds' rings side by side, taller than a line of text.
+  const QImage rings =
+      shot({AccessoryNotice::Kind::connected, buds, std::nullopt}, "accessory-connected-ring");
+  EXPECT_GE(drawnArea(rings, rightHalf(rings)).height(), 18);
+  EXPECT_LT(drawnArea(connected, rightHalf(connected)).height(), 16);
+  EXPECT_GT(countPixels(rings, isDrawn, {200, 0, 23, 32}), 40);
+  EXPECT_GT(countPixels(rings, isDrawn, {226, 0, 23, 32}), 40);
+  EXPECT_EQ(countPixels(rings, red), 0);
   // The earbuds' case at 15 % is low; the headphones at 64 % are not.
   BluetoothAccessory lowCase = buds;
   lowCase.battery.caseLevel = 15;
   view.setAccessories({lowCase, headphones(64)});
-  const QImage rings = viewShot(panel, &view, {170, 110}, "accessories-panel-ring");
-  EXPECT_NE(rings, numbers);
-  EXPECT_GT(redOnTheRight(rings), 20);
+  const QImage ringPanel = viewShot(panel, &view, {170, 110}, "accessories-panel-ring");
+  EXPECT_NE(ringPanel, numbers);
+  EXPECT_GT(countPixels(ringPanel, red, {75, 35, 30, 30}), 50);  // the case's ring, the third
+  EXPECT_EQ(countPixels(ringPanel, red), countPixels(ringPanel, red, {75, 35, 30, 30}));
 }
 
 }  // namespace

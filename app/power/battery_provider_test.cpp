@@ -9,6 +9,7 @@
 #include "power/fake_battery_backend.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
+#include "testing/picture_checks.h"
 #include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
 
@@ -101,33 +102,43 @@ TEST_F(BatteryProviderTest, PowerChangesAndTheLowWarningBecomeNoticesWithTheirSo
   EXPECT_EQ(sounds_->played.size(), 2);  // sounds are off
 }
 
-// Each notice drawn on the ears, and the panel section with low power mode; the low warning in
-// red, power connected in green.
+// Each notice drawn on the ears, and the panel section with low power mode. Power connected is
+// green, the low warning red, on the battery's fill and on the percentage alike; disconnected
+// has neither.
 TEST_F(BatteryProviderTest, NoticesAndTheSectionAreDrawn) {
   BatteryViewModel& view = *provider_->viewModel();
-  const auto redAndGreen = [](const QImage& picture) {
-    int red = 0, green = 0;
-    for (int y = 0; y < picture.height(); ++y) {
-      for (int x = 0; x < picture.width(); ++x) {
-        const QColor c = picture.pixelColor(x, y);
-        red += c.red() > 200 && c.green() < 120 ? 1 : 0;
-        green += c.green() > 160 && c.red() < 120 ? 1 : 0;
-      }
-    }
-    return std::pair{red, green};
-  };
   const QUrl compact("qrc:/Tindra/power/BatteryCompact.qml");
+  const PixelTest green = hueOf("#30d158"), red = hueOf("#ff453a");
+  const auto shot = [&](const BatteryNotice& notice, const QString& name) {
+    view.setNotice(notice);
+    return viewShot(compact, &view, {260, 32}, name);
+  };
   view.setReading(charging(64));
-  view.setNotice(BatteryNotice::pluggedIn(charging(64)));
-  EXPECT_GT(redAndGreen(viewShot(compact, &view, {260, 32}, "battery-plugged-in")).second, 20);
-  view.setNotice(BatteryNotice::unplugged(onBattery(64)));
-  EXPECT_FALSE(viewShot(compact, &view, {260, 32}, "battery-unplugged").isNull());
-  view.setNotice(BatteryNotice::low(onBattery(19)));
-  EXPECT_GT(redAndGreen(viewShot(compact, &view, {260, 32}, "battery-low")).first, 20);
+  const QImage pluggedIn = shot(BatteryNotice::pluggedIn(charging(64)), "battery-plugged-in");
+  EXPECT_GT(countPixels(pluggedIn, green, leftHalf(pluggedIn)), 20);
+  EXPECT_GT(countPixels(pluggedIn, green, rightHalf(pluggedIn)), 20);
+  EXPECT_EQ(countPixels(pluggedIn, red), 0);
+
+  const QImage unplugged = shot(BatteryNotice::unplugged(onBattery(64)), "battery-unplugged");
+  EXPECT_GT(countPixels(unplugged, near(Qt::white), leftHalf(unplugged)), 10);
+  EXPECT_GT(countPixels(unplugged, near(Qt::white), rightHalf(unplugged)), 20);
+  EXPECT_EQ(countPixels(unplugged, green) + countPixels(unplugged, red), 0);
+
+  const QImage low = shot(BatteryNotice::low(onBattery(19)), "battery-low");
+  EXPECT_GT(countPixels(low, red, leftHalf(low)), 10);
+  EXPECT_GT(countPixels(low, red, rightHalf(low)), 20);
+  // "Low  19 %": a word more than the percentage alone.
+  EXPECT_GT(drawnArea(low, rightHalf(low)).width(),
+            drawnArea(unplugged, rightHalf(unplugged)).width() + 15);
+
   view.setReading(BatteryStatus(19, false, false, false, 47, std::nullopt, true));
-  EXPECT_FALSE(
-      viewShot(QUrl("qrc:/Tindra/power/BatteriesPanel.qml"), &view, {140, 150}, "batteries-panel")
-          .isNull());
+  const QImage panel =
+      viewShot(QUrl("qrc:/Tindra/power/BatteriesPanel.qml"), &view, {140, 150}, "batteries-panel");
+  EXPECT_GT(countPixels(panel, red, {0, 15, 60, 30}), 50);  // 19 %: the low fill
+  // Title, glyph, percentage, time left, then low power mode in yellow at the bottom.
+  const QRect lowPower = drawnArea(panel, {0, 100, 140, 50});
+  EXPECT_GT(countPixels(panel, hueOf("#ffd60a"), lowPower), 30);
+  EXPECT_GT(lowPower.width(), 80);
 }
 
 TEST_F(BatteryProviderTest, TheOldPowerNoticeSettingIsSplitOnce) {

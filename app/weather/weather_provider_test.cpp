@@ -7,6 +7,7 @@
 
 #include "base/activity_center.h"
 #include "settings/settings_keys.h"
+#include "testing/picture_checks.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
@@ -202,23 +203,38 @@ TEST_F(WeatherProviderTest, AnAnswerThatComesAtOnceIsShownWhenTheClockMovesOn) {
 
 TEST_F(WeatherProviderTest, ViewsDrawTheWeatherByDayAndByNight) {
   (void)settings_.write(settings::weatherEnabled, true);
+  struct Shots {
+    QString symbol;
+    QImage panel, idle;
+  };
   const auto shoot = [&](double now, const QString& name) {
     now_ = now;
     ok(now + 3600);
     auto weather = makeProvider();
     weather->update();
     EXPECT_TRUE(weather->viewModel()->available());
-    const QImage panel = viewShot(QUrl("qrc:/Tindra/weather/WeatherPanel.qml"),
-                                  weather->viewModel(), {180, 156}, "weather-panel-" + name);
-    EXPECT_FALSE(panel.isNull());
-    EXPECT_FALSE(viewShot(QUrl("qrc:/Tindra/weather/WeatherIdleItem.qml"), weather->viewModel(),
-                          {90, 24}, "weather-idle-" + name)
-                     .isNull());
+    Shots shots{weather->viewModel()->symbol(),
+                viewShot(QUrl("qrc:/Tindra/weather/WeatherPanel.qml"), weather->viewModel(),
+                         {180, 156}, "weather-panel-" + name),
+                viewShot(QUrl("qrc:/Tindra/weather/WeatherIdleItem.qml"), weather->viewModel(),
+                         {90, 24}, "weather-idle-" + name)};
     QFile::remove(dir_.filePath("data/weather-snapshot.json"));
-    return weather->viewModel()->symbol();
+    return shots;
   };
-  EXPECT_FALSE(shoot(morning, "day").contains("moon"));
-  EXPECT_EQ(shoot(night, "night"), "cloud.moon.fill");
+  const PixelTest sunny = hueOf("#ffd60a");
+  // By day the sun in yellow, with the temperature beside it, in large type in the section.
+  const Shots byDay = shoot(morning, "day");
+  EXPECT_FALSE(byDay.symbol.contains("moon"));
+  EXPECT_GT(countPixels(byDay.panel, sunny, {0, 16, 40, 36}), 150);
+  EXPECT_GE(drawnArea(byDay.panel, {40, 16, 140, 36}).height(), 18);
+  EXPECT_GT(countPixels(byDay.idle, sunny, {0, 0, 18, 24}), 20);
+  EXPECT_GT(drawnArea(byDay.idle, {18, 0, 72, 24}).width(), 25);
+  // By night a moon behind the cloud: the symbol is there, and nothing is yellow.
+  const Shots byNight = shoot(night, "night");
+  EXPECT_EQ(byNight.symbol, "cloud.moon.fill");
+  EXPECT_GT(countPixels(byNight.panel, isDrawn, {0, 16, 40, 36}), 100);
+  EXPECT_GT(countPixels(byNight.idle, isDrawn, {0, 0, 18, 24}), 20);
+  EXPECT_EQ(countPixels(byNight.panel, sunny) + countPixels(byNight.idle, sunny), 0);
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <QTest>
 
 #include "media/process_tap_spectrum.h"
+#include "testing/picture_checks.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
@@ -112,9 +113,7 @@ TEST_F(PulseProcessTapSessionTest, HearsOnlyThePlayerAndStopsWithIt) {
   ASSERT_FALSE(picture.isNull());
   const auto barHeight = [&](int bar) {
     const int x = static_cast<int>((bar + 0.5) * (picture.width() + 2) / 6.0);
-    int lit = 0;
-    for (int y = 0; y < picture.height(); ++y) lit += qRed(picture.pixel(x, y)) > 128 ? 1 : 0;
-    return lit;
+    return countPixels(picture, hueOf("#ff375f"), {x, 0, 1, picture.height()});
   };
   EXPECT_GT(barHeight(barOf(1000, rate)), 2 * barHeight(barOf(150, rate)));
 
