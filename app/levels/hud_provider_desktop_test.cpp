@@ -19,6 +19,7 @@
 #include "levels/linux/x11_media_key_source.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
 namespace {
@@ -70,7 +71,7 @@ class HudProviderDesktopTest : public ::testing::Test {
 
   void SetUp() override {
     if (!logind_)
-      GTEST_SKIP() << "needs scripts/private-session --xvfb --sound-server --system-bus";
+      SKIP_OR_FAIL_ON_CI("needs scripts/private-session --xvfb --sound-server --system-bus");
     pactl({"set-default-sink", "tindra_test"});
     pactl({"set-sink-volume", "tindra_test", "50%"});
     pactl({"set-sink-mute", "tindra_test", "0"});

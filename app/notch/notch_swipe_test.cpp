@@ -11,6 +11,7 @@
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/mpv_player.h"
+#include "testing/skip_or_fail_on_ci.h"
 #include "testing/xdotool.h"
 #include "tindra_app.h"
 
@@ -35,7 +36,7 @@ class NotchSwipeDesktopTest : public ::testing::Test {
  protected:
   void SetUp() override {
     if (const QString missing = MpvPlayer::missing(); !missing.isEmpty()) {
-      GTEST_SKIP() << missing.toStdString();
+      SKIP_OR_FAIL_ON_CI(missing.toStdString());
     }
   }
 };

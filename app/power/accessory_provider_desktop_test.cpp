@@ -15,6 +15,7 @@
 #include "power/linux/bluez_accessory_backend.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
 namespace {
@@ -52,7 +53,7 @@ class AccessoryProviderDesktopTest : public ::testing::Test {
   static void TearDownTestSuite() { bluez_.reset(); }
 
   void SetUp() override {
-    if (!bluez_) GTEST_SKIP() << "needs scripts/private-session --sound-server --system-bus";
+    if (!bluez_) SKIP_OR_FAIL_ON_CI("needs scripts/private-session --sound-server --system-bus");
     pactl({"set-default-sink", "tindra_test"});
   }
 

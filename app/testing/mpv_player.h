@@ -1,6 +1,7 @@
 // MpvPlayer: a real player for tests: mpv with its MPRIS plug-in on the session bus, playing
 // tones made by sox in turn into the session's sound server (TINDRA_SOUND_SERVER), or into
-// nothing where the session has none. Tests skip when mpv, the plug-in or sox is missing.
+// nothing where the session has none. Tests skip, or fail on CI, when mpv, the plug-in or sox is
+// missing.
 #pragma once
 
 #include <QProcess>

@@ -11,6 +11,7 @@
 
 #include "nowplaying/adapter_message_parser.h"
 #include "testing/mpv_player.h"
+#include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
 namespace {
@@ -19,7 +20,7 @@ class MprisAdapterWithMpvTest : public ::testing::Test {
  protected:
   void SetUp() override {
     if (const QString missing = MpvPlayer::missing(); !missing.isEmpty()) {
-      GTEST_SKIP() << missing.toStdString();
+      SKIP_OR_FAIL_ON_CI(missing.toStdString());
     }
   }
 

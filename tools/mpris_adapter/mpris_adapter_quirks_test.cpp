@@ -8,6 +8,7 @@
 
 #include "nowplaying/adapter_message_parser.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
 namespace {
@@ -22,7 +23,7 @@ class QuirkyPlayerTest : public ::testing::Test {
     player_ = std::make_unique<DBusMockService>(QDBusConnection::sessionBus(), busName,
                                                 QStringList{busName, path, playerInterface});
     QString error;
-    if (!player_->start(&error)) GTEST_SKIP() << "no scripted player: " << error.toStdString();
+    if (!player_->start(&error)) SKIP_OR_FAIL_ON_CI("no scripted player: " + error.toStdString());
     QObject::connect(&stream_, &QProcess::readyReadStandardOutput, [this] {
       const QByteArray bytes = stream_.readAllStandardOutput();
       for (auto& result : parser_.feed({bytes.constData(), std::size_t(bytes.size())})) {

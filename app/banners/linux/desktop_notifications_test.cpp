@@ -27,6 +27,7 @@
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
 namespace {
@@ -90,7 +91,7 @@ class DesktopNotificationsTest : public ::testing::Test {
   static void TearDownTestSuite() { server_.reset(); }
 
   void SetUp() override {
-    if (!server_) GTEST_SKIP() << "no mocked notification server: " << startError_.toStdString();
+    if (!server_) SKIP_OR_FAIL_ON_CI("no mocked notification server: " + startError_.toStdString());
   }
 
   static void setInhibited(bool inhibited) {
@@ -263,7 +264,7 @@ TEST(DesktopFocusTest, GnomesBannerSwitchIsDoNotDisturb) {
   // GNOME's settings in a key file under the session's private config folder, shared with the
   // real `gsettings` below; set before anything here touches GSettings.
   qputenv("GSETTINGS_BACKEND", "keyfile");
-  if (!GSettingsFocusSource::available()) GTEST_SKIP() << "gsettings-desktop-schemas missing";
+  if (!GSettingsFocusSource::available()) SKIP_OR_FAIL_ON_CI("gsettings-desktop-schemas missing");
   const auto set = [](const char* value) {
     run(QStringLiteral("gsettings"),
         {"set", "org.gnome.desktop.notifications", "show-banners", value});
@@ -319,7 +320,7 @@ class DesktopLockTest : public ::testing::Test {
   static void TearDownTestSuite() { logind_.reset(); }
 
   void SetUp() override {
-    if (!logind_) GTEST_SKIP() << "no mocked logind: " << startError_.toStdString();
+    if (!logind_) SKIP_OR_FAIL_ON_CI("no mocked logind: " + startError_.toStdString());
   }
 
   static void session(const QString& method, const QVariantList& arguments = {}) {

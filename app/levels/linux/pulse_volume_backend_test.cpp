@@ -7,6 +7,8 @@
 #include <QProcess>
 #include <QTest>
 
+#include "testing/skip_or_fail_on_ci.h"
+
 namespace tindra {
 namespace {
 
@@ -28,7 +30,7 @@ class PulseVolumeBackendTest : public ::testing::Test {
   }
   void SetUp() override {
     if (!qEnvironmentVariableIsSet("TINDRA_SOUND_SERVER")) {
-      GTEST_SKIP() << "no private sound server (scripts/private-session --sound-server)";
+      SKIP_OR_FAIL_ON_CI("no private sound server (scripts/private-session --sound-server)");
     }
     pactl({"set-default-sink", "tindra_test"});
     pactl({"set-sink-volume", "tindra_test", "100%"});

@@ -10,6 +10,7 @@
 
 #include "media/process_tap_spectrum.h"
 #include "testing/picture_checks.h"
+#include "testing/skip_or_fail_on_ci.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
@@ -48,7 +49,7 @@ class PulseProcessTapSessionTest : public ::testing::Test {
   static void TearDownTestSuite() { folder_.reset(); }
   void SetUp() override {
     if (!qEnvironmentVariableIsSet("TINDRA_SOUND_SERVER")) {
-      GTEST_SKIP() << "no private sound server (scripts/private-session --sound-server)";
+      SKIP_OR_FAIL_ON_CI("no private sound server (scripts/private-session --sound-server)");
     }
   }
   void TearDown() override {

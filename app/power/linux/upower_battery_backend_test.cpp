@@ -16,6 +16,7 @@
 #include "power/battery_provider.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
 namespace {
@@ -36,7 +37,7 @@ class UPowerBatteryBackendTest : public ::testing::Test {
   static void TearDownTestSuite() { upower_.reset(); }
 
   void SetUp() override {
-    if (!upower_) GTEST_SKIP() << "no mocked UPower: " << startError_.toStdString();
+    if (!upower_) SKIP_OR_FAIL_ON_CI("no mocked UPower: " + startError_.toStdString());
   }
 
   // A discharging battery at `percent` with an hour to go, as UPower's display device.
