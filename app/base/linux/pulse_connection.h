@@ -83,4 +83,23 @@ struct PulseRequest {
   }
 };
 
+// Gives `request`, the user data of `operation`, to that operation, which deletes it once done or
+// cancelled; when libpulse made no operation (nullptr) it is deleted here. A server that goes away
+// cancels its operations without calling their callbacks, so those must never delete the request
+// themselves. Call with libpulse's lock held (in PulseConnection::run), so the operation cannot end
+// before it owns the request.
+template <class Request>
+void keepUntilDone(pa_operation* operation, std::unique_ptr<Request> request) {
+  if (operation == nullptr) return;
+  pa_operation_set_state_callback(
+      operation,
+      [](pa_operation* ended, void* data) {
+        if (pa_operation_get_state(ended) != PA_OPERATION_RUNNING) {
+          delete static_cast<Request*>(data);
+        }
+      },
+      request.release());
+  pa_operation_unref(operation);
+}
+
 }  // namespace tindra

@@ -64,6 +64,7 @@ std::optional<std::string> PulseVolumeBackend::bluetoothAddressOf(const QString&
 
 void PulseVolumeBackend::readDefaultSink() {
   connection_->run([this](pa_context* context) {
+    auto request = std::make_unique<PulseRequest<PulseVolumeBackend>>(connection_.get(), this);
     // "@DEFAULT_SINK@" follows the server's current default.
     pa_operation* operation = pa_context_get_sink_info_by_name(
         context, "@DEFAULT_SINK@",
@@ -73,10 +74,7 @@ void PulseVolumeBackend::readDefaultSink() {
             // No default output (the server has none): nothing to set, the keys go back.
             request->answer([](PulseVolumeBackend& backend) { backend.publish(std::nullopt); });
           }
-          if (last != 0 || sink == nullptr) {
-            delete request;
-            return;
-          }
+          if (last != 0 || sink == nullptr) return;
           VolumeReading reading;
           reading.output = QString::fromUtf8(sink->name);
           reading.level = static_cast<double>(pa_cvolume_avg(&sink->volume)) /
@@ -96,8 +94,8 @@ void PulseVolumeBackend::readDefaultSink() {
             backend.publish(reading);
           });
         },
-        new PulseRequest<PulseVolumeBackend>{connection_.get(), this});
-    if (operation) pa_operation_unref(operation);
+        request.get());
+    keepUntilDone(operation, std::move(request));
   });
 }
 

@@ -60,7 +60,7 @@ struct PulseProcessTapSession::Capture {
       case PA_STREAM_TERMINATED:
         // The monitored stream or the server went away: look again.
         capture->owner.answer([capture](PulseProcessTapSession& session) {
-          if (session.capture_ != capture) return;
+          if (session.capture_.get() != capture) return;
           session.dropCapture();
           session.refresh();
         });
@@ -134,6 +134,7 @@ void PulseProcessTapSession::refresh() {
     struct Listing : PulseRequest<PulseProcessTapSession> {
       std::vector<PlaybackStream> streams;
     };
+    auto listing = std::make_unique<Listing>(Listing{{connection_.get(), this}, {}});
     pa_operation* operation = pa_context_get_sink_input_info_list(
         context,
         [](pa_context*, const pa_sink_input_info* info, int last, void* data) {
@@ -154,10 +155,9 @@ void PulseProcessTapSession::refresh() {
           listing->answer([streams = std::move(listing->streams)](auto& session) {
             session.onStreams(streams);
           });
-          delete listing;
         },
-        new Listing{{connection_.get(), this}, {}});
-    if (operation) pa_operation_unref(operation);
+        listing.get());
+    keepUntilDone(operation, std::move(listing));
   });
 }
 
@@ -201,15 +201,15 @@ void PulseProcessTapSession::readSink(const QByteArray& sink, std::uint32_t stre
           emit session.unavailable(tr("the sound server has no output to listen to"));
         });
       }
-      delete lookup;
     };
-    auto* lookup = new Lookup{{connection_.get(), this}, streamIndex, format, what};
+    auto lookup =
+        std::make_unique<Lookup>(Lookup{{connection_.get(), this}, streamIndex, format, what});
     bool isIndex = false;
     const std::uint32_t index = sink.toUInt(&isIndex);
     pa_operation* operation =
-        isIndex ? pa_context_get_sink_info_by_index(context, index, onSink, lookup)
-                : pa_context_get_sink_info_by_name(context, sink.constData(), onSink, lookup);
-    if (operation) pa_operation_unref(operation);
+        isIndex ? pa_context_get_sink_info_by_index(context, index, onSink, lookup.get())
+                : pa_context_get_sink_info_by_name(context, sink.constData(), onSink, lookup.get());
+    keepUntilDone(operation, std::move(lookup));
   });
 }
 
@@ -221,12 +221,12 @@ void PulseProcessTapSession::capture(const Source& source, std::uint32_t streamI
   // Floats at the output's own rate and channel count; the spectrum mixes them to mono.
   const pa_sample_spec format{PA_SAMPLE_FLOAT32NE, source.format.rate,
                               std::clamp<std::uint8_t>(source.format.channels, 1, PA_CHANNELS_MAX)};
-  auto* capture = new Capture{nullptr,
-                              samples_,
-                              format.channels,
-                              double(format.rate),
-                              what + tr(" on ") + source.sinkName,
-                              {connection_.get(), this}};
+  auto capture = std::make_unique<Capture>(Capture{nullptr,
+                                                   samples_,
+                                                   format.channels,
+                                                   double(format.rate),
+                                                   what + tr(" on ") + source.sinkName,
+                                                   {connection_.get(), this}});
   connection_->run([&](pa_context* context) {
     pa_proplist* properties = pa_proplist_new();
     pa_proplist_sets(properties, PA_PROP_MEDIA_NAME, "Live spectrum");
@@ -239,8 +239,8 @@ void PulseProcessTapSession::capture(const Source& source, std::uint32_t streamI
     pa_proplist_free(properties);
     if (capture->stream == nullptr) return;
     if (streamIndex != PA_INVALID_INDEX) pa_stream_set_monitor_stream(capture->stream, streamIndex);
-    pa_stream_set_read_callback(capture->stream, &Capture::onRead, capture);
-    pa_stream_set_state_callback(capture->stream, &Capture::onState, capture);
+    pa_stream_set_read_callback(capture->stream, &Capture::onRead, capture.get());
+    pa_stream_set_state_callback(capture->stream, &Capture::onState, capture.get());
     // 50 ms per delivery: fresh samples for every bar update (20 a second), few wake-ups.
     pa_buffer_attr buffer{};
     buffer.maxlength = static_cast<std::uint32_t>(-1);
@@ -252,13 +252,12 @@ void PulseProcessTapSession::capture(const Source& source, std::uint32_t streamI
                                        PA_STREAM_DONT_INHIBIT_AUTO_SUSPEND));
   });
   if (capture->stream == nullptr) {
-    delete capture;
     emit unavailable(tr("the sound server refused a capture stream"));
     return;
   }
-  capture_ = capture;
-  capturing_ = streamIndex;
   qCInfo(lcNowPlaying).noquote() << "live spectrum: listening to" << capture->what;
+  capture_ = std::move(capture);
+  capturing_ = streamIndex;
 }
 
 void PulseProcessTapSession::endWhenConnected(pa_stream* stream, void*) {
@@ -290,8 +289,7 @@ void PulseProcessTapSession::dropCapture() {
     pa_stream_disconnect(stream);
     pa_stream_unref(stream);
   });
-  delete capture_;
-  capture_ = nullptr;
+  capture_.reset();
   capturing_ = PA_INVALID_INDEX;
 }
 

@@ -65,7 +65,7 @@ class PulseProcessTapSession final : public ProcessTapSession {
   bool active_ = false;
   SpectrumTarget target_;
   Samples samples_;
-  Capture* capture_ = nullptr;                  // the open capture stream, if any
+  std::unique_ptr<Capture> capture_;            // the open capture stream, if any
   std::uint32_t capturing_ = PA_INVALID_INDEX;  // the stream it monitors; invalid: the output's
   bool lookingUp_ = false;                      // a capture of `lookingFor_` is on its way
   std::uint32_t lookingFor_ = PA_INVALID_INDEX;
