@@ -7,6 +7,7 @@
 #include <QDateTime>
 #include <cstdio>
 
+#include "base/dbus/dbus_reply.h"
 #include "mpris_session.h"
 
 namespace tindra::MprisCommands {
@@ -22,9 +23,7 @@ QVariant property(QDBusConnection& bus, const QString& busName, const QString& n
   QDBusMessage call = QDBusMessage::createMethodCall(busName, objectPath, propertiesInterface,
                                                      QStringLiteral("Get"));
   call << playerInterface << name;
-  const QDBusMessage reply = bus.call(call, QDBus::Block, callTimeout);
-  if (reply.type() != QDBusMessage::ReplyMessage || reply.arguments().isEmpty()) return {};
-  return reply.arguments().front().value<QDBusVariant>().variant();
+  return dbus::variantArgument(bus.call(call, QDBus::Block, callTimeout));
 }
 
 // A one-shot run has no history: a playing player wins, else one with a track.

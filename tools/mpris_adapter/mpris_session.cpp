@@ -1,12 +1,12 @@
 #include "mpris_session.h"
 
 #include <QDBusConnectionInterface>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QTimer>
 #include <cmath>
 #include <cstdio>
+
+#include "base/dbus/dbus_reply.h"
 
 namespace tindra {
 
@@ -17,6 +17,7 @@ const QString objectPath = QStringLiteral("/org/mpris/MediaPlayer2");
 const QString rootInterface = QStringLiteral("org.mpris.MediaPlayer2");
 const QString playerInterface = QStringLiteral("org.mpris.MediaPlayer2.Player");
 const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
+constexpr int callTimeout = 2000;  // a hung player must not hold the others' news back
 
 void complain(const QString& busName, const QString& what) {
   std::fprintf(stderr, "tindra-mpris-adapter: %s: %s\n", qPrintable(busName), qPrintable(what));
@@ -89,16 +90,14 @@ void MprisSession::readProcess(const QString& busName) {
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
       QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetConnectionUnixProcessID"));
   call << busName;
-  auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call, 2000), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this,
-          [this, busName](QDBusPendingCallWatcher* reply) {
-            reply->deleteLater();
-            const QDBusPendingReply<uint> process = *reply;
-            auto player = players_.find(busName);
-            if (player == players_.end() || process.isError()) return;
-            player->processIdentifier = process.value();
-            emit changed();
-          });
+  whenAnswered(bus_.asyncCall(call, callTimeout), this,
+               [this, busName](const QDBusMessage& answer) {
+                 auto player = players_.find(busName);
+                 const std::optional<uint> process = dbus::argument<uint>(answer);
+                 if (player == players_.end() || !process) return;
+                 player->processIdentifier = *process;
+                 emit changed();
+               });
 }
 
 void MprisSession::removePlayer(const QString& busName) {
@@ -114,27 +113,26 @@ void MprisSession::readAll(const QString& busName) {
     QDBusMessage call = QDBusMessage::createMethodCall(busName, objectPath, propertiesInterface,
                                                        QStringLiteral("GetAll"));
     call << interface;
-    auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call, 2000), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [this, busName, interface](QDBusPendingCallWatcher* reply) {
-              reply->deleteLater();
-              const QDBusPendingReply<QVariantMap> properties = *reply;
-              auto player = players_.find(busName);
-              if (player == players_.end()) return;
-              if (properties.isError()) {
-                complain(busName, properties.error().message());
-                return;
-              }
-              if (interface == rootInterface) {
-                player->desktopEntry =
-                    unwrapped(properties.value().value(QStringLiteral("DesktopEntry"))).toString();
-                emit changed();
-                return;
-              }
-              apply(*player, properties.value());
-              readPosition(busName);
-              emit changed();
-            });
+    whenAnswered(bus_.asyncCall(call, callTimeout), this,
+                 [this, busName, interface](const QDBusMessage& answer) {
+                   auto player = players_.find(busName);
+                   if (player == players_.end()) return;
+                   const std::optional<QVariantMap> properties =
+                       dbus::argument<QVariantMap>(answer);
+                   if (!properties) {
+                     complain(busName, answer.errorMessage());
+                     return;
+                   }
+                   if (interface == rootInterface) {
+                     player->desktopEntry =
+                         unwrapped(properties->value(QStringLiteral("DesktopEntry"))).toString();
+                     emit changed();
+                     return;
+                   }
+                   apply(*player, *properties);
+                   readPosition(busName);
+                   emit changed();
+                 });
   }
 }
 
@@ -142,27 +140,25 @@ void MprisSession::readPosition(const QString& busName, bool retry) {
   QDBusMessage call = QDBusMessage::createMethodCall(busName, objectPath, propertiesInterface,
                                                      QStringLiteral("Get"));
   call << playerInterface << QStringLiteral("Position");
-  auto* watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call, 2000), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this,
-          [this, busName, retry](QDBusPendingCallWatcher* reply) {
-            reply->deleteLater();
-            const QDBusPendingReply<QDBusVariant> position = *reply;
-            auto player = players_.find(busName);
-            if (player == players_.end()) return;
-            // A player still loading the next track may refuse once; ask again a moment later.
-            if (position.isError() && retry) {
-              QTimer::singleShot(positionRetryMilliseconds, this,
-                                 [this, busName] { readPosition(busName, false); });
-              return;
-            }
-            bool ok = false;
-            const qlonglong micros =
-                position.isError() ? 0 : position.value().variant().toLongLong(&ok);
-            // Players without a position (some browsers) answer with an error or nonsense.
-            player->positionMicros = ok && micros >= 0 ? std::optional(micros) : std::nullopt;
-            player->sampledAtMicros = now_();
-            emit changed();
-          });
+  whenAnswered(bus_.asyncCall(call, callTimeout), this,
+               [this, busName, retry](const QDBusMessage& answer) {
+                 auto player = players_.find(busName);
+                 if (player == players_.end()) return;
+                 const bool refused = answer.type() == QDBusMessage::ErrorMessage;
+                 // A player still loading the next track may refuse once; ask again a moment
+                 // later.
+                 if (refused && retry) {
+                   QTimer::singleShot(positionRetryMilliseconds, this,
+                                      [this, busName] { readPosition(busName, false); });
+                   return;
+                 }
+                 bool ok = false;
+                 const qlonglong micros = dbus::variantArgument(answer).toLongLong(&ok);
+                 // Players without a position (some browsers) answer with an error or nonsense.
+                 player->positionMicros = ok && micros >= 0 ? std::optional(micros) : std::nullopt;
+                 player->sampledAtMicros = now_();
+                 emit changed();
+               });
 }
 
 bool MprisSession::apply(MprisPlayerState& player, const QVariantMap& properties) {

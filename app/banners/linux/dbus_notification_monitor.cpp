@@ -2,13 +2,12 @@
 
 #include <dbus/dbus.h>
 
-#include <QDBusMessage>
 #include <QTimer>
+#include <QtConcurrent/QtConcurrentRun>
 #include <algorithm>
 
 #include "base/assign_if_changed.h"
 #include "base/dbus/dbus_names.h"
-#include "base/dbus/dbus_reply.h"
 #include "base/logging_categories.h"
 
 namespace tindra {
@@ -136,7 +135,49 @@ std::string text(const char* value) {
   return value ? value : "";
 }
 
+void closeConnection(DBusConnection* connection) {
+  if (!connection) return;
+  dbus_connection_close(connection);
+  dbus_connection_unref(connection);
+}
+
 }  // namespace
+
+struct DBusNotificationMonitor::Opened {
+  std::shared_ptr<DBusConnection> connection;  // closed when its last holder lets go
+  QString error;
+};
+
+// Both steps wait for the bus (BecomeMonitor is answered by the bus itself, at once), so this runs
+// on a worker thread; the connection is handed to the main thread unused.
+DBusNotificationMonitor::Opened DBusNotificationMonitor::open(
+    const std::vector<QByteArray>& rules) {
+  DBusError error;
+  dbus_error_init(&error);
+  std::shared_ptr<DBusConnection> connection(dbus_bus_get_private(DBUS_BUS_SESSION, &error),
+                                             closeConnection);
+  if (connection) {
+    dbus_connection_set_exit_on_disconnect(connection.get(), FALSE);
+    std::vector<const char*> list;
+    for (const QByteArray& rule : rules) list.push_back(rule.constData());
+    const char** ruleList = list.data();
+    DBusMessage* call =
+        dbus_message_new_method_call("org.freedesktop.DBus", "/org/freedesktop/DBus",
+                                     "org.freedesktop.DBus.Monitoring", "BecomeMonitor");
+    const dbus_uint32_t flags = 0;
+    dbus_message_append_args(call, DBUS_TYPE_ARRAY, DBUS_TYPE_STRING, &ruleList,
+                             static_cast<int>(list.size()), DBUS_TYPE_UINT32, &flags,
+                             DBUS_TYPE_INVALID);
+    DBusMessage* reply = dbus_connection_send_with_reply_and_block(connection.get(), call,
+                                                                   becomeMonitorTimeoutMs, &error);
+    dbus_message_unref(call);
+    if (reply) dbus_message_unref(reply);
+  }
+  if (!dbus_error_is_set(&error)) return {std::move(connection), {}};
+  Opened failed{nullptr, QString::fromUtf8(error.message)};
+  dbus_error_free(&error);
+  return failed;
+}
 
 // The notifiers are the monitor's children and leave through deleteLater: libdbus may drop a
 // watch while its notifier is telling of activity.
@@ -154,18 +195,22 @@ struct DBusNotificationMonitor::Watch {
   }
 };
 
+// The server is never started for the monitor: the monitor only watches the one the desktop runs.
 DBusNotificationMonitor::DBusNotificationMonitor(QDBusConnection bus, QObject* parent)
-    : NotificationSource(parent),
-      bus_(std::move(bus)),
-      watcher_(dbus::notificationsService, bus_, QDBusServiceWatcher::WatchForOwnerChange) {
+    : NotificationSource(parent), server_(std::move(bus), dbus::notificationsService) {
   setCheck(DiagnosticsLog::Outcome::ok,
            Sentence(QT_TR_NOOP("calls and messages are off: notifications are not read"), tr));
-  connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
-          [this](const QString&, const QString& oldOwner, const QString& newOwner) {
-            if (!running_) return;
-            if (!oldOwner.isEmpty()) emit serverGone();
-            attach(newOwner);
-          });
+  connect(&server_, &DBusServiceFollower::appeared, this, [this] {
+    if (running_) attach(server_.owner());
+  });
+  connect(&server_, &DBusServiceFollower::missing, this, [this] {
+    if (running_) attach(QString());
+  });
+  connect(&server_, &DBusServiceFollower::vanished, this, [this] {
+    if (!running_) return;
+    emit serverGone();
+    attach(QString());
+  });
 }
 
 DBusNotificationMonitor::~DBusNotificationMonitor() {
@@ -175,15 +220,8 @@ DBusNotificationMonitor::~DBusNotificationMonitor() {
 void DBusNotificationMonitor::start() {
   if (running_) return;
   running_ = true;
-  QDBusMessage call = QDBusMessage::createMethodCall(
-      QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
-      QStringLiteral("org.freedesktop.DBus"), QStringLiteral("GetNameOwner"));
-  call << dbus::notificationsService;
-  whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
-    if (!running_ || monitor_) return;
-    attach(answer.type() == QDBusMessage::ReplyMessage ? answer.arguments().value(0).toString()
-                                                       : QString());
-  });
+  server_.start();
+  if (server_.settled()) attach(server_.owner());  // started before, and stopped since
 }
 
 void DBusNotificationMonitor::stop() {
@@ -213,41 +251,27 @@ std::vector<QByteArray> DBusNotificationMonitor::rules() const {
 void DBusNotificationMonitor::attach(const QString& owner) {
   detach();
   owner_ = owner;
-  DBusError error;
-  dbus_error_init(&error);
-  monitor_ = dbus_bus_get_private(DBUS_BUS_SESSION, &error);
-  if (monitor_) {
-    dbus_connection_set_exit_on_disconnect(monitor_, FALSE);
-    const std::vector<QByteArray> texts = rules();
-    std::vector<const char*> list;
-    for (const QByteArray& rule : texts) list.push_back(rule.constData());
-    const char** ruleList = list.data();
-    DBusMessage* call =
-        dbus_message_new_method_call("org.freedesktop.DBus", "/org/freedesktop/DBus",
-                                     "org.freedesktop.DBus.Monitoring", "BecomeMonitor");
-    const dbus_uint32_t flags = 0;
-    dbus_message_append_args(call, DBUS_TYPE_ARRAY, DBUS_TYPE_STRING, &ruleList,
-                             static_cast<int>(list.size()), DBUS_TYPE_UINT32, &flags,
-                             DBUS_TYPE_INVALID);
-    // Answered by the bus itself, at once; everything after it arrives through the notifiers.
-    DBusMessage* reply =
-        dbus_connection_send_with_reply_and_block(monitor_, call, becomeMonitorTimeoutMs, &error);
-    dbus_message_unref(call);
-    if (reply) dbus_message_unref(reply);
-  }
-  if (dbus_error_is_set(&error)) {
+  QtConcurrent::run(&DBusNotificationMonitor::open, rules())
+      .then(this, [this, attempt = attempt_](QFuture<Opened> done) {
+        // Taken, not copied: the connection closes with its last holder.
+        Opened opened = done.takeResult();
+        if (attempt == attempt_) listen(std::move(opened));
+      });
+}
+
+void DBusNotificationMonitor::listen(Opened opened) {
+  if (!opened.connection) {
     setCheck(
         DiagnosticsLog::Outcome::failed,
         Sentence(QT_TR_NOOP("the session bus does not let Tindra read notifications (%1): no calls "
                             "or messages are shown"),
                  tr)
-            .arg(QString::fromUtf8(error.message)));
-    dbus_error_free(&error);
-    detach();
+            .arg(opened.error));
     return;
   }
+  monitor_ = std::move(opened.connection);
   dbus_connection_add_filter(
-      monitor_,
+      monitor_.get(),
       [](DBusConnection*, DBusMessage* message, void* self) {
         static_cast<DBusNotificationMonitor*>(self)->take(message);
         // Everything is "handled": libdbus would otherwise answer method calls, and a monitor
@@ -255,7 +279,8 @@ void DBusNotificationMonitor::attach(const QString& owner) {
         return DBUS_HANDLER_RESULT_HANDLED;
       },
       this, nullptr);
-  dbus_connection_set_watch_functions(monitor_, addWatch, removeWatch, toggleWatch, this, nullptr);
+  dbus_connection_set_watch_functions(monitor_.get(), addWatch, removeWatch, toggleWatch, this,
+                                      nullptr);
   qCInfo(lcBanners) << "Reading notification banners for calls and messages";
   if (owner_.isEmpty()) {
     setCheck(
@@ -272,20 +297,19 @@ void DBusNotificationMonitor::attach(const QString& owner) {
 }
 
 void DBusNotificationMonitor::detach() {
+  ++attempt_;  // a connection still being opened is closed as it arrives
   unanswered_.clear();
   if (!monitor_) return;
-  dbus_connection_set_watch_functions(monitor_, nullptr, nullptr, nullptr, nullptr, nullptr);
+  dbus_connection_set_watch_functions(monitor_.get(), nullptr, nullptr, nullptr, nullptr, nullptr);
   watches_.clear();
-  dbus_connection_close(monitor_);
-  dbus_connection_unref(monitor_);
-  monitor_ = nullptr;
+  monitor_.reset();
 }
 
 void DBusNotificationMonitor::dispatch() {
   if (!monitor_) return;
-  while (dbus_connection_dispatch(monitor_) == DBUS_DISPATCH_DATA_REMAINS) {
+  while (dbus_connection_dispatch(monitor_.get()) == DBUS_DISPATCH_DATA_REMAINS) {
   }
-  if (!dbus_connection_get_is_connected(monitor_)) {
+  if (!dbus_connection_get_is_connected(monitor_.get())) {
     detach();
     setCheck(DiagnosticsLog::Outcome::failed,
              Sentence(QT_TR_NOOP("the session bus closed the notification monitor: no calls or "

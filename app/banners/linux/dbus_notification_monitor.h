@@ -5,12 +5,12 @@
 // org.gtk.Notifications (GNOME's own applications and sandboxed ones through the notification
 // portal send theirs there), so it wakes only when a notification is sent or closed. A
 // monitor can never send, so this connection is libdbus's own, driven by socket notifiers on the
-// Qt event loop; the server's arrival and departure are followed on Qt's session bus, and the
-// monitor is attached anew for each server.
+// Qt event loop; it is opened and made a monitor on a worker thread, as both wait for the bus.
+// The server's arrival and departure are followed on Qt's session bus, and the monitor is
+// attached anew for each server.
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusServiceWatcher>
 #include <QSocketNotifier>
 #include <cstdint>
 #include <deque>
@@ -20,6 +20,7 @@
 #include <vector>
 
 #include "banners/notification_source.h"
+#include "base/dbus/dbus_service_follower.h"
 
 struct DBusConnection;
 struct DBusMessage;
@@ -39,6 +40,7 @@ class DBusNotificationMonitor final : public NotificationSource {
   void stop() override;
 
  private:
+  struct Opened;
   struct Watch;
   struct Sent {
     std::string sender;
@@ -47,7 +49,11 @@ class DBusNotificationMonitor final : public NotificationSource {
   };
 
   std::vector<QByteArray> rules() const;
+  // A connection of its own to the session bus, made a monitor of `rules`. Blocks: worker
+  // threads only.
+  static Opened open(const std::vector<QByteArray>& rules);
   void attach(const QString& owner);
+  void listen(Opened opened);
   void detach();
   void dispatch();
   void take(DBusMessage* message);
@@ -59,11 +65,11 @@ class DBusNotificationMonitor final : public NotificationSource {
   static void removeWatch(DBusWatch* watch, void* self);
   static void toggleWatch(DBusWatch* watch, void* self);
 
-  QDBusConnection bus_;
-  QDBusServiceWatcher watcher_;
+  DBusServiceFollower server_;
   bool running_ = false;
   QString owner_;
-  DBusConnection* monitor_ = nullptr;
+  quint64 attempt_ = 0;  // counts attaches, so that a connection opened too late is dropped
+  std::shared_ptr<DBusConnection> monitor_;
   std::vector<std::unique_ptr<Watch>> watches_;
   std::deque<Sent> unanswered_;  // Notify calls waiting for the server's number
   std::map<std::string, quint32> gtkNumbers_;

@@ -308,14 +308,19 @@ class DesktopLockTest : public ::testing::Test {
     logind_ = std::make_unique<DBusMockService>(QDBusConnection::systemBus(),
                                                 QStringLiteral("org.freedesktop.login1"),
                                                 QStringList{"--template", "logind"});
-    if (!logind_->start(&startError_)) {
+    if (!startLogind()) {
       logind_.reset();
       return;
     }
-    logind_->call(
-        QStringLiteral("/org/freedesktop/login1"), "AddSession",
-        {QStringLiteral("c7"), QStringLiteral("seat0"), 1000u, QStringLiteral("ana"), true});
     qputenv("XDG_SESSION_ID", "c7");
+  }
+  // logind with this process's session c7, as each start of the mock begins without it.
+  static bool startLogind() {
+    if (!logind_->start(&startError_)) return false;
+    return logind_
+        ->call(QStringLiteral("/org/freedesktop/login1"), "AddSession",
+               {QStringLiteral("c7"), QStringLiteral("seat0"), 1000u, QStringLiteral("ana"), true})
+        .isEmpty();
   }
   static void TearDownTestSuite() { logind_.reset(); }
 
@@ -390,6 +395,28 @@ TEST_F(DesktopLockTest, AStopWhileLockedIsFoundAtTheNextStart) {
   EXPECT_FALSE(settings.read(settings::experimentalLockScreen));
   EXPECT_EQ(LockScreenNotice::fromSettingText(settings.read(settings::lockScreenNotice))->reason,
             LockScreenNotice::Reason::stoppedWhileLocked);
+  session("Unlock");
+}
+
+TEST_F(DesktopLockTest, LogindMissingAtStartOrLeavingIsSaidAndFollowedWhenItComes) {
+  ASSERT_TRUE(logind_->stop());
+  LogindLockSource source(QDBusConnection::systemBus(), QDBusConnection::sessionBus());
+  QSignalSpy changes(&source, &LockStateSource::changed);
+  source.start();
+  ASSERT_TRUE(waitFor([&] { return source.check().text.english().contains("does not answer"); }));
+  EXPECT_EQ(source.check().outcome, DiagnosticsLog::Outcome::degraded);
+
+  ASSERT_TRUE(startLogind()) << startError_.toStdString();
+  ASSERT_TRUE(waitFor([&] { return source.check().text.english().contains(sessionPath); }));
+  ASSERT_TRUE(logind_->stop());
+  ASSERT_TRUE(waitFor([&] { return source.check().text.english().contains("went away"); }));
+  ASSERT_TRUE(startLogind()) << startError_.toStdString();
+  ASSERT_TRUE(waitFor([&] { return source.check().text.english().contains(sessionPath); }));
+
+  // The session's signals are heard from the new logind.
+  session("Lock");
+  ASSERT_TRUE(waitFor([&] { return changes.count() == 1; }));
+  EXPECT_EQ(changes[0][0].value<LockScreenPresence::Event>(), LockScreenPresence::Event::locked);
   session("Unlock");
 }
 

@@ -5,6 +5,8 @@
 
 namespace tindra::dbus {
 
+inline const QString busService = QStringLiteral("org.freedesktop.DBus");
+inline const QString busPath = QStringLiteral("/org/freedesktop/DBus");
 inline const QString properties = QStringLiteral("org.freedesktop.DBus.Properties");
 inline const QString upowerService = QStringLiteral("org.freedesktop.UPower");
 inline const QString upowerPath = QStringLiteral("/org/freedesktop/UPower");

@@ -5,9 +5,8 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusServiceWatcher>
-#include <QVariantMap>
 
+#include "base/dbus/dbus_service_follower.h"
 #include "focus/focus_status_source.h"
 
 namespace tindra {
@@ -20,17 +19,13 @@ class NotificationServerFocusSource final : public FocusStatusSource {
 
   void start() override;
 
- private slots:
-  void onPropertiesChanged(const QString& interface, const QVariantMap& changed,
-                           const QStringList& invalidated);
-
  private:
-  void read();
-  // What the server answered, and how it went.
-  void take(std::optional<bool> focused, const ServiceCheck& check);
+  static Sentence reading();
+  static Sentence noProperty();
+  // What the server said, and how it went.
+  void take(std::optional<bool> focused, const Sentence& check);
 
-  QDBusConnection bus_;
-  QDBusServiceWatcher watcher_;
+  DBusServiceFollower server_;
 };
 
 }  // namespace tindra

@@ -1,17 +1,18 @@
 #include "levels/linux/sysfs_backlight_backend.h"
 
-#include <QDBusConnectionInterface>
+#include <QDBusMessage>
 #include <QDir>
 #include <QFile>
 #include <algorithm>
 #include <cmath>
 
-#include "base/dbus/dbus_reply.h"
 #include "base/logging_categories.h"
 
 namespace tindra {
 
 namespace {
+
+const QString logind = QStringLiteral("org.freedesktop.login1");
 
 std::optional<int> readNumber(const QString& path) {
   QFile file(path);
@@ -33,7 +34,20 @@ int typeRank(const QString& deviceFolder) {
 
 SysfsBacklightBackend::SysfsBacklightBackend(QString folder, QDBusConnection systemBus,
                                              QObject* parent)
-    : BacklightBackend(parent), folder_(std::move(folder)), bus_(std::move(systemBus)) {
+    : BacklightBackend(parent), folder_(std::move(folder)), logind_(std::move(systemBus), logind) {
+  connect(&logind_, &DBusServiceFollower::appeared, this, [this] {
+    setAccess(BrightnessAccess::readWrite, DiagnosticsLog::Outcome::ok,
+              Sentence(QT_TR_NOOP("%1, set through logind"), tr).arg(device_));
+  });
+  const auto withoutLogind = [this] {
+    setAccess(BrightnessAccess::readOnly, DiagnosticsLog::Outcome::degraded,
+              Sentence(QT_TR_NOOP("%1 is shown; logind is not running, so the brightness keys "
+                                  "stay with the desktop"),
+                       tr)
+                  .arg(device_));
+  };
+  connect(&logind_, &DBusServiceFollower::missing, this, withoutLogind);
+  connect(&logind_, &DBusServiceFollower::vanished, this, withoutLogind);
   connect(&watcher_, &QFileSystemWatcher::fileChanged, this, [this](const QString& path) {
     // A file replaced rather than rewritten drops out of the watch.
     if (!watcher_.files().contains(path) && QFile::exists(path)) watcher_.addPath(path);
@@ -66,19 +80,11 @@ void SysfsBacklightBackend::start() {
   watcher_.addPaths(
       {path + QStringLiteral("/brightness"), path + QStringLiteral("/actual_brightness")});
   read();
-  const bool logind =
-      bus_.isConnected() && bus_.interface() != nullptr &&
-      bus_.interface()->isServiceRegistered(QStringLiteral("org.freedesktop.login1"));
-  if (logind) {
-    setAccess(BrightnessAccess::readWrite, DiagnosticsLog::Outcome::ok,
-              Sentence(QT_TR_NOOP("%1, set through logind"), tr).arg(device_));
-  } else {
-    setAccess(BrightnessAccess::readOnly, DiagnosticsLog::Outcome::degraded,
-              Sentence(QT_TR_NOOP("%1 is shown; logind is not running, so the brightness keys "
-                                  "stay with the desktop"),
-                       tr)
-                  .arg(device_));
-  }
+  // Shown at once; set only once logind is known to be there.
+  setAccess(
+      BrightnessAccess::readOnly, DiagnosticsLog::Outcome::ok,
+      Sentence(QT_TR_NOOP("%1 is shown; asking whether logind runs to set it"), tr).arg(device_));
+  logind_.start();
 }
 
 void SysfsBacklightBackend::read() {
@@ -99,11 +105,10 @@ void SysfsBacklightBackend::setLevel(double level) {
   const auto value =
       static_cast<uint>(std::max(1L, std::lround(std::clamp(level, 0.0, 1.0) * maximum_)));
   QDBusMessage call = QDBusMessage::createMethodCall(
-      QStringLiteral("org.freedesktop.login1"),
-      QStringLiteral("/org/freedesktop/login1/session/auto"),
+      logind, QStringLiteral("/org/freedesktop/login1/session/auto"),
       QStringLiteral("org.freedesktop.login1.Session"), QStringLiteral("SetBrightness"));
   call << QStringLiteral("backlight") << device_ << value;
-  whenAnswered(bus_.asyncCall(call), this, [this, level](const QDBusMessage& answer) {
+  logind_.call(call, [this, level](const QDBusMessage& answer) {
     if (answer.type() == QDBusMessage::ErrorMessage) {
       qCWarning(lcHud).noquote() << "logind did not set the brightness:" << answer.errorMessage();
       setAccess(BrightnessAccess::readOnly, DiagnosticsLog::Outcome::degraded,

@@ -2,13 +2,14 @@
 // /sys/class/backlight/<device>/actual_brightness over max_brightness; changes are seen through
 // inotify on the device's files (a write through sysfs, or the kernel announcing a hotkey
 // change), never by polling. Writes go through logind's SetBrightness on the user's own session,
-// which needs no root. With no backlight the keys stay with the desktop; without logind the
-// level is only shown.
+// which needs no root; logind is followed as it comes and goes. With no backlight the keys stay
+// with the desktop; without logind the level is only shown.
 #pragma once
 
 #include <QDBusConnection>
 #include <QFileSystemWatcher>
 
+#include "base/dbus/dbus_service_follower.h"
 #include "levels/backlight_backend.h"
 
 namespace tindra {
@@ -32,7 +33,7 @@ class SysfsBacklightBackend final : public BacklightBackend {
   void read();
 
   QString folder_;
-  QDBusConnection bus_;
+  DBusServiceFollower logind_;
   QString device_;
   int maximum_ = 0;
   QFileSystemWatcher watcher_;

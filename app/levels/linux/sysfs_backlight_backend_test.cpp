@@ -74,9 +74,9 @@ TEST_F(SysfsBacklightBackendTest, FollowsTheKernelAndWritesThroughLogind) {
   SysfsBacklightBackend backend(folder_->path(), QDBusConnection::systemBus());
   QSignalSpy written(&backend, &BacklightBackend::writeFinished);
   backend.start();
-  ASSERT_TRUE(backend.reading());
+  ASSERT_TRUE(backend.reading());  // shown at once, set once logind is known to run
   EXPECT_EQ(backend.reading()->level, 0.5);
-  EXPECT_EQ(backend.access(), BrightnessAccess::readWrite);
+  ASSERT_TRUE(waitFor([&] { return backend.access() == BrightnessAccess::readWrite; }));
   EXPECT_TRUE(backend.check().text.english().contains("acpi_video0"));
 
   writeFile(path("actual_brightness"), "80");  // the firmware handled a hotkey
@@ -93,10 +93,11 @@ TEST_F(SysfsBacklightBackendTest, FollowsTheKernelAndWritesThroughLogind) {
   EXPECT_EQ(readFile(path("brightness")), "1");
 }
 
-TEST_F(SysfsBacklightBackendTest, WithoutLogindTheLevelIsOnlyShown) {
+TEST_F(SysfsBacklightBackendTest, WithoutLogindTheLevelIsOnlyShownUntilLogindReturns) {
   ASSERT_EQ(logind_->call("/org/freedesktop/login1", "SetRefuse", {true}), QString());
   SysfsBacklightBackend refused(folder_->path(), QDBusConnection::systemBus());
   refused.start();
+  ASSERT_TRUE(waitFor([&] { return refused.access() == BrightnessAccess::readWrite; }));
   refused.setLevel(0.9);
   ASSERT_TRUE(waitFor([&] { return refused.access() == BrightnessAccess::readOnly; }));
   EXPECT_TRUE(refused.check().text.english().contains("AccessDenied"));
@@ -108,7 +109,17 @@ TEST_F(SysfsBacklightBackendTest, WithoutLogindTheLevelIsOnlyShown) {
   alone.start();
   EXPECT_EQ(alone.access(), BrightnessAccess::readOnly);
   EXPECT_EQ(alone.reading()->level, 0.5);
+  ASSERT_TRUE(waitFor([&] { return alone.check().text.english().contains("not running"); }));
+  // logind starting later, going and coming back is followed.
   ASSERT_TRUE(logind_->start(&startError_));
+  ASSERT_TRUE(waitFor([&] { return alone.access() == BrightnessAccess::readWrite; }));
+  ASSERT_TRUE(logind_->stop());
+  ASSERT_TRUE(waitFor([&] { return alone.access() == BrightnessAccess::readOnly; }));
+  EXPECT_EQ(alone.check().outcome, DiagnosticsLog::Outcome::degraded);
+  ASSERT_TRUE(logind_->start(&startError_));
+  ASSERT_TRUE(waitFor([&] { return alone.access() == BrightnessAccess::readWrite; }));
+  alone.setLevel(0.3);
+  ASSERT_TRUE(waitFor([&] { return readFile(path("brightness")) == "30"; }));
 
   QTemporaryDir empty;
   SysfsBacklightBackend none(empty.path(), QDBusConnection::systemBus());

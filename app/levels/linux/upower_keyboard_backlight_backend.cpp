@@ -15,70 +15,65 @@ const QString path = QStringLiteral("/org/freedesktop/UPower/KbdBacklight");
 const QString interface = QStringLiteral("org.freedesktop.UPower.KbdBacklight");
 const QString device = QStringLiteral("kbd_backlight");
 
-std::optional<int> intAnswer(const QDBusMessage& answer) {
-  if (answer.type() != QDBusMessage::ReplyMessage || answer.arguments().size() != 1 ||
-      answer.arguments().front().typeId() != QMetaType::Int) {
-    return std::nullopt;
-  }
-  return answer.arguments().front().toInt();
+QDBusMessage lightCall(const QString& method) {
+  return QDBusMessage::createMethodCall(dbus::upowerService, path, interface, method);
 }
 
 }  // namespace
 
 UPowerKeyboardBacklightBackend::UPowerKeyboardBacklightBackend(QDBusConnection bus, QObject* parent)
     : BacklightBackend(parent),
-      bus_(std::move(bus)),
-      watcher_(dbus::upowerService, bus_,
-               QDBusServiceWatcher::WatchForRegistration |
-                   QDBusServiceWatcher::WatchForUnregistration) {}
-
-void UPowerKeyboardBacklightBackend::start() {
-  bus_.connect(dbus::upowerService, path, interface, QStringLiteral("BrightnessChanged"), this,
-               SLOT(onBrightnessChanged(int)));
-  connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this,
+      upower_(std::move(bus), dbus::upowerService, {}, DBusServiceFollower::Activation::start) {
+  connect(&upower_, &DBusServiceFollower::appeared, this,
           &UPowerKeyboardBacklightBackend::readMaximum);
-  connect(&watcher_, &QDBusServiceWatcher::serviceUnregistered, this, [this] {
-    maximum_ = 0;
-    forgetReading();
-    setAccess(
-        BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-        Sentence(QT_TR_NOOP("UPower went away: the keyboard light keys stay with the desktop"),
-                 tr));
+  connect(&upower_, &DBusServiceFollower::missing, this, [this](const QDBusError& error) {
+    unavailable(noBacklight(Sentence::verbatim(error.name())));
   });
-  readMaximum();
+  connect(&upower_, &DBusServiceFollower::vanished, this, [this] {
+    unavailable(Sentence(
+        QT_TR_NOOP("UPower went away: the keyboard light keys stay with the desktop"), tr));
+  });
+  connect(&upower_, &DBusServiceFollower::signalReceived, this, [this](const QDBusMessage& news) {
+    if (const auto value = dbus::argument<int>(news)) onBrightnessChanged(*value);
+  });
 }
 
-QDBusMessage UPowerKeyboardBacklightBackend::call(const QString& method) const {
-  return QDBusMessage::createMethodCall(dbus::upowerService, path, interface, method);
+void UPowerKeyboardBacklightBackend::start() {
+  upower_.followSignal(path, interface, QStringLiteral("BrightnessChanged"));
+  upower_.start();
+}
+
+Sentence UPowerKeyboardBacklightBackend::noBacklight(const Sentence& why) {
+  return Sentence(QT_TR_NOOP("UPower reports no keyboard backlight (%1)"), tr).arg(why);
+}
+
+void UPowerKeyboardBacklightBackend::unavailable(const Sentence& why) {
+  maximum_ = 0;
+  forgetReading();
+  setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded, why);
 }
 
 void UPowerKeyboardBacklightBackend::readMaximum() {
-  whenAnswered(bus_.asyncCall(call(QStringLiteral("GetMaxBrightness"))), this,
-               [this](const QDBusMessage& answer) {
-                 maximum_ = intAnswer(answer).value_or(0);
-                 if (maximum_ <= 0) {
-                   forgetReading();
-                   setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-                             Sentence(QT_TR_NOOP("UPower reports no keyboard backlight (%1)"), tr)
-                                 .arg(answer.type() == QDBusMessage::ErrorMessage
-                                          ? Sentence::verbatim(answer.errorName())
-                                          : Sentence(QT_TR_NOOP("no levels"), tr)));
-                   return;
-                 }
-                 readLevel([this] {
-                   setAccess(
-                       BrightnessAccess::readWrite, DiagnosticsLog::Outcome::ok,
-                       Sentence(QT_TR_NOOP("keyboard backlight through UPower, %1 levels"), tr)
-                           .arg(maximum_ + 1));
-                 });
-               });
+  upower_.call(lightCall(QStringLiteral("GetMaxBrightness")), [this](const QDBusMessage& answer) {
+    maximum_ = dbus::argument<int>(answer).value_or(0);
+    if (maximum_ <= 0) {
+      unavailable(noBacklight(answer.type() == QDBusMessage::ErrorMessage
+                                  ? Sentence::verbatim(answer.errorName())
+                                  : Sentence(QT_TR_NOOP("no levels"), tr)));
+      return;
+    }
+    readLevel([this] {
+      setAccess(BrightnessAccess::readWrite, DiagnosticsLog::Outcome::ok,
+                Sentence(QT_TR_NOOP("keyboard backlight through UPower, %1 levels"), tr)
+                    .arg(maximum_ + 1));
+    });
+  });
 }
 
 void UPowerKeyboardBacklightBackend::readLevel(std::function<void()> then) {
-  whenAnswered(bus_.asyncCall(call(QStringLiteral("GetBrightness"))), this,
+  upower_.call(lightCall(QStringLiteral("GetBrightness")),
                [this, then = std::move(then)](const QDBusMessage& answer) {
-                 if (const std::optional<int> value = intAnswer(answer))
-                   onBrightnessChanged(*value);
+                 if (const auto value = dbus::argument<int>(answer)) onBrightnessChanged(*value);
                  if (then) then();
                });
 }
@@ -100,9 +95,9 @@ void UPowerKeyboardBacklightBackend::onBrightnessChanged(int value) {
 
 void UPowerKeyboardBacklightBackend::setLevel(double level) {
   if (access() != BrightnessAccess::readWrite) return;
-  QDBusMessage message = call(QStringLiteral("SetBrightness"));
+  QDBusMessage message = lightCall(QStringLiteral("SetBrightness"));
   message << static_cast<int>(std::lround(std::clamp(level, 0.0, 1.0) * maximum_));
-  whenAnswered(bus_.asyncCall(message), this, [this, level](const QDBusMessage&) {
+  upower_.call(message, [this, level](const QDBusMessage&) {
     // Whatever UPower answered, what counts is where the light is now.
     readLevel([this, level] { emit writeFinished(level, reading() ? reading()->level : 0); });
   });

@@ -5,8 +5,8 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusServiceWatcher>
 
+#include "base/dbus/dbus_service_follower.h"
 #include "levels/backlight_backend.h"
 
 namespace tindra {
@@ -20,16 +20,14 @@ class UPowerKeyboardBacklightBackend final : public BacklightBackend {
   void start() override;
   void setLevel(double level) override;
 
- private slots:
-  void onBrightnessChanged(int value);
-
  private:
-  QDBusMessage call(const QString& method) const;
   void readMaximum();
   void readLevel(std::function<void()> then = {});
+  void onBrightnessChanged(int value);
+  static Sentence noBacklight(const Sentence& why);
+  void unavailable(const Sentence& why);
 
-  QDBusConnection bus_;
-  QDBusServiceWatcher watcher_;
+  DBusServiceFollower upower_;
   int maximum_ = 0;
 };
 

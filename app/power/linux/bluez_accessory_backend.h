@@ -8,13 +8,11 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusServiceWatcher>
 #include <QVariantMap>
 #include <map>
 
+#include "base/dbus/dbus_service_follower.h"
 #include "power/accessory_backend.h"
-
-class QDBusMessage;
 
 namespace tindra {
 
@@ -30,14 +28,6 @@ class BlueZAccessoryBackend final : public AccessoryBackend {
   // One BlueZ device's properties (and Battery1 percentage, if any) as an accessory.
   static BluetoothAccessory accessoryOf(const QVariantMap& device, std::optional<int> battery);
 
- private slots:
-  void onInterfacesAdded(const QDBusMessage& message);
-  void onInterfacesRemoved(const QDBusMessage& message);
-  void onBlueZProperties(const QDBusMessage& message);
-  void onUPowerDeviceAdded(const QDBusMessage& message);
-  void onUPowerDeviceRemoved(const QDBusMessage& message);
-  void onUPowerProperties(const QDBusMessage& message);
-
  private:
   struct Device {
     QVariantMap properties;      // org.bluez.Device1
@@ -48,18 +38,26 @@ class BlueZAccessoryBackend final : public AccessoryBackend {
     std::optional<int> battery;
   };
 
+  void followBlueZ();
+  void followUPower();
   void readBlueZ();
   void readUPower();
   void readPeripheral(const QString& path);
-  void applyInterfaces(const QString& path, const QVariant& interfaces);
+  void onBlueZSignal(const QDBusMessage& message);
+  void onUPowerSignal(const QDBusMessage& message);
+  void applyInterfaces(const QString& path, const QMap<QString, QVariantMap>& interfaces);
+  void removeInterfaces(const QString& path, const QStringList& interfaces);
+  void applyProperties(const QString& path, const QString& interface, const QVariantMap& changes);
+  // BlueZ answered, or it is known that it will not: publishes the devices, and tells of the
+  // first answer even when it changes nothing.
+  void answered();
   // Publishes the connected devices, each with its battery from BlueZ or else UPower; whether
   // they changed.
   bool update();
   std::vector<BluetoothAccessory> merged() const;
 
-  QDBusConnection bus_;
-  QDBusServiceWatcher bluez_;
-  QDBusServiceWatcher upower_;
+  DBusServiceFollower bluez_;
+  DBusServiceFollower upower_;
   std::map<QString, Device> devices_;          // by object path
   std::map<QString, Peripheral> peripherals_;  // UPower's, by object path
   bool ready_ = false;

@@ -6,13 +6,11 @@
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusServiceWatcher>
 #include <QVariantMap>
 
+#include "base/dbus/dbus_service_follower.h"
 #include "power/battery_backend.h"
 #include "power/upower_device.h"
-
-class QDBusPendingCallWatcher;
 
 namespace tindra {
 
@@ -24,22 +22,16 @@ class UPowerBatteryBackend final : public BatteryBackend {
 
   void start() override;
 
- private slots:
-  void onPropertiesChanged(const QString& interface, const QVariantMap& changed,
-                           const QStringList& invalidated);
-  void onProfilesChanged(const QString& interface, const QVariantMap& changed,
-                         const QStringList& invalidated);
-
  private:
-  void readAll();
-  void onReadAll(QDBusPendingCallWatcher* call);
-  void onServiceGone();
+  void followUPower();
+  void followProfiles();
+  // UPower is not there, or does not answer: no battery.
+  void drop(const Sentence& why);
   void apply(const QVariantMap& properties);
-  void readProfile();
+  void setPowerSaver(bool powerSaver);
 
-  QDBusConnection bus_;
-  QDBusServiceWatcher watcher_;
-  QDBusServiceWatcher profilesWatcher_;
+  DBusServiceFollower upower_;
+  DBusServiceFollower profiles_;
   UPowerDevice device_;
   bool powerSaver_ = false;
 };

@@ -1,8 +1,6 @@
 #include "weather/linux/geoclue_location_source.h"
 
-#include <QDBusArgument>
-#include <QDBusMessage>
-#include <QDBusMetaType>
+#include <QDBusObjectPath>
 #include <QDBusVariant>
 #include <cmath>
 
@@ -18,6 +16,7 @@ const QString managerPath = QStringLiteral("/org/freedesktop/GeoClue2/Manager");
 const QString managerInterface = QStringLiteral("org.freedesktop.GeoClue2.Manager");
 const QString clientInterface = QStringLiteral("org.freedesktop.GeoClue2.Client");
 const QString locationInterface = QStringLiteral("org.freedesktop.GeoClue2.Location");
+const QString locationUpdated = QStringLiteral("LocationUpdated");
 
 QDBusMessage clientPropertySet(const QString& path, const QString& name, const QVariant& value) {
   QDBusMessage call =
@@ -28,51 +27,61 @@ QDBusMessage clientPropertySet(const QString& path, const QString& name, const Q
 
 }  // namespace
 
+// GeoClue is started by the bus when it is asked for; a machine without it says that the name
+// is unknown.
 GeoClueLocationSource::GeoClueLocationSource(QDBusConnection bus, QObject* parent)
     : LocationSource(parent),
-      bus_(std::move(bus)),
-      watcher_(service, bus_, QDBusServiceWatcher::WatchForRegistration) {
+      bus_(bus),
+      geoclue_(std::move(bus), service, {}, DBusServiceFollower::Activation::start) {
   setCheck(DiagnosticsLog::Outcome::degraded,
            Sentence(QT_TR_NOOP("asking GeoClue for the position"), tr));
-  connect(&watcher_, &QDBusServiceWatcher::serviceRegistered, this,
-          &GeoClueLocationSource::askForClient);
+  connect(&geoclue_, &DBusServiceFollower::appeared, this, &GeoClueLocationSource::askForClient);
+  connect(&geoclue_, &DBusServiceFollower::missing, this,
+          [this](const QDBusError& error) { notAvailable(error.message()); });
+  connect(&geoclue_, &DBusServiceFollower::vanished, this, [this] {
+    setCheck(
+        DiagnosticsLog::Outcome::degraded,
+        Sentence(QT_TR_NOOP("GeoClue went away: the last position stays until it returns"), tr));
+  });
+  connect(&geoclue_, &DBusServiceFollower::signalReceived, this, [this](const QDBusMessage& news) {
+    // LocationUpdated(old, new): the new position's object.
+    const auto current = dbus::argument<QDBusObjectPath>(news, 1);
+    if (news.path() == client_ && current) readLocation(current->path());
+  });
 }
 
 GeoClueLocationSource::~GeoClueLocationSource() {
-  if (client_.isEmpty()) return;
+  if (client_.isEmpty() || !geoclue_.present()) return;
   bus_.asyncCall(
       QDBusMessage::createMethodCall(service, client_, clientInterface, QStringLiteral("Stop")));
 }
 
 void GeoClueLocationSource::start() {
-  askForClient();
+  geoclue_.start();
 }
 
-// GeoClue is started by the bus on the first call; a machine without it answers that the name
-// is unknown.
 void GeoClueLocationSource::askForClient() {
   const QDBusMessage call = QDBusMessage::createMethodCall(service, managerPath, managerInterface,
                                                            QStringLiteral("GetClient"));
-  whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
-    if (answer.type() == QDBusMessage::ErrorMessage) {
-      setCheck(
-          DiagnosticsLog::Outcome::degraded,
-          Sentence(QT_TR_NOOP("GeoClue is not available (%1)"), tr).arg(answer.errorMessage()));
-      return;
+  geoclue_.call(call, [this](const QDBusMessage& answer) {
+    if (const auto client = dbus::argument<QDBusObjectPath>(answer)) {
+      configure(client->path());
+    } else {
+      notAvailable(answer.errorMessage());
     }
-    configure(answer.arguments().value(0).value<QDBusObjectPath>().path());
   });
+}
+
+void GeoClueLocationSource::notAvailable(const QString& why) {
+  setCheck(DiagnosticsLog::Outcome::degraded,
+           Sentence(QT_TR_NOOP("GeoClue is not available (%1)"), tr).arg(why));
 }
 
 // A client must say who it is before it starts; GeoClue's agent decides by that name.
 void GeoClueLocationSource::configure(const QString& client) {
-  if (!client_.isEmpty()) {
-    bus_.disconnect(service, client_, clientInterface, QStringLiteral("LocationUpdated"), this,
-                    SLOT(onLocationUpdated(QDBusObjectPath, QDBusObjectPath)));
-  }
+  if (!client_.isEmpty()) geoclue_.unfollowSignal(client_, clientInterface, locationUpdated);
   client_ = client;
-  bus_.connect(service, client_, clientInterface, QStringLiteral("LocationUpdated"), this,
-               SLOT(onLocationUpdated(QDBusObjectPath, QDBusObjectPath)));
+  geoclue_.followSignal(client_, clientInterface, locationUpdated);
   bus_.asyncCall(clientPropertySet(client_, QStringLiteral("DesktopId"), QStringLiteral("tindra")));
   bus_.asyncCall(clientPropertySet(client_, QStringLiteral("RequestedAccuracyLevel"),
                                    QVariant::fromValue(cityAccuracy)));
@@ -84,7 +93,7 @@ void GeoClueLocationSource::configure(const QString& client) {
 void GeoClueLocationSource::startClient() {
   const QDBusMessage call =
       QDBusMessage::createMethodCall(service, client_, clientInterface, QStringLiteral("Start"));
-  whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
+  geoclue_.call(call, [this](const QDBusMessage& answer) {
     if (answer.type() == QDBusMessage::ErrorMessage) {
       setCheck(
           DiagnosticsLog::Outcome::degraded,
@@ -96,27 +105,19 @@ void GeoClueLocationSource::startClient() {
   });
 }
 
-void GeoClueLocationSource::onLocationUpdated(const QDBusObjectPath&,
-                                              const QDBusObjectPath& current) {
-  readLocation(current.path());
-}
-
 void GeoClueLocationSource::readLocation(const QString& path) {
   QDBusMessage call =
       QDBusMessage::createMethodCall(service, path, dbus::properties, QStringLiteral("GetAll"));
   call << locationInterface;
-  whenAnswered(bus_.asyncCall(call), this, [this](const QDBusMessage& answer) {
-    if (answer.type() == QDBusMessage::ErrorMessage) return;
-    const QVariantMap properties = qdbus_cast<QVariantMap>(answer.arguments().value(0));
-    bool latitudeRead = false;
-    bool longitudeRead = false;
-    const double latitude = properties.value(QStringLiteral("Latitude")).toDouble(&latitudeRead);
-    const double longitude = properties.value(QStringLiteral("Longitude")).toDouble(&longitudeRead);
-    if (!latitudeRead || !longitudeRead || !std::isfinite(latitude) || !std::isfinite(longitude) ||
-        std::abs(latitude) > 90 || std::abs(longitude) > 180) {
+  geoclue_.call(call, [this](const QDBusMessage& answer) {
+    const QVariantMap properties = dbus::argument<QVariantMap>(answer).value_or(QVariantMap());
+    const auto latitude = dbus::typed<double>(properties, QStringLiteral("Latitude"));
+    const auto longitude = dbus::typed<double>(properties, QStringLiteral("Longitude"));
+    if (!latitude || !longitude || !std::isfinite(*latitude) || !std::isfinite(*longitude) ||
+        std::abs(*latitude) > 90 || std::abs(*longitude) > 180) {
       return;
     }
-    publish(GeoCoordinate{latitude, longitude});
+    publish(GeoCoordinate{*latitude, *longitude});
   });
 }
 

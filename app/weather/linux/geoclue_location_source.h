@@ -2,13 +2,12 @@
 // weather needs). Asks for a client, names itself ("tindra", the desktop entry) and starts it;
 // GeoClue then reports each new position with LocationUpdated, no polling. A refusal (the user's
 // agent denies the program) or a missing GeoClue is said in the check, and the last position, if
-// any, stays; GeoClue coming back on the bus is followed.
+// any, stays; GeoClue coming back on the bus is followed with a new client.
 #pragma once
 
 #include <QDBusConnection>
-#include <QDBusObjectPath>
-#include <QDBusServiceWatcher>
 
+#include "base/dbus/dbus_service_follower.h"
 #include "weather/location_source.h"
 
 namespace tindra {
@@ -25,17 +24,15 @@ class GeoClueLocationSource final : public LocationSource {
 
   void start() override;
 
- private slots:
-  void onLocationUpdated(const QDBusObjectPath& previous, const QDBusObjectPath& current);
-
  private:
   void askForClient();
+  void notAvailable(const QString& why);
   void configure(const QString& client);
   void startClient();
   void readLocation(const QString& path);
 
   QDBusConnection bus_;
-  QDBusServiceWatcher watcher_;
+  DBusServiceFollower geoclue_;
   QString client_;
 };
 
