@@ -73,8 +73,10 @@ Column {
         color: "#636366"
         font.pixelSize: 12
     }
+    // Rows are made only while the section is seen: a calendar that changes while the notch is
+    // closed costs the event loop nothing.
     Repeater {
-        model: root.model ? root.model.agenda : []
+        model: root.model && root.visible ? root.model.agenda : []
         delegate: Row {
             id: agendaRow
             required property var modelData
@@ -127,7 +129,7 @@ Column {
         font.weight: Font.DemiBold
     }
     Repeater {
-        model: root.model ? root.model.reminders : []
+        model: root.model && root.visible ? root.model.reminders : []
         delegate: Row {
             required property var modelData
             spacing: 6

@@ -59,7 +59,7 @@ CalendarProvider::CalendarProvider(ProviderContext context,
                                    std::unique_ptr<CalendarBackend> backend,
                                    std::unique_ptr<TravelTimeEstimator> travel,
                                    std::shared_ptr<SoundPlayer> sounds, Clock now, OpenURL open,
-                                   QObject* parent)
+                                   std::unique_ptr<OneShotScheduler> scheduler, QObject* parent)
     : Provider(context, id, parent),
       backend_(std::move(backend)),
       travel_(std::move(travel)),
@@ -67,10 +67,8 @@ CalendarProvider::CalendarProvider(ProviderContext context,
       now_(std::move(now)),
       open_(std::move(open)),
       calendar_(userCalendar()),
-      viewModel_([this](const QString& id) { return join(id); }) {
-  timer_.setSingleShot(true);
-  timer_.setTimerType(Qt::PreciseTimer);
-  connect(&timer_, &QTimer::timeout, this, &CalendarProvider::update);
+      viewModel_([this](const QString& id) { return join(id); }),
+      nextChange_([this] { update(); }, std::move(scheduler)) {
   // Queued: a backend reads again when the window moves, which happens inside an update.
   connect(backend_.get(), &CalendarBackend::changed, this, &CalendarProvider::update,
           Qt::QueuedConnection);
@@ -153,8 +151,7 @@ void CalendarProvider::update() {
   if (!settings().read(settings::calendarEnabled)) {
     offer(std::nullopt);
     viewModel_.setState({});
-    timer_.stop();
-    nextUpdate_.reset();
+    nextChange_.cancel();
     return;
   }
   followWindow(now);
@@ -289,25 +286,21 @@ void CalendarProvider::aim(const std::vector<CalendarEventInfo>& events, double 
                            const std::optional<FeaturedEvent>& featured) {
   const UpcomingEventPolicy policy = this->policy();
   const TodayAgenda::Interval today = TodayAgenda::day(now, *calendar_);
-  double next = std::min(now + longestWait, today.end);
-  const auto consider = [&](double at) {
-    if (at > now) next = std::min(next, at);
-  };
-  if (const auto lead = UpcomingEventPolicy::nextLeadPeriodStart(events, now, policy.leadTime)) {
-    consider(*lead);
-  }
-  if (featured) {
-    consider(policy.closingDate(featured->event));
-    consider(nextMinuteFrom(featured->event.start, now));
-    consider(nextMinuteFrom(featured->event.end, now));
-  }
-  for (const CalendarEventInfo& event : events) {  // the agenda's statuses
-    if (event.start < today.end) consider(event.start);
-    if (event.end < today.end) consider(event.end);
-  }
-  if (leaveAt_) consider(nextMinuteFrom(*leaveAt_, now));
-  nextUpdate_ = next;
-  timer_.start(static_cast<int>(std::ceil((next - now) * 1000.0)) + 1);
+  nextChange_.aim(now, std::min(now + longestWait, today.end), [&](const auto& consider) {
+    if (const auto lead = UpcomingEventPolicy::nextLeadPeriodStart(events, now, policy.leadTime)) {
+      consider(*lead);
+    }
+    if (featured) {
+      consider(policy.closingDate(featured->event));
+      consider(nextMinuteFrom(featured->event.start, now));
+      consider(nextMinuteFrom(featured->event.end, now));
+    }
+    for (const CalendarEventInfo& event : events) {  // the agenda's statuses
+      if (event.start < today.end) consider(event.start);
+      if (event.end < today.end) consider(event.end);
+    }
+    if (leaveAt_) consider(nextMinuteFrom(*leaveAt_, now));
+  });
 }
 
 bool CalendarProvider::join(const QString& id) {

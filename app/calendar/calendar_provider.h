@@ -8,12 +8,12 @@
 
 #include <unicode/calendar.h>
 
-#include <QTimer>
 #include <QUrl>
 #include <functional>
 #include <memory>
 #include <optional>
 
+#include "base/next_change.h"
 #include "base/provider.h"
 #include "base/provider_views.h"
 #include "base/sound_player.h"
@@ -40,10 +40,12 @@ class CalendarProvider final : public Provider {
   // Days after today whose events are read, for the next event and the departure advice.
   static constexpr double daysAhead = 7;
 
-  // `sounds` may be null; `open` hands a meeting link to the desktop's handler.
+  // `sounds` may be null; `open` hands a meeting link to the desktop's handler. The next update
+  // is aimed on `scheduler` (none: a timer).
   CalendarProvider(ProviderContext context, std::unique_ptr<CalendarBackend> backend,
                    std::unique_ptr<TravelTimeEstimator> travel, std::shared_ptr<SoundPlayer> sounds,
-                   Clock now, OpenURL open, QObject* parent = nullptr);
+                   Clock now, OpenURL open, std::unique_ptr<OneShotScheduler> scheduler = nullptr,
+                   QObject* parent = nullptr);
   ~CalendarProvider() override;
 
   void start() override;
@@ -51,7 +53,7 @@ class CalendarProvider final : public Provider {
   CalendarBackend& backend() { return *backend_; }
   const TravelTimeEstimator& travel() const { return *travel_; }
   // When the next update is due, seconds since 1970; none while nothing is planned.
-  std::optional<double> nextUpdate() const { return nextUpdate_; }
+  std::optional<double> nextUpdate() const { return nextChange_.next(); }
 
   // Brings everything up to the clock; the timer and every change call it.
   void update();
@@ -84,8 +86,7 @@ class CalendarProvider final : public Provider {
   std::unique_ptr<icu::Calendar> calendar_;  // the user's calendar and zone, for "today"
   CalendarViewModel viewModel_;
   SettingsObservation observation_;
-  QTimer timer_;
-  std::optional<double> nextUpdate_;
+  NextChange nextChange_;
   std::optional<double> windowStart_;
   std::optional<std::pair<std::string, double>> offered_;  // featured id and its closing date
   std::map<std::string, double> travelTimes_;  // event id to seconds of travel, as answered

@@ -9,6 +9,7 @@
 #include "calendar/fake_calendar_backend.h"
 #include "calendar/upcoming_event_sound_log.h"
 #include "settings/settings_keys.h"
+#include "testing/manual_one_shot_scheduler.h"
 #include "testing/picture_checks.h"
 #include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
@@ -47,7 +48,8 @@ class CalendarProviderTest : public ::testing::Test {
         [this](const QUrl& url) {
           opened_ << url;
           return true;
-        });
+        },
+        std::unique_ptr<OneShotScheduler>(wake_));
   }
 
   void enable() {
@@ -67,6 +69,7 @@ class CalendarProviderTest : public ::testing::Test {
   std::shared_ptr<RecordedSounds> sounds_ = std::make_shared<RecordedSounds>();
   QList<QUrl> opened_;
   double now_ = tenOClock();
+  ManualOneShotScheduler* wake_ = new ManualOneShotScheduler;
   std::unique_ptr<CalendarProvider> provider_;
 };
 
@@ -83,8 +86,14 @@ TEST_F(CalendarProviderTest, FeaturesTheNextMeetingFromItsLeadTimeUntilItHasRunA
   EXPECT_EQ(view.countdown(), "in 8 min");
   EXPECT_EQ(view.joinService(), "Zoom");
   EXPECT_EQ(activities_.current(), ActivityKind::upcomingEvent);
-  // The next change shown is the countdown's next minute, 60 s on.
+  // The next change shown is the countdown's next minute, 60 s on, and the wake-up brings it.
   EXPECT_EQ(provider_->nextUpdate(), now_ + 60);
+  EXPECT_EQ(wake_->aimed(), 60);
+  now_ += 60;
+  wake_->fire();
+  EXPECT_EQ(view.earText(), "7 min");
+  advanceTo(now_ + 45);  // brought up to date early, by some other change
+  EXPECT_EQ(wake_->aimed(), 15) << "still aimed at the same minute";
 
   advanceTo(tenOClock() + 8 * 60 + 90);
   EXPECT_EQ(view.earText(), "Now");
@@ -101,6 +110,9 @@ TEST_F(CalendarProviderTest, FeaturesTheNextMeetingFromItsLeadTimeUntilItHasRunA
   EXPECT_EQ(agenda[1].toMap()["status"], "ended");
   EXPECT_EQ(agenda[2].toMap()["status"], "now");
   EXPECT_EQ(agenda[2].toMap()["joinService"], "Zoom");
+
+  (void)settings_.write(settings::calendarEnabled, false);
+  EXPECT_FALSE(wake_->isPending()) << "nothing wakes while the calendar is off";
 }
 
 TEST_F(CalendarProviderTest, SettingsShapeWhatIsShown) {

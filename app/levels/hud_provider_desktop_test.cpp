@@ -133,7 +133,7 @@ TEST_F(HudProviderDesktopTest, VolumeKeysChangeTheServerAndShowOnce) {
 
 TEST_F(HudProviderDesktopTest, AKeyAnotherProgramHoldsIsOnlyWatched) {
   provider_.reset();  // let the other program take the mute key first
-  X11MediaKeySource other;
+  X11MediaKeySource other(std::make_shared<XcbConnection>());
   other.setWanted({{Key::mute, {}}});
   SetUp();
   EXPECT_TRUE(keysDiagnostic().contains("only watches the level for XF86AudioMute"))
@@ -158,7 +158,7 @@ TEST_F(HudProviderDesktopTest, WithoutAnOutputTheVolumeKeysGoBackToTheDesktop) {
   pactl({"unload-module", "module-null-sink"});
   ASSERT_TRUE(waitFor([&] { return !provider_->keyContext().volumeControllable; }));
   EXPECT_TRUE(keysDiagnostic().contains("leaves XF86AudioRaiseVolume"));
-  X11MediaKeySource desktop;  // the desktop can take the key now
+  X11MediaKeySource desktop(std::make_shared<XcbConnection>());  // the desktop can take it now
   desktop.setWanted({{Key::soundUp, {}}});
   EXPECT_TRUE(desktop.refused().empty());
 }

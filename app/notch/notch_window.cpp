@@ -23,8 +23,6 @@ namespace tindra {
 
 namespace {
 
-// While a deadline is pending the machine is asked again this often (milliseconds).
-constexpr int deadlinePollInterval = 20;
 // Pointer travel, in pixels, that counts as a full pull of the rubber band.
 constexpr double fullPullDistance = 80;
 
@@ -36,7 +34,11 @@ double lerp(double from, double to, double t) {
 
 NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, NotchContent& content,
                          QWindow* parent)
-    : QQuickView(parent), activities_(activities), settings_(settings), content_(content) {
+    : QQuickView(parent),
+      activities_(activities),
+      settings_(settings),
+      content_(content),
+      hoverDeadline_([this] { sample(); }) {
   setFlags(notchWindowFlags());
   QSurfaceFormat surface = format();
   surface.setAlphaBufferSize(8);
@@ -66,9 +68,6 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, No
   });
   connect(&stretchAnimation_, &QVariantAnimation::valueChanged, this,
           [this](const QVariant& v) { setStretch(v.toDouble(), stretch_.anchorX()); });
-
-  deadlineTimer_.setInterval(deadlinePollInterval);
-  connect(&deadlineTimer_, &QTimer::timeout, this, &NotchWindow::sample);
 
   const auto compactTarget = [this](ActivityKind kind) {
     const QRect display = screen() ? screen()->geometry() : QRect();
@@ -261,10 +260,12 @@ void NotchWindow::sample() {
 }
 
 void NotchWindow::showPresentation() {
-  if (machine_.pendingDeadline()) {
-    if (!deadlineTimer_.isActive()) deadlineTimer_.start();
+  // The machine is asked again when its deadline comes, not before. The clock is the one the
+  // timer sleeps on, so the wake-up is never early.
+  if (const std::optional<double> deadline = machine_.pendingDeadline()) {
+    if (hoverDeadline_.next() != deadline) hoverDeadline_.aimAt(activities_.now(), *deadline);
   } else {
-    deadlineTimer_.stop();
+    hoverDeadline_.cancel();
   }
   const bool expanded = machine_.isExpanded();
   if (expanded == shownExpanded_) return;

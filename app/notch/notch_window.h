@@ -13,7 +13,6 @@
 #include <QPointF>
 #include <QPointer>
 #include <QQuickView>
-#include <QTimer>
 #include <QVariantAnimation>
 #include <QWheelEvent>
 
@@ -22,6 +21,7 @@
 #include "activity/notch_hover_state_machine.h"
 #include "activity/notch_stretch.h"
 #include "activity/swipe_recognizer.h"
+#include "base/next_change.h"
 #include "notch/notch_shape.h"
 #include "notch/notch_window_layout.h"
 #include "settings/settings_store.h"
@@ -137,7 +137,7 @@ class NotchWindow : public QQuickView {
   QVariantAnimation openAnimation_;
   QVariantAnimation compactAnimation_;
   QVariantAnimation stretchAnimation_;
-  QTimer deadlineTimer_;
+  NextChange hoverDeadline_;  // the machine's pending deadline, when it has one
 };
 
 }  // namespace tindra

@@ -6,6 +6,7 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
+#include <QTest>
 
 #include "calendar/linux/icalendar_backend.h"
 #include "settings/settings_keys.h"
@@ -34,11 +35,15 @@ TEST(CalendarListEditorTest, ListsTheCalendarsWithASwitchEachAndAddsFilesAndAddr
   editor.field().setText(file.fileName());
   EXPECT_TRUE(editor.addFromField());
   EXPECT_TRUE(editor.problem().isEmpty());
-  QCoreApplication::processEvents();
-
-  const QList<QCheckBox*> switches = editor.findChildren<QCheckBox*>();
-  ASSERT_EQ(switches.size(), 1);
-  EXPECT_EQ(switches[0]->text(), "Team");
+  // The name is the document's, known once the reader thread has read it.
+  QList<QCheckBox*> switches;
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] {
+        switches = editor.findChildren<QCheckBox*>();
+        return switches.size() == 1 && switches[0]->text() == "Team";
+      },
+      5000))
+      << switches.size();
   EXPECT_TRUE(switches[0]->isChecked());
   switches[0]->setChecked(false);
   QCoreApplication::processEvents();

@@ -168,20 +168,19 @@ WeatherProvider::Places WeatherProvider::defaultPlaces() {
 WeatherProvider::WeatherProvider(ProviderContext context,
                                  std::unique_ptr<LocationSource> locationService,
                                  std::shared_ptr<HTTPTransport> transport, Places places, Clock now,
-                                 QObject* parent)
+                                 std::unique_ptr<OneShotScheduler> scheduler, QObject* parent)
     : Provider(context, id, parent),
       locationService_(std::move(locationService)),
       places_(std::move(places)),
       now_(std::move(now)),
       kept_(places_.snapshot),
-      preferencesFile_(places_.preferences) {
+      preferencesFile_(places_.preferences),
+      nextChange_([this] { update(); }, std::move(scheduler)) {
   QPointer<WeatherProvider> self(this);
   client_.transport =
       std::make_shared<CourseReader>(std::move(transport), [self](TemperatureCourse course) {
         if (self) self->arriving_ = std::move(course);
       });
-  timer_.setSingleShot(true);
-  connect(&timer_, &QTimer::timeout, this, &WeatherProvider::update);
   connect(locationService_.get(), &LocationSource::locationChanged, this, &WeatherProvider::update);
   connect(locationService_.get(), &LocationSource::checkChanged, this,
           &WeatherProvider::recordCheck);
@@ -316,8 +315,7 @@ void WeatherProvider::update() {
   const double now = now_();
   if (!settings().read(settings::weatherEnabled)) {
     viewModel_.setState({});
-    timer_.stop();
-    nextLook_.reset();
+    nextChange_.cancel();
     return;
   }
   const std::optional<Position> where = position();
@@ -398,24 +396,20 @@ WeatherViewModel::State WeatherProvider::state(double now,
 }
 
 void WeatherProvider::aim(double now, const std::optional<SunTimes::Moment>& sun) {
-  double next = now + longestWait;
-  const auto consider = [&](double at) {
-    if (at > now) next = std::min(next, at);
-  };
-  if (snapshot_) {
-    consider(WeatherRefreshPolicy::nextRefresh(*snapshot_));
-    consider(snapshot_->fetchedAt + WeatherRefreshPolicy::freshness + 1);
-  }
-  if (sun) {
-    if (const auto* rise = std::get_if<SunTimes::Sunrise>(&*sun)) consider(rise->date + 1);
-    if (const auto* set = std::get_if<SunTimes::Sunset>(&*sun)) consider(set->date + 1);
-  }
-  // After a failure, or before any answer, the next try is as soon as the spacing allows.
-  if (lastAttempt_ && (lastFailure_ || !snapshot_)) {
-    consider(*lastAttempt_ + WeatherRefreshPolicy::attemptSpacing);
-  }
-  nextLook_ = next;
-  timer_.start(static_cast<int>(std::ceil((next - now) * 1000.0)));
+  nextChange_.aim(now, now + longestWait, [&](const auto& consider) {
+    if (snapshot_) {
+      consider(WeatherRefreshPolicy::nextRefresh(*snapshot_));
+      consider(snapshot_->fetchedAt + WeatherRefreshPolicy::freshness + 1);
+    }
+    if (sun) {
+      if (const auto* rise = std::get_if<SunTimes::Sunrise>(&*sun)) consider(rise->date + 1);
+      if (const auto* set = std::get_if<SunTimes::Sunset>(&*sun)) consider(set->date + 1);
+    }
+    // After a failure, or before any answer, the next try is as soon as the spacing allows.
+    if (lastAttempt_ && (lastFailure_ || !snapshot_)) {
+      consider(*lastAttempt_ + WeatherRefreshPolicy::attemptSpacing);
+    }
+  });
 }
 
 namespace {

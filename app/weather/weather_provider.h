@@ -8,12 +8,12 @@
 // aimed at the next refresh, the end of the snapshot's freshness or the next sunrise or sunset.
 #pragma once
 
-#include <QTimer>
 #include <filesystem>
 #include <functional>
 #include <memory>
 #include <optional>
 
+#include "base/next_change.h"
 #include "base/provider.h"
 #include "base/provider_views.h"
 #include "settings/durable_file.h"
@@ -46,9 +46,10 @@ class WeatherProvider final : public Provider {
   };
   static Places defaultPlaces();
 
+  // The next look is aimed on `scheduler` (none: a timer).
   WeatherProvider(ProviderContext context, std::unique_ptr<LocationSource> locationService,
                   std::shared_ptr<HTTPTransport> transport, Places places, Clock now,
-                  QObject* parent = nullptr);
+                  std::unique_ptr<OneShotScheduler> scheduler = nullptr, QObject* parent = nullptr);
   ~WeatherProvider() override;
 
   void start() override;
@@ -64,7 +65,7 @@ class WeatherProvider final : public Provider {
   // The network went down or came back.
   void setOnline(bool online);
   // When the timer will next look, seconds since 1970; none while idle.
-  std::optional<double> nextLook() const { return nextLook_; }
+  std::optional<double> nextLook() const { return nextChange_.next(); }
   // Consults the policy, fetches when it says so, and redraws.
   void update();
 
@@ -103,8 +104,7 @@ class WeatherProvider final : public Provider {
   bool serviceStarted_ = false;
   WeatherViewModel viewModel_;
   SettingsObservation observation_;
-  QTimer timer_;
-  std::optional<double> nextLook_;
+  NextChange nextChange_;
 };
 
 }  // namespace tindra

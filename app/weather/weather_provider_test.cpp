@@ -7,6 +7,7 @@
 
 #include "base/activity_center.h"
 #include "settings/settings_keys.h"
+#include "testing/manual_one_shot_scheduler.h"
 #include "testing/picture_checks.h"
 #include "testing/view_shot.h"
 
@@ -74,13 +75,15 @@ class WeatherProviderTest : public ::testing::Test {
   std::unique_ptr<WeatherProvider> makeProvider(std::string timeZone = "Europe/Oslo") {
     auto location = std::make_unique<SetLocation>();
     location_ = location.get();
+    auto wake = std::make_unique<ManualOneShotScheduler>();
+    wake_ = wake.get();
     WeatherProvider::Places places{dir_.filePath("data/weather-snapshot.json").toStdString(),
                                    dir_.filePath("config/weather.json").toStdString(),
                                    {dir_.filePath("zone.tab").toStdString()},
                                    std::move(timeZone)};
     auto provider = std::make_unique<WeatherProvider>(
         ProviderContext{activities_, settings_, diagnostics_}, std::move(location), transport_,
-        std::move(places), [this] { return now_; });
+        std::move(places), [this] { return now_; }, std::move(wake));
     provider->start();
     return provider;
   }
@@ -95,6 +98,7 @@ class WeatherProviderTest : public ::testing::Test {
   DiagnosticsLog diagnostics_;
   std::shared_ptr<CannedForecast> transport_ = std::make_shared<CannedForecast>();
   SetLocation* location_ = nullptr;
+  ManualOneShotScheduler* wake_ = nullptr;  // of the provider made last
   double now_ = lateEvening;
 };
 
@@ -114,6 +118,7 @@ TEST_F(WeatherProviderTest, ShowsTheWeatherOnFirstRunAndARestartWithinExpiresAsk
   EXPECT_TRUE(highLow.startsWith("High ")) << highLow.toStdString();
   // The next look is the snapshot's Expires, an hour on.
   EXPECT_EQ(weather->nextLook(), lateEvening + 3600);
+  EXPECT_EQ(wake_->aimed(), 3600);
 
   now_ += 600;
   weather = makeProvider();
@@ -132,10 +137,12 @@ TEST_F(WeatherProviderTest, FailuresKeepTheSnapshotAndNothingIsAskedWhileOffline
   HTTPResponse busy;
   busy.status = 503;
   transport_->answer = busy;
-  advanceTo(*weather, lateEvening + 3600);
-  ASSERT_EQ(transport_->requests.size(), 2U);
+  now_ = lateEvening + 3600;
+  wake_->fire();
+  ASSERT_EQ(transport_->requests.size(), 2U) << "asked when the wake-up came";
   EXPECT_TRUE(weather->viewModel()->available()) << "the last snapshot stays while fresh";
   EXPECT_EQ(weather->nextLook(), lateEvening + 3600 + 600) << "ten minutes, whatever failed";
+  EXPECT_EQ(wake_->aimed(), 600);
   EXPECT_NE(diagnostics_.entries().back().outcome, DiagnosticsLog::Outcome::ok);
 
   weather->setOnline(false);

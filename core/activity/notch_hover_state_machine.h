@@ -1,7 +1,7 @@
 // NotchHoverStateMachine: decides when the notch opens and closes from what the window samples
 // (pointer over the notch, button down, file drag in progress) and the monotonic time `now` in
 // seconds. A plain value without clocks: the window calls `update` on every pointer, button or
-// drag change, and on a short timer while `pendingDeadline` is set.
+// drag change, and once more when `pendingDeadline` comes.
 #pragma once
 
 #include <optional>

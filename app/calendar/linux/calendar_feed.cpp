@@ -6,8 +6,22 @@
 
 namespace tindra {
 
+std::shared_ptr<SerialWorker> CalendarFeed::reader() {
+  static std::weak_ptr<SerialWorker> shared;
+  std::shared_ptr<SerialWorker> worker = shared.lock();
+  if (!worker) {
+    worker = std::make_shared<SerialWorker>();
+    shared = worker;
+  }
+  return worker;
+}
+
 CalendarFeed::CalendarFeed(CalendarSource source, ICalendarReadOptions options, QObject* parent)
-    : QObject(parent), defaultName_(source.name), options_(std::move(options)) {
+    : QObject(parent),
+      reader_(reader()),
+      defaultName_(source.name),
+      options_(std::move(options)),
+      documents_(std::make_shared<const std::vector<std::string>>()) {
   contents_.source = std::move(source);
   options_.idPrefix = contents_.source.id.toStdString();
   contents_.source.state = {DiagnosticsLog::Outcome::degraded,
@@ -17,43 +31,77 @@ CalendarFeed::CalendarFeed(CalendarSource source, ICalendarReadOptions options, 
 void CalendarFeed::setReadOptions(ICalendarReadOptions options) {
   options.idPrefix = options_.idPrefix;
   options_ = std::move(options);
-  take(read(documents_));
-  publish();
+  // A reading on its way is asked again with the new options; else the documents the feed has.
+  if (pending_) return post(*pending_);
+  post({[documents = documents_] { return std::optional(*documents); }, {}, true});
 }
 
-CalendarFeed::Reading CalendarFeed::read(std::vector<std::string> documents) const {
+void CalendarFeed::accept(Gather gather, std::function<void(Outcome)> done) {
+  post({std::move(gather), std::move(done), false});
+}
+
+void CalendarFeed::post(Request request) {
+  pending_ = request;
+  const std::uint64_t number = ++posted_;
+  Gather gather = request.gather;
+  reader_->post(
+      this, [gather = std::move(gather), options = options_] { return read(gather, options); },
+      [this, number, request = std::move(request)](std::optional<Reading> reading) {
+        if (number != posted_) return;  // a newer reading follows, and says it all
+        pending_.reset();
+        finish(request, std::move(reading));
+      });
+}
+
+// On the reader.
+std::optional<CalendarFeed::Reading> CalendarFeed::read(const Gather& gather,
+                                                        const ICalendarReadOptions& options) {
+  std::optional<std::vector<std::string>> documents = gather();
+  if (!documents) return std::nullopt;
   Reading reading;
-  for (std::string& text : documents) {
-    auto document = ICalendarReader::read(text, options_);
+  reading.count = documents->size();
+  auto texts = std::make_shared<std::vector<std::string>>();
+  for (std::string& text : *documents) {
+    auto document = ICalendarReader::read(text, options);
     if (!document) {
       if (reading.failed++ == 0) reading.firstError = toQString(describe(document.error()));
       continue;
     }
     reading.documents.push_back(std::move(*document));
-    reading.texts.push_back(std::move(text));
+    texts->push_back(std::move(text));
   }
+  reading.texts = std::move(texts);
   // libical builds a tree many times the document's size and frees it in small pieces, which
   // the allocator would otherwise keep for good.
   malloc_trim(0);
   return reading;
 }
 
-bool CalendarFeed::accept(std::vector<std::string> documents) {
-  const std::size_t count = documents.size();
-  Reading reading = read(std::move(documents));
-  if (count > 0 && reading.failed == count) {
-    readProblem_ = Sentence(QT_TR_NOOP("%1; the last good copy is kept"), tr)
-                       .arg(Sentence::verbatim(reading.firstError));
+void CalendarFeed::finish(const Request& request, std::optional<Reading> reading) {
+  const auto tell = [&](Outcome outcome) {
+    if (request.done) request.done(outcome);
+  };
+  if (!reading) return tell(Outcome::unavailable);
+  if (request.again) {
+    take(std::move(*reading));
     publish();
-    return false;
+    return;
   }
-  readProblem_ = reading.failed == 0 ? Sentence()
-                                     : Sentence(QT_TR_NOOP("%n document(s) could not be read (%1)"),
-                                                tr, static_cast<int>(reading.failed))
-                                           .arg(reading.firstError);
-  take(std::move(reading));
+  problem_ = {};  // the documents were had
+  if (reading->count > 0 && reading->failed == reading->count) {
+    readProblem_ = Sentence(QT_TR_NOOP("%1; the last good copy is kept"), tr)
+                       .arg(Sentence::verbatim(reading->firstError));
+    publish();
+    return tell(Outcome::unread);
+  }
+  readProblem_ = reading->failed == 0
+                     ? Sentence()
+                     : Sentence(QT_TR_NOOP("%n document(s) could not be read (%1)"), tr,
+                                static_cast<int>(reading->failed))
+                           .arg(reading->firstError);
+  take(std::move(*reading));
   publish();
-  return true;
+  tell(Outcome::taken);
 }
 
 void CalendarFeed::take(Reading reading) {

@@ -1,13 +1,19 @@
 // CalendarFeed: one calendar the iCalendar backend reads: its documents (one file, the files of
 // a folder, or a fetched feed), read into the events of the current window, and how the last
-// reading went. A new reading in which no document can be read keeps the last good one, so a
-// failed fetch or a bad save never empties the calendar. Main thread only.
+// reading went. Documents are got and read on the one thread every calendar is read on, so a
+// large calendar never holds up the notch; a newer reading replaces one not yet done. A new
+// reading in which no document can be read keeps the last good one, so a failed fetch or a bad
+// save never empties the calendar. Used from the main thread only.
 #pragma once
 
 #include <QObject>
+#include <functional>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
+#include "base/serial_worker.h"
 #include "calendar/calendar_backend.h"
 #include "icalendar/icalendar_reader.h"
 
@@ -21,6 +27,9 @@ class CalendarFeed : public QObject {
 
   // Reads what the feed already has, then follows it.
   virtual void start() = 0;
+  // The thread every calendar is read on, while anyone holds it: libical keeps global state, so
+  // two documents are never read at once.
+  static std::shared_ptr<SerialWorker> reader();
   const CalendarContents& contents() const { return contents_; }
   // Reads the documents again for a new window or new owner addresses.
   void setReadOptions(ICalendarReadOptions options);
@@ -31,29 +40,48 @@ class CalendarFeed : public QObject {
   void changed();
 
  protected:
-  // Makes `documents` the feed's, each read now; documents that cannot be read are left out and
-  // named in the state. When none of them reads, the previous documents stay and this is false.
-  bool accept(std::vector<std::string> documents);
+  // Gets a reading's documents, on the reader; none when there are none to be had.
+  using Gather = std::function<std::optional<std::vector<std::string>>()>;
+  enum class Outcome {
+    unavailable,  // no documents to be had
+    unread,       // none of them could be read; the previous ones stay
+    taken,        // they are the feed's now
+  };
+  // Gets the documents with `gather` and reads them on the reader, then makes them the feed's
+  // here: documents that cannot be read are left out and named in the state, and whatever kept
+  // the feed from its documents is over. `done` hears how it went, unless a newer reading came
+  // first.
+  void accept(Gather gather, std::function<void(Outcome)> done = {});
   // A problem in getting the documents at all (a failed fetch); the last good ones stay shown.
   void setProblem(DiagnosticsLog::Outcome outcome, const Sentence& text);
-  // The problem is over; said with the next reading.
-  void clearProblem() { problem_ = {}; }
   const QString& location() const { return contents_.source.location; }
 
  private:
   struct Reading {
     std::vector<ICalendarDocument> documents;
-    std::vector<std::string> texts;  // those that read
+    std::shared_ptr<const std::vector<std::string>> texts;  // those that read
     QString firstError;
+    std::size_t count = 0;
     std::size_t failed = 0;
   };
-  Reading read(std::vector<std::string> documents) const;
+  // A reading asked for: fresh documents to accept, or the feed's own read again (`again`).
+  struct Request {
+    Gather gather;
+    std::function<void(Outcome)> done;
+    bool again = false;
+  };
+  static std::optional<Reading> read(const Gather& gather, const ICalendarReadOptions& options);
+  void post(Request request);
+  void finish(const Request& request, std::optional<Reading> reading);
   void take(Reading reading);
   void publish();
 
+  std::shared_ptr<SerialWorker> reader_;
   QString defaultName_;
   ICalendarReadOptions options_;
-  std::vector<std::string> documents_;
+  std::shared_ptr<const std::vector<std::string>> documents_;
+  std::optional<Request> pending_;  // the newest reading asked for, until it is done
+  std::uint64_t posted_ = 0;        // readings asked for so far
   CalendarContents contents_;
   std::optional<double> refreshInterval_;
   Sentence readProblem_;  // documents left out of the last reading

@@ -155,10 +155,12 @@ std::optional<QString> ICalendarBackend::saveList() {
 }
 
 void ICalendarBackend::makeFeeds() {
-  feeds_.clear();
+  // The new feeds are made before the old ones go, so the reader they share stays.
+  std::vector<std::unique_ptr<CalendarFeed>> feeds;
   for (CalendarSource& source : listed()) {
-    feeds_.push_back(makeFeed(std::move(source), optionsFor(feeds_.size())));
+    feeds.push_back(makeFeed(std::move(source), optionsFor(feeds.size())));
   }
+  feeds_ = std::move(feeds);
   for (const auto& feed : feeds_) {
     connect(feed.get(), &CalendarFeed::changed, this, [this] {
       updateCheck();

@@ -7,6 +7,7 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <latch>
 
 #include "calendar/linux/remote_calendar_feed.h"
 #include "testing/loopback_http_server.h"
@@ -37,6 +38,16 @@ void replace(const QString& path, const QByteArray& bytes) {
   write(path + ".new", bytes);
   ASSERT_TRUE(QFile::remove(path));
   ASSERT_TRUE(QFile::rename(path + ".new", path));
+}
+
+// Waits until every reading asked for so far is done: the reader answers in order.
+void waitForReadings() {
+  const std::shared_ptr<SerialWorker> reader = CalendarFeed::reader();
+  QObject marker;
+  bool answered = false;
+  reader->post(
+      &marker, [] { return true; }, [&](bool) { answered = true; });
+  ASSERT_TRUE(QTest::qWaitFor([&] { return answered; }, 10000));
 }
 
 ICalendarReadOptions aroundMonday() {
@@ -70,6 +81,7 @@ class ICalendarBackendTest : public ::testing::Test {
 TEST_F(ICalendarBackendTest, FollowsFilesAndFoldersAndKeepsTheLastGoodCopyOfABadSave) {
   write(dir_.filePath("evolution.ics"), feed(event("standup")));
   auto backend = started();
+  waitForReadings();
   ASSERT_EQ(backend->calendars().size(), 1U) << "a calendar found on the machine is read";
   const CalendarSource found = backend->calendars()[0].source;
   EXPECT_EQ(found.name, "Team");
@@ -93,6 +105,7 @@ TEST_F(ICalendarBackendTest, FollowsFilesAndFoldersAndKeepsTheLastGoodCopyOfABad
   write(dir_.filePath("vdir/b.ics"), feed(event("b")));
   write(dir_.filePath("vdir/c.ics"), "BEGIN:VCALENDAR\r\nBEGIN:VEVENT\r\n");
   EXPECT_EQ(backend->add(dir_.filePath("vdir")), std::nullopt);
+  waitForReadings();
   ASSERT_EQ(backend->calendars().size(), 2U);
   EXPECT_EQ(events(*backend, 1), 2U);
   EXPECT_TRUE(backend->calendars()[1].source.state.text.english().contains("1 document"));
@@ -120,6 +133,29 @@ TEST_F(ICalendarBackendTest, TheUsersListIsKeptRefusesWhatCannotBeReadAndIsSetAs
   auto broken = started();
   EXPECT_TRUE(QFile::exists(dir_.filePath("config/calendars.json.unreadable")));
   EXPECT_TRUE(broken->check().text.english().contains("set aside"));
+}
+
+TEST_F(ICalendarBackendTest, OnlyTheNewestReadingIsReadAndAGoneBackendHearsNothing) {
+  write(dir_.filePath("evolution.ics"), feed(event("standup")));
+  // The reader is kept busy until the readings are asked for.
+  const std::shared_ptr<SerialWorker> reader = CalendarFeed::reader();
+  QObject holder;
+  std::latch busy{1};
+  reader->post(
+      &holder,
+      [&busy] {
+        busy.wait();
+        return 0;
+      },
+      [](int) {});
+
+  auto backend = started();  // read at its start, without a window, then again with the week
+  QSignalSpy changed(backend.get(), &CalendarBackend::changed);
+  started().reset();  // gone before its reading is done
+  busy.count_down();
+  waitForReadings();
+  EXPECT_EQ(changed.count(), 1) << "the reading without a window was left out";
+  EXPECT_EQ(events(*backend, 0), 1U);
 }
 
 TEST(RemoteCalendarFeedTest, FetchesConditionallyKeepsTheLastGoodCopyAndBacksOff) {
@@ -175,7 +211,7 @@ TEST(RemoteCalendarFeedTest, FetchesConditionallyKeepsTheLastGoodCopyAndBacksOff
   remote = std::make_unique<RemoteCalendarFeed>(source, aroundMonday(), network, kept.path(),
                                                 [&] { return now; });
   remote->start();
-  EXPECT_EQ(remote->contents().events.size(), 2U);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return remote->contents().events.size() == 2; }, 5000));
   QTest::qWait(100);
   EXPECT_EQ(server.requests().size(), asked);
   EXPECT_NEAR(remote->secondsToNextFetch(), RemoteCalendarFeed::defaultRefresh - 600, 2);

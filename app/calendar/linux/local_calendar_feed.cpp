@@ -16,6 +16,26 @@ std::optional<std::string> contentsOf(const QString& path) {
   return bytes.toStdString();
 }
 
+// The documents of a file, or of the *.ics files of a folder, on the reader; none when a single
+// file cannot be read.
+std::optional<std::vector<std::string>> documentsAt(const QString& path, bool isFolder) {
+  QStringList files{path};
+  if (isFolder) {
+    QDir folder(path);
+    files = folder.entryList({QStringLiteral("*.ics")}, QDir::Files | QDir::Readable, QDir::Name);
+    if (files.size() > LocalCalendarFeed::maxFolderFiles) {
+      files.resize(LocalCalendarFeed::maxFolderFiles);
+    }
+    for (QString& file : files) file = folder.filePath(file);
+  }
+  std::vector<std::string> documents;
+  for (const QString& file : files) {
+    if (std::optional<std::string> text = contentsOf(file)) documents.push_back(std::move(*text));
+  }
+  if (!isFolder && documents.empty()) return std::nullopt;
+  return documents;
+}
+
 }  // namespace
 
 LocalCalendarFeed::LocalCalendarFeed(CalendarSource source, ICalendarReadOptions options,
@@ -53,24 +73,13 @@ void LocalCalendarFeed::read() {
                Sentence(QT_TR_NOOP("%1 is not there"), tr).arg(location()));
     return;
   }
-  std::vector<std::string> documents;
-  QStringList files{info.absoluteFilePath()};
-  if (info.isDir()) {
-    QDir folder(info.absoluteFilePath());
-    files = folder.entryList({QStringLiteral("*.ics")}, QDir::Files | QDir::Readable, QDir::Name);
-    if (files.size() > maxFolderFiles) files.resize(maxFolderFiles);
-    for (QString& file : files) file = folder.filePath(file);
-  }
-  for (const QString& file : files) {
-    if (std::optional<std::string> text = contentsOf(file)) documents.push_back(std::move(*text));
-  }
-  if (!info.isDir() && documents.empty()) {
-    setProblem(DiagnosticsLog::Outcome::degraded,
-               Sentence(QT_TR_NOOP("%1 cannot be read"), tr).arg(location()));
-    return;
-  }
-  clearProblem();
-  accept(std::move(documents));
+  accept([path = info.absoluteFilePath(),
+          isFolder = info.isDir()] { return documentsAt(path, isFolder); },
+         [this](Outcome outcome) {
+           if (outcome != Outcome::unavailable) return;
+           setProblem(DiagnosticsLog::Outcome::degraded,
+                      Sentence(QT_TR_NOOP("%1 cannot be read"), tr).arg(location()));
+         });
 }
 
 }  // namespace tindra

@@ -60,14 +60,9 @@ std::optional<QUrl> RemoteCalendarFeed::fetchedURL(const QString& location) {
 
 void RemoteCalendarFeed::start() {
   loadKept();
-  const double age = now_() - fetchedAt_;
-  if (fetchedAt_ > 0 && age >= 0 && age < refreshEvery()) {
-    schedule(refreshEvery() - age);
-  } else {
-    fetch();
-  }
 }
 
+// The kept copy first, so that a conditional request is only made for a copy that reads.
 void RemoteCalendarFeed::loadKept() {
   if (const auto validators = keptValidators_.read()) {
     if (const auto value = JSONReader::parse(*validators)) {
@@ -77,13 +72,25 @@ void RemoteCalendarFeed::loadKept() {
       fetchedAt_ = at && at->asNumber() ? *at->asNumber() : 0;
     }
   }
-  const auto body = keptBody_.read();
-  if (!body || !accept({*body})) {
-    // Without a good copy the validators would make the server answer "not modified".
-    etag_.clear();
-    lastModified_.clear();
-    fetchedAt_ = 0;
-  }
+  const auto kept = [file = keptBody_]() -> std::optional<std::vector<std::string>> {
+    auto body = file.read();
+    if (!body) return std::nullopt;
+    return std::vector{std::move(*body)};
+  };
+  accept(kept, [this](Outcome outcome) {
+    if (outcome != Outcome::taken) {
+      // Without a good copy the validators would make the server answer "not modified".
+      etag_.clear();
+      lastModified_.clear();
+      fetchedAt_ = 0;
+    }
+    const double age = now_() - fetchedAt_;
+    if (fetchedAt_ > 0 && age >= 0 && age < refreshEvery()) {
+      schedule(refreshEvery() - age);
+    } else {
+      fetch();
+    }
+  });
 }
 
 void RemoteCalendarFeed::fetch() {
@@ -130,11 +137,14 @@ void RemoteCalendarFeed::onFinished(QNetworkReply* reply) {
                              : Sentence::verbatim(reply->errorString()));
   }
   const QByteArray body = reply->readAll();
-  clearProblem();
-  if (!accept({body.toStdString()})) return retryLater();
-  keep(body, *reply);
-  failures_ = 0;
-  schedule(refreshEvery());
+  accept([body] { return std::optional(std::vector{body.toStdString()}); },
+         [this, body, etag = reply->rawHeader("ETag"),
+          lastModified = reply->rawHeader("Last-Modified")](Outcome outcome) {
+           if (outcome != Outcome::taken) return retryLater();
+           keep(body, etag, lastModified);
+           failures_ = 0;
+           schedule(refreshEvery());
+         });
 }
 
 void RemoteCalendarFeed::failed(const Sentence& reason) {
@@ -149,9 +159,10 @@ void RemoteCalendarFeed::retryLater() {
   schedule(std::min(refreshEvery(), firstRetry * std::pow(2.0, std::min(failures_, 16) - 1)));
 }
 
-void RemoteCalendarFeed::keep(const QByteArray& body, const QNetworkReply& reply) {
-  etag_ = reply.rawHeader("ETag");
-  lastModified_ = reply.rawHeader("Last-Modified");
+void RemoteCalendarFeed::keep(const QByteArray& body, const QByteArray& etag,
+                              const QByteArray& lastModified) {
+  etag_ = etag;
+  lastModified_ = lastModified;
   fetchedAt_ = now_();
   if (const auto saved = keptBody_.write(body.toStdString()); !saved) {
     qWarning("calendar: %s", saved.error().message(keptBody_.url()).c_str());

@@ -49,7 +49,7 @@ class RemoteCalendarFeed final : public CalendarFeed {
   void onFinished(QNetworkReply* reply);
   void failed(const Sentence& reason);
   void retryLater();
-  void keep(const QByteArray& body, const QNetworkReply& reply);
+  void keep(const QByteArray& body, const QByteArray& etag, const QByteArray& lastModified);
   void saveValidators() const;
   void schedule(double seconds);
   double refreshEvery() const;

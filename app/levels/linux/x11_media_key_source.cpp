@@ -35,41 +35,37 @@ constexpr std::array<std::uint16_t, 4> lockVariants{0, XCB_MOD_MASK_LOCK, XCB_MO
 
 }  // namespace
 
-X11MediaKeySource::X11MediaKeySource(QObject* parent) : MediaKeySource(parent) {
-  int screen = 0;
-  connection_ = xcb_connect(nullptr, &screen);
-  if (xcb_connection_has_error(connection_) != 0) {
+X11MediaKeySource::X11MediaKeySource(std::shared_ptr<XcbConnection> connection, QObject* parent)
+    : MediaKeySource(parent), connection_(std::move(connection)) {
+  if (!connection_->isOpen()) {
     setCheck(DiagnosticsLog::Outcome::degraded,
              Sentence(QT_TR_NOOP("no X display: the keys stay with the desktop, and the level "
                                  "changes it makes are shown"),
                       tr));
     return;
   }
-  xcb_screen_iterator_t screens = xcb_setup_roots_iterator(xcb_get_setup(connection_));
-  for (int i = 0; i < screen && screens.rem > 0; ++i) xcb_screen_next(&screens);
-  root_ = screens.data->root;
-
+  xcb_connection_t* x = connection_->get();
   // Auto-repeat as repeated presses without releases in between, so a held key is seen as one.
-  XcbReply<xcb_xkb_use_extension_reply_t>(xcb_xkb_use_extension_reply(
-      connection_, xcb_xkb_use_extension(connection_, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION),
-      nullptr));
-  XcbReply<xcb_xkb_per_client_flags_reply_t>(xcb_xkb_per_client_flags_reply(
-      connection_,
-      xcb_xkb_per_client_flags(connection_, XCB_XKB_ID_USE_CORE_KBD,
-                               XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT,
-                               XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT, 0, 0, 0),
-      nullptr));
+  // The flag is the connection's, which no other user of it minds.
+  connection_->reply(xcb_xkb_use_extension_reply,
+                     xcb_xkb_use_extension(x, XCB_XKB_MAJOR_VERSION, XCB_XKB_MINOR_VERSION));
+  connection_->reply(xcb_xkb_per_client_flags_reply,
+                     xcb_xkb_per_client_flags(
+                         x, XCB_XKB_ID_USE_CORE_KBD, XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT,
+                         XCB_XKB_PER_CLIENT_FLAG_DETECTABLE_AUTO_REPEAT, 0, 0, 0));
   readKeyboardMapping();
 
-  notifier_ = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(connection_),
-                                                QSocketNotifier::Read);
-  connect(notifier_.get(), &QSocketNotifier::activated, this, &X11MediaKeySource::readEvents);
+  connection_->subscribe(this, {XCB_KEY_PRESS, XCB_KEY_RELEASE, XCB_MAPPING_NOTIFY},
+                         [this](const xcb_generic_event_t& event) { handle(event); });
+  connect(connection_.get(), &XcbConnection::closed, this, &X11MediaKeySource::closed);
   setCheck(DiagnosticsLog::Outcome::ok, Sentence(QT_TR_NOOP("holding no keys"), tr));
 }
 
+// The connection may stay open for others: the keys go back to the desktop now.
 X11MediaKeySource::~X11MediaKeySource() {
-  notifier_.reset();
-  if (connection_ != nullptr) xcb_disconnect(connection_);
+  if (!connection_->isOpen()) return;
+  for (const KeyGrab& combination : held_) ungrab(combination);
+  xcb_flush(connection_->get());
 }
 
 KeyModifiers X11MediaKeySource::modifiersFromState(std::uint16_t state) {
@@ -92,10 +88,11 @@ std::uint16_t X11MediaKeySource::stateFromModifiers(KeyModifiers modifiers) {
 
 void X11MediaKeySource::readKeyboardMapping() {
   keys_.clear();
-  const xcb_setup_t* setup = xcb_get_setup(connection_);
+  xcb_connection_t* x = connection_->get();
+  const xcb_setup_t* setup = xcb_get_setup(x);
   const auto count = static_cast<std::uint8_t>(setup->max_keycode - setup->min_keycode + 1);
-  XcbReply<xcb_get_keyboard_mapping_reply_t> mapping(xcb_get_keyboard_mapping_reply(
-      connection_, xcb_get_keyboard_mapping(connection_, setup->min_keycode, count), nullptr));
+  const XcbReply<xcb_get_keyboard_mapping_reply_t> mapping = connection_->reply(
+      xcb_get_keyboard_mapping_reply, xcb_get_keyboard_mapping(x, setup->min_keycode, count));
   if (!mapping || mapping->keysyms_per_keycode == 0) return;
   const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(mapping.get());
   const int length = xcb_get_keyboard_mapping_keysyms_length(mapping.get());
@@ -114,14 +111,15 @@ bool X11MediaKeySource::grab(const KeyGrab& combination) {
   for (const auto& [code, key] : keys_) {
     if (key != combination.key) continue;
     for (const std::uint16_t lock : lockVariants) {
-      cookies.push_back(xcb_grab_key_checked(connection_, 1, root_, state | lock, code,
-                                             XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC));
+      cookies.push_back(xcb_grab_key_checked(connection_->get(), 1, connection_->root(),
+                                             state | lock, code, XCB_GRAB_MODE_ASYNC,
+                                             XCB_GRAB_MODE_ASYNC));
     }
   }
   bool held = !cookies.empty();
   for (const xcb_void_cookie_t cookie : cookies) {
     // BadAccess: another program holds this combination.
-    if (XcbReply<xcb_generic_error_t> error{xcb_request_check(connection_, cookie)}) held = false;
+    if (connection_->check(cookie)) held = false;
   }
   if (!held) ungrab(combination);
   return held;
@@ -132,13 +130,13 @@ void X11MediaKeySource::ungrab(const KeyGrab& combination) {
   for (const auto& [code, key] : keys_) {
     if (key != combination.key) continue;
     for (const std::uint16_t lock : lockVariants) {
-      xcb_ungrab_key(connection_, code, root_, state | lock);
+      xcb_ungrab_key(connection_->get(), code, connection_->root(), state | lock);
     }
   }
 }
 
 void X11MediaKeySource::setWanted(const std::vector<KeyGrab>& wanted) {
-  if (connection_ == nullptr || xcb_connection_has_error(connection_) != 0) return;
+  if (!connection_->isOpen()) return;
   wanted_ = wanted;
   std::erase_if(held_, [&](const KeyGrab& combination) {
     const bool unwanted = std::ranges::find(wanted, combination) == wanted.end();
@@ -155,10 +153,7 @@ void X11MediaKeySource::setWanted(const std::vector<KeyGrab>& wanted) {
     }
   }
   // A round trip, so that the server has taken the releases too before anyone else asks.
-  XcbReply<xcb_get_input_focus_reply_t>(
-      xcb_get_input_focus_reply(connection_, xcb_get_input_focus(connection_), nullptr));
-  // Replies may have brought events along.
-  readEvents();
+  connection_->reply(xcb_get_input_focus_reply, xcb_get_input_focus(connection_->get()));
   setCheck(refused_.empty() ? DiagnosticsLog::Outcome::ok : DiagnosticsLog::Outcome::degraded,
            Sentence(QT_TR_NOOP("holding %1 key combinations, %2 held by another program"), tr)
                .arg(held_.size())
@@ -172,16 +167,12 @@ void X11MediaKeySource::regrabAll() {
   setWanted(std::vector<KeyGrab>(wanted_));
 }
 
-void X11MediaKeySource::readEvents() {
-  while (XcbReply<xcb_generic_event_t> event{xcb_poll_for_event(connection_)}) handle(*event);
-  if (xcb_connection_has_error(connection_) != 0) {
-    notifier_->setEnabled(false);
-    held_.clear();
-    setCheck(
-        DiagnosticsLog::Outcome::degraded,
-        Sentence(QT_TR_NOOP("the X server closed the connection: the keys stay with the desktop"),
-                 tr));
-  }
+void X11MediaKeySource::closed() {
+  held_.clear();
+  setCheck(
+      DiagnosticsLog::Outcome::degraded,
+      Sentence(QT_TR_NOOP("the X server closed the connection: the keys stay with the desktop"),
+               tr));
 }
 
 void X11MediaKeySource::handle(const xcb_generic_event_t& event) {

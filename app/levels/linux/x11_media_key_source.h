@@ -1,4 +1,4 @@
-// X11MediaKeySource: the media keys on an X11 desktop, through a connection of its own to the X
+// X11MediaKeySource: the media keys on an X11 desktop, through the shared XcbConnection to the X
 // server. It holds each wanted key and modifier combination as a passive grab on the root window
 // (whatever Num Lock and Caps Lock say), so those presses come to Tindra and not to the desktop;
 // a grab that another program already holds is given up at once and reported. Keyboard layout
@@ -7,11 +7,11 @@
 
 #include <xcb/xcb.h>
 
-#include <QSocketNotifier>
 #include <map>
 #include <memory>
 #include <set>
 
+#include "base/linux/xcb_connection.h"
 #include "levels/media_key_source.h"
 
 namespace tindra {
@@ -20,8 +20,10 @@ class X11MediaKeySource final : public MediaKeySource {
   Q_OBJECT
 
  public:
-  // Connects to $DISPLAY; check() says so when that fails.
-  explicit X11MediaKeySource(QObject* parent = nullptr);
+  // On `connection`'s display; check() says so when there is none. The grabs belong to the
+  // connection's client, so another program is a source on a connection of its own.
+  explicit X11MediaKeySource(std::shared_ptr<XcbConnection> connection = XcbConnection::shared(),
+                             QObject* parent = nullptr);
   ~X11MediaKeySource() override;
 
   void start() override {}
@@ -37,12 +39,10 @@ class X11MediaKeySource final : public MediaKeySource {
   bool grab(const KeyGrab& combination);
   void ungrab(const KeyGrab& combination);
   void regrabAll();
-  void readEvents();
   void handle(const xcb_generic_event_t& event);
+  void closed();
 
-  xcb_connection_t* connection_ = nullptr;
-  xcb_window_t root_ = 0;
-  std::unique_ptr<QSocketNotifier> notifier_;
+  std::shared_ptr<XcbConnection> connection_;
   std::map<xcb_keycode_t, SystemDefinedKeyEvent::Key> keys_;
   std::vector<KeyGrab> wanted_;
   std::vector<KeyGrab> held_;

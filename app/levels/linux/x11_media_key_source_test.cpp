@@ -78,7 +78,7 @@ TEST_F(X11MediaKeySourceTest, SeesTheHeldCombinationsAndNothingElse) {
 }
 
 TEST_F(X11MediaKeySourceTest, LeavesAKeyThatAnotherProgramHolds) {
-  X11MediaKeySource other;  // its own connection: another X client
+  X11MediaKeySource other(std::make_shared<XcbConnection>());  // another X client
   Presses otherPresses(other);
   other.setWanted({{Key::mute, {}}});
 

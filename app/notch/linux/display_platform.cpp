@@ -5,9 +5,8 @@
 #include <QGuiApplication>
 #include <QWindow>
 #include <cstdlib>
-#include <cstring>
 
-#include "base/linux/xcb_reply.h"
+#include "base/linux/xcb_connection.h"
 
 namespace tindra {
 
@@ -32,21 +31,36 @@ Qt::WindowFlags notchWindowFlags() {
          Qt::X11BypassWindowManagerHint | Qt::Tool;
 }
 
+namespace {
+
+// Atoms are the server's, whichever connection asks: asked once, on the shared connection.
+xcb_atom_t blurAtom() {
+  static const xcb_atom_t atom = [] {
+    const std::shared_ptr<XcbConnection> connection = XcbConnection::shared();
+    if (!connection->isOpen()) return xcb_atom_t(XCB_ATOM_NONE);
+    const auto [blur] =
+        connection->internAtoms(std::array<std::string_view, 1>{"_KDE_NET_WM_BLUR_BEHIND_REGION"});
+    return blur;
+  }();
+  return atom;
+}
+
+}  // namespace
+
 void setBlurBehind(QWindow& window, bool on) {
   auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
   if (x11 == nullptr) return;
+  const xcb_atom_t blur = blurAtom();
+  if (blur == XCB_ATOM_NONE) return;
+  // Qt's connection made the window, so the server has it before this change arrives.
   xcb_connection_t* connection = x11->connection();
-  constexpr const char* name = "_KDE_NET_WM_BLUR_BEHIND_REGION";
-  const XcbReply<xcb_intern_atom_reply_t> atom(xcb_intern_atom_reply(
-      connection, xcb_intern_atom(connection, 0, std::strlen(name), name), nullptr));
-  if (!atom) return;
   const auto id = static_cast<xcb_window_t>(window.winId());
   // An empty region means the whole window; its shape keeps the blur to the notch.
   if (on) {
-    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, id, atom->atom, XCB_ATOM_CARDINAL, 32, 0,
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, id, blur, XCB_ATOM_CARDINAL, 32, 0,
                         nullptr);
   } else {
-    xcb_delete_property(connection, id, atom->atom);
+    xcb_delete_property(connection, id, blur);
   }
   xcb_flush(connection);
 }

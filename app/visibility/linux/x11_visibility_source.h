@@ -2,19 +2,19 @@
 // manager publishes them on the root window: _NET_ACTIVE_WINDOW, the active window's
 // _NET_WM_STATE (full screen, hidden) and geometry, and _NET_CLIENT_LIST_STACKING with each
 // window's process (_NET_WM_PID) and opacity. Whether the application in front is a game comes
-// from its desktop entry (Categories=Game). A connection of its own to the X server follows
+// from its desktop entry (Categories=Game). The shared XcbConnection to the X server follows
 // PropertyNotify on the root and on the active window and ConfigureNotify of the active window;
 // nothing is polled.
 #pragma once
 
 #include <xcb/xcb.h>
 
-#include <QSocketNotifier>
 #include <functional>
 #include <memory>
 #include <span>
 #include <string>
 
+#include "base/linux/xcb_connection.h"
 #include "visibility/visibility_source.h"
 
 namespace tindra {
@@ -28,8 +28,10 @@ class X11VisibilitySource final : public VisibilitySource {
   using GameTest =
       std::function<bool(const std::string& applicationId, const std::string& windowClass)>;
 
-  // Connects to $DISPLAY; check() says so when that fails.
-  explicit X11VisibilitySource(GameTest isGame, QObject* parent = nullptr);
+  // On `connection`'s display; check() says so when there is none.
+  explicit X11VisibilitySource(GameTest isGame,
+                               std::shared_ptr<XcbConnection> connection = XcbConnection::shared(),
+                               QObject* parent = nullptr);
   ~X11VisibilitySource() override;
 
   void start() override;
@@ -50,19 +52,22 @@ class X11VisibilitySource final : public VisibilitySource {
   struct Window;
   struct Identity;
 
-  void readEvents();
-  bool takeEvents();
+  void take(const xcb_generic_event_t& event);
+  void rereadSoon();
   void reread();
   // `screens` as they are now, to bring the frame to Qt's pixels.
   Window read(xcb_window_t window, std::span<const ScreenScale> screens);
   Identity identify(xcb_window_t window);
   void follow(xcb_window_t active);
+  void closed();
+  std::vector<std::uint32_t> items(xcb_window_t window, xcb_atom_t property, xcb_atom_t type);
+  std::string text(xcb_window_t window, xcb_atom_t property, xcb_atom_t type);
 
   GameTest isGame_;
-  xcb_connection_t* connection_ = nullptr;
-  xcb_window_t root_ = 0;
+  std::shared_ptr<XcbConnection> connection_;
   std::unique_ptr<Atoms> atoms_;
-  std::unique_ptr<QSocketNotifier> notifier_;
+  bool started_ = false;
+  bool rereadQueued_ = false;
   xcb_window_t followed_ = 0;
 };
 
