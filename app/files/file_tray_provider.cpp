@@ -1,17 +1,16 @@
 #include "files/file_tray_provider.h"
-#include <QDesktopServices>
-#include "base/wall_clock.h"
 
 #include <QFileInfo>
-#include <QMimeDatabase>
 #include <QStandardPaths>
 #include <QtConcurrent>
 #include <cstring>
 
+#include "base/backend_selection.h"
 #include "base/diagnostics_log.h"
 #include "base/logging_categories.h"
 #include "base/qt_text.h"
-#include "files/file_identity.h"
+#include "base/wall_clock.h"
+#include "files/fake_file_tray_backend.h"
 #include "settings/settings_keys.h"
 
 namespace tindra {
@@ -33,16 +32,21 @@ QString nameOf(const std::string& path) {
   return QFileInfo(QString::fromStdString(path)).fileName();
 }
 
-// The candidate a file or folder at `path` makes: its identity as the bookmark, its name and type.
-FileTrayCandidate candidateFor(const std::string& path, const QMimeDatabase& types) {
-  const std::optional<FileIdentity> identity = FileIdentity::of(path);
-  return {.bookmark = identity ? identity->bookmark() : std::vector<std::uint8_t>{},
+}  // namespace
+
+// The candidate a file or folder at `path` makes: what it names as the bookmark, its name and
+// type.
+FileTrayCandidate FileTrayProvider::candidateFor(const std::string& path,
+                                                 const QMimeDatabase& types) const {
+  return {.bookmark = backend_->bookmark(path),
           .displayName = nameOf(path).toStdString(),
           .path = path,
           .contentType = types.mimeTypeForFile(QString::fromStdString(path)).name().toStdString(),
           .copiedBytes = std::nullopt,
           .sourcePath = std::nullopt};
 }
+
+namespace {
 
 // "Already in the tray: a.txt, b.txt." and the like; nothing for no names.
 void tell(QStringList& status, const QString& before, const QStringList& names,
@@ -55,13 +59,14 @@ void tell(QStringList& status, const QString& before, const QStringList& names,
 
 }  // namespace
 
-FileTrayProvider::FileTrayProvider(ProviderContext context, std::filesystem::path dataFolder,
-                                   std::function<double()> now,
-                                   std::function<bool(const QUrl&)> openUrl, QObject* parent)
+FileTrayProvider::FileTrayProvider(ProviderContext context,
+                                   std::unique_ptr<FileTrayBackend> backend,
+                                   std::filesystem::path dataFolder, std::function<double()> now,
+                                   QObject* parent)
     : Provider(context, id, parent),
+      backend_(std::move(backend)),
       storage_(std::move(dataFolder)),
       now_(std::move(now)),
-      openUrl_(std::move(openUrl)),
       viewModel_({[this](const QString& id) { open(id); },
                   [this](const QString& id) { remove(id); }, [this] { removeAll(); },
                   [this] { cancelCopy(); }}) {
@@ -70,10 +75,11 @@ FileTrayProvider::FileTrayProvider(ProviderContext context, std::filesystem::pat
   connect(&folders_, &QFileSystemWatcher::directoryChanged, this, &FileTrayProvider::publish);
 }
 
+// The workers use the backend: they finish before it goes.
 FileTrayProvider::~FileTrayProvider() {
-  if (!copy_) return;
-  copy_->cancel = true;
-  copy_->watcher.waitForFinished();
+  if (copy_) copy_->cancel = true;
+  for (QFutureWatcherBase* worker : findChildren<QFutureWatcherBase*>()) worker->waitForFinished();
+  if (copy_) copy_->watcher.waitForFinished();
 }
 
 std::filesystem::path FileTrayProvider::defaultDataFolder() {
@@ -83,6 +89,13 @@ std::filesystem::path FileTrayProvider::defaultDataFolder() {
 }
 
 void FileTrayProvider::start() {
+  const auto recordFileSystem = [this] {
+    diagnostics().record(lcFiles(), QStringLiteral("file system"), backend_->check().outcome,
+                         backend_->check().text);
+  };
+  connect(backend_.get(), &FileTrayBackend::checkChanged, this, recordFileSystem);
+  backend_->start();
+  recordFileSystem();
   observation_ =
       settings().observe(settings::experimentalFileTray, [this](const bool&) { publish(); });
   FileTrayStorage::Loaded loaded = storage_.load();
@@ -121,12 +134,12 @@ bool FileTrayProvider::drop(const QList<QUrl>& urls) {
   std::vector<std::string> paths;
   bool other = false;
   for (const QUrl& url : urls) {
-    const QFileInfo file(url.toLocalFile());
-    if (!url.isLocalFile() || !file.exists()) {
+    std::string path = QFileInfo(url.toLocalFile()).absoluteFilePath().toStdString();
+    if (!url.isLocalFile() || backend_->bookmark(path).empty()) {
       other = true;
       continue;
     }
-    paths.push_back(file.absoluteFilePath().toStdString());
+    paths.push_back(std::move(path));
   }
   if (other) status << tr("Only files and folders can go in the tray.");
   if (settings().read(settings::fileTrayMode) == FileTrayStorageMode::link) {
@@ -141,7 +154,8 @@ bool FileTrayProvider::drop(const QList<QUrl>& urls) {
     measuring->deleteLater();
     measured(measuring->result(), status);
   });
-  measuring->setFuture(QtConcurrent::run(measureForTray, paths));
+  measuring->setFuture(
+      QtConcurrent::run([&backend = *backend_, paths] { return backend.measure(paths); }));
   return true;
 }
 
@@ -199,9 +213,10 @@ void FileTrayProvider::startCopy() {
   connect(&copy_->watcher, &QFutureWatcherBase::finished, this,
           [this] { copied(copy_->watcher.result()); });
   Copy& copy = *copy_;
-  copy_->watcher.setFuture(QtConcurrent::run([&copy, folder = storage_.copiesFolder()] {
-    return copyIntoTray(copy.requests, folder, copy.copiedBytes, copy.cancel);
-  }));
+  copy_->watcher.setFuture(
+      QtConcurrent::run([&backend = *backend_, &copy, folder = storage_.copiesFolder()] {
+        return backend.copy(copy.requests, folder, copy.copiedBytes, copy.cancel);
+      }));
   progressTimer_.start();
   publishProgress();
 }
@@ -242,7 +257,7 @@ void FileTrayProvider::open(const QString& id) {
   const std::optional<UUID> uuid = UUID::fromText(id.toStdString());
   for (const FileTrayItem& item : tray_.items()) {
     if (uuid && item.id == *uuid && !missing(item)) {
-      openUrl_(QUrl::fromLocalFile(QString::fromStdString(item.path)));
+      backend_->open(item.path);
     }
   }
 }
@@ -300,8 +315,7 @@ void FileTrayProvider::save() {
 }
 
 bool FileTrayProvider::missing(const FileTrayItem& item) const {
-  const std::optional<FileIdentity> now = FileIdentity::of(item.path);
-  return !now || now != FileIdentity::fromBookmark(item.bookmark);
+  return !backend_->stillNames(item.path, item.bookmark);
 }
 
 void FileTrayProvider::watchFolders() {
@@ -339,9 +353,13 @@ void FileTrayProvider::publishProgress() {
 }
 
 std::unique_ptr<FileTrayProvider> FileTrayProvider::make(ProviderContext& context) {
+  SharedBackends& shared = *context.shared;
   return std::make_unique<FileTrayProvider>(
-      context, defaultDataFolder(), secondsSince1970,
-      [](const QUrl& file) { return QDesktopServices::openUrl(file); });
+      context,
+      chooseBackend(
+          id, shared, [] { return std::make_unique<FakeFileTrayBackend>(); },
+          [&] { return FileTrayBackend::forPlatform(shared); }),
+      defaultDataFolder(), secondsSince1970);
 }
 
 ProviderViews FileTrayProvider::views() {

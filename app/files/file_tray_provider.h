@@ -10,6 +10,7 @@
 
 #include <QFileSystemWatcher>
 #include <QFutureWatcher>
+#include <QMimeDatabase>
 #include <QTimer>
 #include <QUrl>
 #include <atomic>
@@ -20,7 +21,7 @@
 #include "base/provider.h"
 #include "base/provider_views.h"
 #include "files/file_tray.h"
-#include "files/file_tray_copier.h"
+#include "files/file_tray_backend.h"
 #include "files/file_tray_storage.h"
 #include "files/file_tray_view_model.h"
 #include "settings/settings_store.h"
@@ -36,9 +37,9 @@ class FileTrayProvider final : public Provider {
   static std::unique_ptr<FileTrayProvider> make(ProviderContext& context);
   static ProviderViews views();
 
-  // `now` gives seconds since 1970; `openUrl` opens a file with the desktop's handler.
-  FileTrayProvider(ProviderContext context, std::filesystem::path dataFolder,
-                   std::function<double()> now, std::function<bool(const QUrl&)> openUrl,
+  // `now` gives seconds since 1970.
+  FileTrayProvider(ProviderContext context, std::unique_ptr<FileTrayBackend> backend,
+                   std::filesystem::path dataFolder, std::function<double()> now,
                    QObject* parent = nullptr);
   ~FileTrayProvider() override;
 
@@ -51,6 +52,7 @@ class FileTrayProvider final : public Provider {
   // Takes a drop on the notch; false (the drop is refused) while the tray is off.
   bool drop(const QList<QUrl>& urls);
   const FileTray& tray() const { return tray_; }
+  FileTrayBackend& backend() { return *backend_; }
   bool copying() const { return copy_ != nullptr; }
 
  private:
@@ -75,9 +77,12 @@ class FileTrayProvider final : public Provider {
   void watchFolders();
   bool missing(const FileTrayItem& item) const;
 
+  // The path and its bookmark as the tray keeps them.
+  FileTrayCandidate candidateFor(const std::string& path, const QMimeDatabase& types) const;
+
+  std::unique_ptr<FileTrayBackend> backend_;
   FileTrayStorage storage_;
   std::function<double()> now_;
-  std::function<bool(const QUrl&)> openUrl_;
   FileTray tray_;
   QString status_;
   SettingsObservation observation_;

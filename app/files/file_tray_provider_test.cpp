@@ -11,6 +11,8 @@
 #include "base/activity_center.h"
 #include "base/diagnostics_log.h"
 #include "base/qt_text.h"
+#include "files/fake_file_tray_backend.h"
+#include "files/linux/posix_file_tray_backend.h"
 #include "settings/settings_keys.h"
 #include "testing/picture_checks.h"
 #include "testing/view_shot.h"
@@ -31,14 +33,17 @@ class FileTrayProviderTest : public ::testing::Test {
     QDir().mkpath(files_.path());
   }
 
-  std::unique_ptr<FileTrayProvider> started() {
+  // On the real file system unless another is given; opening is recorded.
+  std::unique_ptr<FileTrayProvider> started(std::unique_ptr<FileTrayBackend> fileSystem = nullptr) {
+    if (!fileSystem) {
+      fileSystem = std::make_unique<PosixFileTrayBackend>([this](const std::string& path) {
+        opened_ << toQString(path);
+        return true;
+      });
+    }
     auto provider = std::make_unique<FileTrayProvider>(
-        ProviderContext{activities_, settings_, diagnostics_}, data_.path().toStdString(),
-        [] { return 1000.0; },
-        [this](const QUrl& url) {
-          opened_ << url.toLocalFile();
-          return true;
-        });
+        ProviderContext{activities_, settings_, diagnostics_}, std::move(fileSystem),
+        data_.path().toStdString(), [] { return 1000.0; });
     provider->start();
     return provider;
   }
@@ -85,6 +90,34 @@ TEST_F(FileTrayProviderTest, LinksToFilesMovedDeletedOrReplacedShowAsMissingAndN
   tray->viewModel()->removeAll();
   EXPECT_TRUE(tray->tray().items().empty());
   EXPECT_TRUE(QFile::exists(files_.filePath("kept.txt")));
+}
+
+// Whether a file is there, is still the one dropped, how big it is and how it opens are the
+// backend's to say, never the provider's own look at the disk.
+TEST_F(FileTrayProviderTest, TheFileSystemIsTheBackends) {
+  auto made = std::make_unique<FakeFileTrayBackend>();
+  FakeFileTrayBackend& files = *made;
+  files.invent("/invented/report.pdf", 5);
+  files.invent("/invented/notes.txt", 5);
+  auto tray = started(std::move(made));
+  const auto url = [](const char* path) { return QUrl::fromLocalFile(QString::fromUtf8(path)); };
+  ASSERT_TRUE(tray->drop({url("/invented/report.pdf"), url("/invented/notes.txt")}));
+  ASSERT_EQ(tray->tray().items().size(), 2u);
+
+  files.invent("/invented/notes.txt", 7);  // replaced under its name
+  ASSERT_TRUE(settings_.write(settings::experimentalFileTray, false));
+  ASSERT_TRUE(settings_.write(settings::experimentalFileTray, true));  // drawn again
+  tray->viewModel()->open(item(*tray, 1)["id"].toString());
+  tray->viewModel()->open(item(*tray, 0)["id"].toString());
+  EXPECT_TRUE(item(*tray, 1)["missing"].toBool());
+  EXPECT_EQ(files.opened, std::vector<std::string>{"/invented/report.pdf"});
+
+  ASSERT_TRUE(settings_.write(settings::fileTrayMode, FileTrayStorageMode::copy));
+  files.invent("/invented/photo.jpg", 9);
+  ASSERT_TRUE(tray->drop({url("/invented/photo.jpg")}));
+  ASSERT_TRUE(waitFor([&] { return !tray->copying() && !tray->viewModel()->status().isEmpty(); }));
+  EXPECT_EQ(tray->viewModel()->status(), "photo.jpg could not be copied into the tray.");
+  EXPECT_EQ(tray->tray().items().size(), 2u);
 }
 
 TEST_F(FileTrayProviderTest, TwentyItemsAndEachFileOnce) {

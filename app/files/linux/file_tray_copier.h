@@ -9,21 +9,10 @@
 #include <string>
 #include <vector>
 
+#include "files/file_tray_backend.h"
 #include "files/file_tray_item.h"
 
 namespace tindra {
-
-struct TrayCopy {
-  std::string sourcePath;
-  std::string copyPath;  // the copy in the copies folder, with the original's name
-  std::int64_t bytes = 0;
-};
-
-struct TrayCopyResult {
-  std::vector<TrayCopy> copied;
-  std::vector<std::string> failed;  // source paths that could not be copied
-  bool cancelled = false;
-};
 
 // The bytes of each file, or of the regular files inside each folder (symbolic links are not
 // followed); -1 for one that cannot be read, which the admission counts as invalid.

@@ -1,4 +1,4 @@
-#include "files/file_identity.h"
+#include "files/linux/file_identity.h"
 
 #include <sys/stat.h>
 

@@ -1,4 +1,4 @@
-#include "files/file_tray_copier.h"
+#include "files/linux/file_tray_copier.h"
 
 #include <fcntl.h>
 #include <unistd.h>
