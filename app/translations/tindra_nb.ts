@@ -91,6 +91,26 @@
         <source>no X11 window manager to ask (%1): the notch never steps aside for full-screen windows or games</source>
         <translation>ingen X11-vindusbehandler å spørre (%1): hakket viker aldri for vinduer i fullskjerm eller spill</translation>
     </message>
+    <message>
+        <source>no session bus: no calls or messages are shown</source>
+        <translation>ingen øktbuss: ingen anrop eller meldinger vises</translation>
+    </message>
+    <message>
+        <source>no system bus (%1): the keyboard light keys stay with the desktop</source>
+        <translation>ingen systembuss (%1): tastene for tastaturlys blir hos skrivebordet</translation>
+    </message>
+    <message>
+        <source>no X11 display (%1): the keys stay with the desktop, and the level changes it makes are shown</source>
+        <translation>ingen X11-skjerm (%1): tastene blir hos skrivebordet, og nivåendringene det gjør, vises</translation>
+    </message>
+    <message>
+        <source>no system bus (%1): no accessories are shown</source>
+        <translation>ingen systembuss (%1): tilbehør vises ikke</translation>
+    </message>
+    <message>
+        <source>no system bus (%1): GeoClue cannot be asked</source>
+        <translation>ingen systembuss (%1): GeoClue kan ikke spørres</translation>
+    </message>
 </context>
 <context>
     <name>BannerPanel</name>
@@ -261,6 +281,29 @@
     <message>
         <source>Call</source>
         <translation>Anrop</translation>
+    </message>
+</context>
+<context>
+    <name>PinnedSectionsEditor</name>
+    <message>
+        <source>Calendar</source>
+        <translation>Kalender</translation>
+    </message>
+    <message>
+        <source>File Tray</source>
+        <translation>Filskuff</translation>
+    </message>
+    <message>
+        <source>Now Playing</source>
+        <translation>Spilles nå</translation>
+    </message>
+    <message>
+        <source>Batteries</source>
+        <translation>Batterier</translation>
+    </message>
+    <message>
+        <source>Weather</source>
+        <translation>Vær</translation>
     </message>
 </context>
 <context>
@@ -920,15 +963,19 @@
         <translation>Strømmen ble hoppet over fordi selvtesten mislyktes.</translation>
     </message>
     <message>
-        <source>Could not launch stream: </source>
-        <translation>Kunne ikke starte strømmen: </translation>
+        <source>Could not launch stream: %1</source>
+        <translation>Kunne ikke starte strømmen: %1</translation>
     </message>
 </context>
 <context>
     <name>tindra::AdapterNowPlayingSource</name>
     <message>
-        <source>Adapter stream exited with status %1; restarting in %2 s</source>
-        <translation>Adapterstrømmen avsluttet med status %1; starter på nytt om %2 s</translation>
+        <source>following the players through the adapter&apos;s stream</source>
+        <translation>følger spillerne gjennom adapterens strøm</translation>
+    </message>
+    <message>
+        <source>the adapter&apos;s stream keeps failing: testing the adapter again</source>
+        <translation>adapterens strøm svikter stadig: tester adapteren på nytt</translation>
     </message>
 </context>
 <context>
@@ -996,6 +1043,14 @@
     <message>
         <source>, %1 to-dos</source>
         <translation>, %1 gjøremål</translation>
+    </message>
+    <message>
+        <source>%1; the last good copy is kept</source>
+        <translation>%1; den siste gode kopien beholdes</translation>
+    </message>
+    <message>
+        <source>%1 events in view</source>
+        <translation>%1 hendelser i visningen</translation>
     </message>
 </context>
 <context>
@@ -1134,6 +1189,20 @@
     </message>
 </context>
 <context>
+    <name>tindra::FakeAccessoryBackend</name>
+    <message>
+        <source>invented accessories (TINDRA_FAKE asks for them)</source>
+        <translation>oppdiktet tilbehør (TINDRA_FAKE ber om det)</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeBacklightBackend</name>
+    <message>
+        <source>invented readings (TINDRA_FAKE asks for them)</source>
+        <translation>oppdiktede målinger (TINDRA_FAKE ber om dem)</translation>
+    </message>
+</context>
+<context>
     <name>tindra::FakeBatteryBackend</name>
     <message>
         <source>invented readings (TINDRA_FAKE asks for them)</source>
@@ -1147,12 +1216,22 @@
         <translation>oppdiktet</translation>
     </message>
     <message>
-        <source>invented calendars (TINDRA_FAKE)</source>
-        <translation>oppdiktede kalendere (TINDRA_FAKE)</translation>
-    </message>
-    <message>
         <source>The invented calendars take no additions.</source>
         <translation>Det kan ikke legges til noe i de oppdiktede kalenderne.</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeFileTrayBackend</name>
+    <message>
+        <source>invented files (TINDRA_FAKE asks for them)</source>
+        <translation>oppdiktede filer (TINDRA_FAKE ber om dem)</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeFocusStatusSource</name>
+    <message>
+        <source>invented do-not-disturb (TINDRA_FAKE)</source>
+        <translation>oppdiktet Ikke forstyrr (TINDRA_FAKE)</translation>
     </message>
 </context>
 <context>
@@ -1160,6 +1239,41 @@
     <message>
         <source>an invented position (TINDRA_FAKE)</source>
         <translation>en oppdiktet posisjon (TINDRA_FAKE)</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeLockStateSource</name>
+    <message>
+        <source>invented screen lock (TINDRA_FAKE)</source>
+        <translation>oppdiktet skjermlås (TINDRA_FAKE)</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeNotificationSource</name>
+    <message>
+        <source>invented notifications (TINDRA_FAKE)</source>
+        <translation>oppdiktede varsler (TINDRA_FAKE)</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeNowPlayingSource</name>
+    <message>
+        <source>an invented track (TINDRA_FAKE asks for it)</source>
+        <translation>et oppdiktet spor (TINDRA_FAKE ber om det)</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeVisibilitySource</name>
+    <message>
+        <source>an invented window in front (TINDRA_FAKE)</source>
+        <translation>et oppdiktet vindu foran (TINDRA_FAKE)</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::FakeVolumeBackend</name>
+    <message>
+        <source>invented readings (TINDRA_FAKE asks for them)</source>
+        <translation>oppdiktede målinger (TINDRA_FAKE ber om dem)</translation>
     </message>
 </context>
 <context>
@@ -1253,10 +1367,6 @@
         <translation>spør GeoClue om posisjonen</translation>
     </message>
     <message>
-        <source>no system bus: GeoClue cannot be asked</source>
-        <translation>ingen systembuss: GeoClue kan ikke spørres</translation>
-    </message>
-    <message>
         <source>GeoClue is not available (%1)</source>
         <translation>GeoClue er ikke tilgjengelig (%1)</translation>
     </message>
@@ -1268,17 +1378,13 @@
         <source>GeoClue gives the position, at city accuracy</source>
         <translation>GeoClue gir posisjonen, med nøyaktighet på bynivå</translation>
     </message>
+    <message>
+        <source>GeoClue went away: the last position stays until it returns</source>
+        <translation>GeoClue forsvant: den siste posisjonen blir stående til den kommer tilbake</translation>
+    </message>
 </context>
 <context>
     <name>tindra::HudProvider</name>
-    <message>
-        <source>keyboard light</source>
-        <translation>tastaturlys</translation>
-    </message>
-    <message>
-        <source>Key routing: volume %1, brightness %2, keyboard %3</source>
-        <translation>Tastruting: lydstyrke %1, lysstyrke %2, tastatur %3</translation>
-    </message>
     <message>
         <source>holds %1</source>
         <translation>holder %1</translation>
@@ -1290,6 +1396,10 @@
     <message>
         <source>leaves %1 to the desktop</source>
         <translation>overlater %1 til skrivebordet</translation>
+    </message>
+    <message>
+        <source>the keyboard backlight ignores Tindra&apos;s changes: the keys go back to the desktop and the notch only shows the level</source>
+        <translation>tastaturlyset overser Tindras endringer: tastene går tilbake til skrivebordet, og hakket viser bare nivået</translation>
     </message>
 </context>
 <context>
@@ -1325,6 +1435,10 @@
         <source>no calendars: add an iCalendar file, folder or address in Settings</source>
         <translation>ingen kalendere: legg til en iCalendar-fil, -mappe eller -adresse i Innstillinger</translation>
     </message>
+    <message>
+        <source>%1 cannot be read: %2</source>
+        <translation>%1 kan ikke leses: %2</translation>
+    </message>
 </context>
 <context>
     <name>tindra::LocalCalendarFeed</name>
@@ -1354,6 +1468,10 @@
     <message>
         <source>following the screen lock of logind&apos;s session %1</source>
         <translation>følger skjermlåsen for logind-økt %1</translation>
+    </message>
+    <message>
+        <source>logind went away: the screen lock is not followed until it returns</source>
+        <translation>logind forsvant: skjermlåsen følges ikke før den kommer tilbake</translation>
     </message>
 </context>
 <context>
@@ -1428,28 +1546,15 @@
 <context>
     <name>tindra::PinnedSectionsEditor</name>
     <message>
-        <source>Now Playing</source>
-        <translation>Spilles nå</translation>
-    </message>
-    <message>
-        <source>Calendar</source>
-        <translation>Kalender</translation>
-    </message>
-    <message>
-        <source>Weather</source>
-        <translation>Vær</translation>
-    </message>
-    <message>
-        <source>File Tray</source>
-        <translation>Filbrett</translation>
-    </message>
-    <message>
-        <source>Batteries</source>
-        <translation>Batterier</translation>
-    </message>
-    <message>
         <source>Tick the sections to pin and drag them into order</source>
         <translation>Kryss av seksjonene som skal festes, og dra dem i rekkefølge</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::PosixFileTrayBackend</name>
+    <message>
+        <source>files are known by their device and inode</source>
+        <translation>filer kjennes igjen på enhet og inode</translation>
     </message>
 </context>
 <context>
@@ -1488,6 +1593,10 @@
     <message>
         <source>the sound server went away: no volume until it returns</source>
         <translation>lydtjeneren forsvant: ingen lydstyrke før den kommer tilbake</translation>
+    </message>
+    <message>
+        <source>connecting to the sound server</source>
+        <translation>kobler til lydtjeneren</translation>
     </message>
 </context>
 <context>
@@ -1568,6 +1677,22 @@
     <message>
         <source>no display backlight in %1: the brightness keys stay with the desktop</source>
         <translation>ingen skjermbelysning i %1: lysstyrketastene blir hos skrivebordet</translation>
+    </message>
+    <message>
+        <source>%1, set through logind</source>
+        <translation>%1, stilles gjennom logind</translation>
+    </message>
+    <message>
+        <source>%1 is shown; logind is not running, so the brightness keys stay with the desktop</source>
+        <translation>%1 vises; logind kjører ikke, så lysstyrketastene blir hos skrivebordet</translation>
+    </message>
+    <message>
+        <source>%1 is shown; asking whether logind runs to set it</source>
+        <translation>%1 vises; spør om logind kjører for å stille den</translation>
+    </message>
+    <message>
+        <source>%1 is shown; logind refused to set it (%2), so the brightness keys stay with the desktop</source>
+        <translation>%1 vises; logind nektet å stille den (%2), så lysstyrketastene blir hos skrivebordet</translation>
     </message>
 </context>
 <context>
@@ -1675,6 +1800,10 @@
     <message>
         <source>High %1 · Low %2</source>
         <translation>Høyeste %1 · Laveste %2</translation>
+    </message>
+    <message>
+        <source>%1, set in Settings</source>
+        <translation>%1, angitt i Innstillinger</translation>
     </message>
 </context>
 <context>

@@ -96,7 +96,7 @@ void CalendarFeed::finish(const Request& request, std::optional<Reading> reading
   }
   readProblem_ = reading->failed == 0
                      ? Sentence()
-                     : Sentence(QT_TR_NOOP("%n document(s) could not be read (%1)"), tr,
+                     : Sentence(QT_TR_N_NOOP("%n document(s) could not be read (%1)"), tr,
                                 static_cast<int>(reading->failed))
                            .arg(reading->firstError);
   take(std::move(*reading));

@@ -260,7 +260,7 @@ void ICalendarBackend::remove(const QString& id) {
 
 void ICalendarBackend::updateCheck() {
   ServiceCheck check{DiagnosticsLog::Outcome::ok,
-                     Sentence(QT_TR_NOOP("reading %n iCalendar calendar(s)"), tr,
+                     Sentence(QT_TR_N_NOOP("reading %n iCalendar calendar(s)"), tr,
                               static_cast<int>(feeds_.size()))};
   if (feeds_.empty()) {
     check = {
