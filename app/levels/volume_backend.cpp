@@ -6,6 +6,10 @@
 
 namespace tindra {
 
+void VolumeBackend::publish(std::optional<VolumeReading> reading) {
+  if (assignIfChanged(reading_, std::move(reading))) emit readingChanged();
+}
+
 std::shared_ptr<VolumeBackend> VolumeBackend::shared(SharedBackends& shared) {
   return shared.get<VolumeBackend>([&shared] {
     return chooseBackend(

@@ -74,22 +74,20 @@ void ShellActions::startAtLogin(bool on) {
   }
 }
 
-ShellActions::~ShellActions() {
-  delete settingsWindow_;
-  delete diagnosticsWindow_;
-}
+ShellActions::~ShellActions() = default;
 
 void ShellActions::openDiagnostics() {
-  if (diagnosticsWindow_ == nullptr)
-    diagnosticsWindow_ = new DiagnosticsWindow(diagnostics_, checks_);
+  if (!diagnosticsWindow_) {
+    diagnosticsWindow_ = std::make_unique<DiagnosticsWindow>(diagnostics_, checks_);
+  }
   diagnosticsWindow_->show();
   diagnosticsWindow_->raise();
   diagnosticsWindow_->activateWindow();
 }
 
 void ShellActions::openSettings() {
-  if (settingsWindow_ == nullptr) {
-    settingsWindow_ = new SettingsWindow(settings_, views_);
+  if (!settingsWindow_) {
+    settingsWindow_ = std::make_unique<SettingsWindow>(settings_, views_);
     if (calendars_ != nullptr) {
       settingsWindow_->setExtra(settings::calendarExcludedIdentifiers.name,
                                 new CalendarListEditor(*calendars_, settings_));

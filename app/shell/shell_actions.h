@@ -5,7 +5,7 @@
 #include <QAction>
 #include <QMenu>
 #include <QObject>
-#include <QPointer>
+#include <memory>
 
 #include "calendar/calendar_backend.h"
 #include "settings/settings_keys.h"
@@ -55,13 +55,13 @@ class ShellActions : public QObject {
   }
   // The weather's own settings, under weatherEnabled.
   void setWeather(WeatherProvider* weather) { weather_ = weather; }
-  SettingsWindow* settingsWindow() const { return settingsWindow_; }
+  SettingsWindow* settingsWindow() const { return settingsWindow_.get(); }
   // A check the Diagnostics window offers as a button; add before it is first opened.
   void addCheck(DiagnosticsWindow::Check check) { checks_.push_back(std::move(check)); }
   void openDiagnostics();
   // Writes or removes the autostart entry; a failure is told in the diagnostics log.
   void startAtLogin(bool on);
-  DiagnosticsWindow* diagnosticsWindow() const { return diagnosticsWindow_; }
+  DiagnosticsWindow* diagnosticsWindow() const { return diagnosticsWindow_.get(); }
 
  private:
   // A few words under a setting, beside those settings_pages.h gives for this desktop: what it
@@ -80,8 +80,9 @@ class ShellActions : public QObject {
   QAction quitAction_;
   AutostartEntry autostart_;
   QMenu menu_;
-  QPointer<SettingsWindow> settingsWindow_;
-  QPointer<DiagnosticsWindow> diagnosticsWindow_;
+  // Made when first opened, kept (hidden when closed) until Tindra quits.
+  std::unique_ptr<SettingsWindow> settingsWindow_;
+  std::unique_ptr<DiagnosticsWindow> diagnosticsWindow_;
   std::vector<DiagnosticsWindow::Check> checks_;
   std::function<bool(std::string_view)> hiddenSettings_;
   CalendarBackend* calendars_ = nullptr;
