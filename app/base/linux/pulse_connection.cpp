@@ -1,17 +1,35 @@
 #include "base/linux/pulse_connection.h"
 
-#include "base/shared_backends.h"
+#include <QFileInfo>
+#include <algorithm>
 
 #include "base/logging_categories.h"
+#include "base/shared_backends.h"
 
 namespace tindra {
 
-PulseConnection::PulseConnection(QObject* parent) : QObject(parent) {
+namespace {
+
+// The local socket libpulse connects to: PULSE_SERVER's when it names one ("unix:/path"), else
+// the session's ("$XDG_RUNTIME_DIR/pulse/native"); empty for a server elsewhere.
+QString serverSocket() {
+  const QString server = qEnvironmentVariable("PULSE_SERVER");
+  if (server.startsWith(QLatin1String("unix:"))) return server.mid(5);
+  if (!server.isEmpty()) return {};
+  const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+  return runtime.isEmpty() ? QString() : runtime + QStringLiteral("/pulse/native");
+}
+
+}  // namespace
+
+PulseConnection::PulseConnection(QObject* parent)
+    : QObject(parent), serverFolder_(this), socket_(serverSocket()) {
   loop_ = pa_threaded_mainloop_new();
   pa_threaded_mainloop_start(loop_);
   retry_.setSingleShot(true);
-  retry_.setInterval(reconnectMilliseconds);
   connect(&retry_, &QTimer::timeout, this, &PulseConnection::connectNow);
+  connect(&serverFolder_, &QFileSystemWatcher::directoryChanged, this,
+          &PulseConnection::serverFolderChanged);
 }
 
 PulseConnection::~PulseConnection() {
@@ -34,10 +52,42 @@ void PulseConnection::connectNow() {
       qCInfo(lcHud) << "sound server not reachable:" << pa_strerror(pa_context_errno(context_));
       pa_context_unref(context_);
       context_ = nullptr;
-      post([this] { retry_.start(); });
+      post([this] { waitForServer(); });
     }
   }
   pa_threaded_mainloop_unlock(loop_);
+}
+
+void PulseConnection::waitForServer() {
+  if (socket_.isEmpty()) {
+    retry_.start(unwatchedReconnectMilliseconds);
+    return;
+  }
+  // The socket there but no answer: the server is starting (or died and left it), so knock again
+  // soon, then less often. No socket: the folder that will hold it (or the folder above, until
+  // that one is made) says when it comes.
+  if (QFileInfo::exists(socket_)) {
+    retry_.start(std::min(reconnectMilliseconds << std::min(unanswered_++, 5),
+                          unwatchedReconnectMilliseconds));
+  }
+  QString folder = QFileInfo(socket_).absolutePath();
+  if (!QFileInfo::exists(folder)) folder = QFileInfo(folder).absolutePath();
+  if (!serverFolder_.directories().contains(folder)) {
+    if (!serverFolder_.directories().isEmpty()) {
+      serverFolder_.removePaths(serverFolder_.directories());
+    }
+    serverFolder_.addPath(folder);
+  }
+}
+
+void PulseConnection::serverFolderChanged() {
+  if (ready_) return;
+  if (QFileInfo::exists(socket_)) {
+    retry_.stop();
+    connectNow();
+  } else {
+    waitForServer();  // perhaps the socket's own folder was just made
+  }
 }
 
 void PulseConnection::dropContext() {
@@ -78,6 +128,11 @@ void PulseConnection::onState(pa_context* context, void* self) {
                                                             PA_SUBSCRIPTION_MASK_SINK_INPUT);
       pa_operation_unref(pa_context_subscribe(context, mask, nullptr, nullptr));
       connection->post([connection] {
+        connection->retry_.stop();
+        connection->unanswered_ = 0;
+        if (!connection->serverFolder_.directories().isEmpty()) {
+          connection->serverFolder_.removePaths(connection->serverFolder_.directories());
+        }
         connection->ready_ = true;
         emit connection->readyChanged(true);
       });
@@ -92,7 +147,7 @@ void PulseConnection::onState(pa_context* context, void* self) {
           connection->ready_ = false;
           emit connection->readyChanged(false);
         }
-        connection->retry_.start();
+        connection->waitForServer();
       });
       break;
     default:

@@ -2,10 +2,15 @@
 // PipeWire's pulse layer), on libpulse's own thread. It connects when the server is there,
 // reconnects when the server restarts, and reports the server's sink and server events on the
 // main thread. The volume, the sounds and the live spectrum share one (PulseConnection::shared).
+// While there is no server it watches the folder where the server's socket appears instead of
+// knocking every few seconds, so a machine without one sees no wake-ups from Tindra; it knocks
+// again, from every two seconds to every minute, only while the socket is there but the server
+// does not answer.
 #pragma once
 
 #include <pulse/pulseaudio.h>
 
+#include <QFileSystemWatcher>
 #include <QObject>
 #include <QPointer>
 #include <QString>
@@ -22,6 +27,8 @@ class PulseConnection : public QObject {
 
  public:
   static constexpr int reconnectMilliseconds = 2000;
+  // For a server the folder watch cannot see (one over TCP, or a socket named elsewhere).
+  static constexpr int unwatchedReconnectMilliseconds = 60000;
 
   explicit PulseConnection(QObject* parent = nullptr);
   ~PulseConnection() override;
@@ -52,6 +59,9 @@ class PulseConnection : public QObject {
  private:
   void connectNow();
   void dropContext();
+  // Aims the retry and the folder watch at the server's coming.
+  void waitForServer();
+  void serverFolderChanged();
   static void onState(pa_context* context, void* self);
   static void onEvent(pa_context* context, pa_subscription_event_type_t type, uint32_t index,
                       void* self);
@@ -60,6 +70,9 @@ class PulseConnection : public QObject {
   pa_context* context_ = nullptr;  // guarded by the loop's lock
   bool ready_ = false;             // main thread
   QTimer retry_;
+  QFileSystemWatcher serverFolder_;
+  int unanswered_ = 0;  // knocks at a socket without an answer since the server last answered
+  QString socket_;      // where the server's socket appears; empty when it is not a local one
 };
 
 // A property of a sink or stream as text; empty when it is not set.
