@@ -19,7 +19,6 @@ class QWidget;
 
 namespace tindra {
 
-
 class DemoTour : public QObject {
   Q_OBJECT
 
