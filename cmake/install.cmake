@@ -21,9 +21,12 @@ set(CPACK_DEBIAN_PACKAGE_SECTION "utils")
 set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
 set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
 set(CPACK_STRIP_FILES ON)
-# Qt's QML modules are loaded at run time, so no library dependency names them.
+# Qt's QML modules and its Wayland platform are loaded at run time, so no library dependency
+# names them. XWayland is only recommended: it serves a Wayland desktop that offers no layer
+# shell, where the notch stays an X11 window.
 set(CPACK_DEBIAN_PACKAGE_DEPENDS
-  "qml6-module-qtqml, qml6-module-qtqml-models, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-window, qml6-module-qtquick-layouts, qml6-module-qtquick-shapes")
+  "qml6-module-qtqml, qml6-module-qtqml-models, qml6-module-qtqml-workerscript, qml6-module-qtquick, qml6-module-qtquick-window, qml6-module-qtquick-layouts, qml6-module-qtquick-shapes, qt6-wayland")
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS "xwayland")
 set(CPACK_GENERATOR "DEB")
 include(CPack)
 
