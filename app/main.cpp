@@ -1,6 +1,7 @@
 // Tindra: the notch as a small live display. `tindra` runs it; `tindra --demo DIR` plays a short
 // tour and writes screenshots of the closed and opened notch to DIR; `tindra focus on|off` names
-// the Focus that is on, for shortcuts and scripts.
+// the Focus that is on, and `tindra level volume up` and its kin step a level, for shortcuts and
+// scripts.
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDateTime>
@@ -18,6 +19,7 @@
 #include "diagnostics/key_latency_report.h"
 #include "diagnostics/notice_latency_report.h"
 #include "diagnostics/stall_report.h"
+#include "levels/level_command_source.h"
 #include "notch/display_platform.h"
 #include "settings/settings_store.h"
 #include "shell/focus_command.h"
@@ -34,10 +36,23 @@ int runFocusCommand(int argc, char* argv[]) {
   return tindra::FocusCommand::run(QCoreApplication::arguments().mid(2), settings, now(), out, err);
 }
 
+// Steps a level in the running Tindra, for the desktop's key bindings; needs no display.
+int runLevelCommand(int argc, char* argv[]) {
+  QCoreApplication app(argc, argv);
+  QTextStream err(stderr);
+  const auto command = tindra::LevelCommand::parse(QCoreApplication::arguments().mid(2));
+  if (!command) {
+    err << command.error();
+    return 2;
+  }
+  return tindra::LevelCommandSource::sendForPlatform(*command, err);
+}
+
 }  // namespace
 
 int main(int argc, char* argv[]) {
   if (argc > 1 && std::string_view(argv[1]) == "focus") return runFocusCommand(argc, argv);
+  if (argc > 1 && std::string_view(argv[1]) == "level") return runLevelCommand(argc, argv);
   tindra::selectDisplayPlatform();
   if (!tindra::hasGraphicalSession() && std::getenv("QT_QPA_PLATFORM") == nullptr) {
     std::fputs(

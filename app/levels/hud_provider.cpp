@@ -46,6 +46,9 @@ HudProvider::HudProvider(ProviderContext context, HudBackends backends, QObject*
     : Provider(context, id, parent),
       volumeBackend_(std::move(backends.volume)),
       keys_(std::move(backends.keys)),
+      commands_(backends.commands ? std::move(backends.commands)
+                                  : std::make_unique<LevelCommandSource::Null>(
+                                        Sentence::verbatim("no level commands"))),
       display_{HUDKind::brightness, std::move(backends.display), {}, {}},
       keyboard_{HUDKind::keyboardBacklight, std::move(backends.keyboard), {}, {}} {
   VolumeBackend* volume = volumeBackend_.get();
@@ -64,6 +67,11 @@ HudProvider::HudProvider(ProviderContext context, HudBackends backends, QObject*
           &HudProvider::onKeyboardWrite);
   connect(keys_.get(), &MediaKeySource::pressed, this, &HudProvider::handleKey);
   connect(keys_.get(), &MediaKeySource::checkChanged, this, &HudProvider::recordKeys);
+  commands_->setHandler([this](const LevelCommand& command) {
+    return handleKey(command.press(std::chrono::steady_clock::now()));
+  });
+  connect(commands_.get(), &LevelCommandSource::checkChanged, this,
+          [this] { record(QStringLiteral("level commands"), commands_->check()); });
   observation_ = settings().observe({std::string(settings::volumeHUDEnabled.name),
                                      std::string(settings::brightnessHUDEnabled.name),
                                      std::string(settings::experimentalKeyboardBacklight.name)},
@@ -82,6 +90,8 @@ void HudProvider::start() {
   record(sourceName(display_), display_.backend->check());
   startKeyboardIfWanted();
   keys_->start();
+  commands_->start();
+  record(QStringLiteral("level commands"), commands_->check());
   started_ = true;
   updateRouting();
 }
@@ -120,13 +130,13 @@ std::vector<KeyGrab> HudProvider::grabsFor(const MediaKeyContext& context) {
   return grabs;
 }
 
-void HudProvider::handleKey(const MediaKeyPress& press) {
+bool HudProvider::handleKey(const MediaKeyPress& press) {
   const MediaKeyDecision decision = MediaKeyRouter::decide(
       press.key, press.isKeyDown, press.isRepeat, press.modifiers, keyContext_);
   const std::optional<MediaKeyAction> action = decision.action();
   // A key Tindra does not take went on to the desktop; the change it makes is shown when the
   // level moves.
-  if (!action || !decision.consumesEvent()) return;
+  if (!action || !decision.consumesEvent()) return false;
   keyAt_ = press.receivedAt;
   std::visit(
       Overloaded{
@@ -139,6 +149,7 @@ void HudProvider::handleKey(const MediaKeyPress& press) {
       },
       action->value());
   keyAt_.reset();
+  return true;
 }
 
 void HudProvider::stepVolume(VolumeAction action, KeyModifiers modifiers) {
@@ -332,7 +343,7 @@ std::unique_ptr<HudProvider> HudProvider::make(ProviderContext& context) {
             return std::make_unique<FakeBacklightBackend>(QStringLiteral("invented-keyboard"), 0.4);
           },
           [&] { return BacklightBackend::keyboardForPlatform(shared); }),
-      MediaKeySource::forPlatform(shared)};
+      MediaKeySource::forPlatform(shared), LevelCommandSource::forPlatform(shared)};
   return std::make_unique<HudProvider>(context, std::move(backends));
 }
 

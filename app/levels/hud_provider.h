@@ -18,6 +18,7 @@
 #include "hud/volume_state.h"
 #include "levels/backlight_backend.h"
 #include "levels/hud_view_model.h"
+#include "levels/level_command_source.h"
 #include "levels/media_key_source.h"
 #include "levels/own_writes.h"
 #include "levels/volume_backend.h"
@@ -30,6 +31,8 @@ struct HudBackends {
   std::unique_ptr<BacklightBackend> display;
   std::unique_ptr<BacklightBackend> keyboard;
   std::unique_ptr<MediaKeySource> keys;
+  // `tindra level …` commands; none, none taken.
+  std::unique_ptr<LevelCommandSource> commands = nullptr;
 };
 
 class HudProvider final : public Provider {
@@ -47,8 +50,9 @@ class HudProvider final : public Provider {
   HudViewModel* viewModel() override { return &viewModel_; }
 
   const MediaKeyContext& keyContext() const { return keyContext_; }
-  // A key press, routed as the key source's are (the demo tour presses keys this way).
-  void handleKey(const MediaKeyPress& press);
+  // A key press, routed as the key source's are (the demo tour presses keys this way); true
+  // when Tindra took it and stepped a level.
+  bool handleKey(const MediaKeyPress& press);
   // The key and modifier combinations the router would swallow in `context`: the ones to hold.
   static std::vector<KeyGrab> grabsFor(const MediaKeyContext& context);
 
@@ -77,6 +81,7 @@ class HudProvider final : public Provider {
 
   std::shared_ptr<VolumeBackend> volumeBackend_;
   std::unique_ptr<MediaKeySource> keys_;
+  std::unique_ptr<LevelCommandSource> commands_;
   Light display_;
   Light keyboard_;
   bool keyboardStarted_ = false;

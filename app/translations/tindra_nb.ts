@@ -1028,6 +1028,21 @@
     </message>
 </context>
 <context>
+    <name>tindra::BusLevelCommandSource</name>
+    <message>
+        <source>asking the session bus for the name of the level commands</source>
+        <translation>ber øktbussen om navnet for nivåkommandoene</translation>
+    </message>
+    <message>
+        <source>`tindra level` commands step the levels (%1 on the session bus)</source>
+        <translation>`tindra level`-kommandoer endrer nivåene (%1 på øktbussen)</translation>
+    </message>
+    <message>
+        <source>another program holds %1 on the session bus: `tindra level` commands go there</source>
+        <translation>et annet program holder %1 på øktbussen: `tindra level`-kommandoer går dit</translation>
+    </message>
+</context>
+<context>
     <name>tindra::CalendarFeed</name>
     <message>
         <source>not read yet</source>

@@ -1,10 +1,12 @@
 // The level backends on Linux: the sound server's default output through libpulse, the display's
 // backlight in /sys/class/backlight written through logind, the keyboard's light through UPower,
-// and the keys through X11 grabs where the session is an X11 one.
+// the keys through X11 grabs where the session is an X11 one, and `tindra level` commands on the
+// session bus.
 #include <QGuiApplication>
 
 #include "base/linux/pulse_connection.h"
 #include "base/linux/system_bus.h"
+#include "levels/linux/bus_level_command_source.h"
 #include "levels/linux/pulse_volume_backend.h"
 #include "levels/linux/sysfs_backlight_backend.h"
 #include "levels/linux/upower_keyboard_backlight_backend.h"
@@ -52,6 +54,14 @@ std::unique_ptr<MediaKeySource> MediaKeySource::forPlatform(SharedBackends&) {
             .arg(QGuiApplication::platformName()));
   }
   return std::make_unique<X11MediaKeySource>();
+}
+
+std::unique_ptr<LevelCommandSource> LevelCommandSource::forPlatform(SharedBackends&) {
+  return std::make_unique<BusLevelCommandSource>(QDBusConnection::sessionBus());
+}
+
+int LevelCommandSource::sendForPlatform(const LevelCommand& command, QTextStream& err) {
+  return BusLevelCommandSource::send(QDBusConnection::sessionBus(), command, err);
 }
 
 }  // namespace tindra
