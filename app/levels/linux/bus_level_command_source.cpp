@@ -10,7 +10,7 @@ namespace tindra {
 
 namespace {
 
-// RequestName's flag and answer (the D-Bus specification's numbers).
+// RequestName's flag and answer, as the bus numbers them.
 constexpr uint doNotQueue = 4;
 constexpr uint primaryOwner = 1;
 constexpr int answerWithin = 2000;  // ms; a running Tindra answers in a frame
