@@ -25,7 +25,6 @@ BannerProvider::BannerProvider(ProviderContext context, std::unique_ptr<Notifica
   connect(source_.get(), &NotificationSource::notified, this, &BannerProvider::onNotified);
   connect(source_.get(), &NotificationSource::closed, this, &BannerProvider::onClosed);
   connect(source_.get(), &NotificationSource::serverGone, this, &BannerProvider::clearAll);
-  connect(source_.get(), &NotificationSource::checkChanged, this, &BannerProvider::recordCheck);
   ringLimit_.setSingleShot(true);
   ringLimit_.setInterval(longestRing);
   connect(&ringLimit_, &QTimer::timeout, this, [this] { setRinging(std::nullopt); });
@@ -43,13 +42,8 @@ void BannerProvider::start() {
   observation_ = settings().observe({std::string(settings::experimentalCallNotices.name),
                                      std::string(settings::experimentalMessageNotices.name)},
                                     [this](std::string_view) { follow(); });
-  recordCheck();
+  followCheck(lcBanners(), *source_);
   follow();
-}
-
-void BannerProvider::recordCheck() {
-  const ServiceCheck check = source_->check();
-  diagnostics().record(lcBanners(), name(), check.outcome, check.text);
 }
 
 // Notifications are read only while calls or messages are wanted.

@@ -50,7 +50,6 @@ class BannerProvider final : public Provider {
   BannerViewModel* viewModel() override { return &viewModel_; }
 
  private:
-  void recordCheck();
   void follow();
   void onNotified(const DesktopNotification& notification);
   void onClosed(quint32 id);

@@ -10,9 +10,13 @@
 //   static ProviderViews views();                       the QML views of its view model
 #pragma once
 
+#include <QLoggingCategory>
 #include <QObject>
 #include <QString>
 #include <string_view>
+
+#include "base/backend.h"
+#include "base/diagnostics_log.h"
 
 namespace tindra {
 
@@ -51,6 +55,18 @@ class Provider : public QObject {
   ActivityCenter& activities() const { return context_.activities; }
   SettingsStore& settings() const { return context_.settings; }
   DiagnosticsLog& diagnostics() const { return context_.diagnostics; }
+
+  // Records `backend`'s check in the diagnostics log, under `source` (else the provider's name),
+  // now and at each change, for as long as the backend lives.
+  void followCheck(const QLoggingCategory& category, const Backend& backend,
+                   const QString& source = {}) {
+    const auto record = [this, &category, &backend, source] {
+      diagnostics().record(category, source.isEmpty() ? name() : source, backend.check().outcome,
+                           backend.check().text);
+    };
+    record();
+    connect(&backend, &Backend::checkChanged, this, record);
+  }
 
  private:
   ProviderContext context_;

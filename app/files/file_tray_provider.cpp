@@ -89,13 +89,8 @@ std::filesystem::path FileTrayProvider::defaultDataFolder() {
 }
 
 void FileTrayProvider::start() {
-  const auto recordFileSystem = [this] {
-    diagnostics().record(lcFiles(), QStringLiteral("file system"), backend_->check().outcome,
-                         backend_->check().text);
-  };
-  connect(backend_.get(), &FileTrayBackend::checkChanged, this, recordFileSystem);
+  followCheck(lcFiles(), *backend_, QStringLiteral("file system"));
   backend_->start();
-  recordFileSystem();
   observation_ =
       settings().observe(settings::experimentalFileTray, [this](const bool&) { publish(); });
   FileTrayStorage::Loaded loaded = storage_.load();

@@ -11,7 +11,6 @@ FocusProvider::FocusProvider(ProviderContext context, std::shared_ptr<FocusStatu
                              QObject* parent)
     : Provider(context, id, parent), status_(std::move(status)) {
   connect(status_.get(), &FocusStatusSource::focusedChanged, this, &FocusProvider::update);
-  connect(status_.get(), &FocusStatusSource::checkChanged, this, &FocusProvider::recordCheck);
 }
 
 void FocusProvider::start() {
@@ -20,14 +19,9 @@ void FocusProvider::start() {
       {std::string(settings::focusFilterState.name), std::string(settings::focusShown.name),
        std::string(settings::focusKeepsIndicator.name)},
       [this](std::string_view) { update(); });
-  recordCheck();
+  followCheck(lcFocus(), *status_);
   status_->start();
   update();
-}
-
-void FocusProvider::recordCheck() {
-  const ServiceCheck check = status_->check();
-  diagnostics().record(lcFocus(), name(), check.outcome, check.text);
 }
 
 void FocusProvider::update() {

@@ -37,7 +37,6 @@ class FocusProvider final : public Provider {
   const std::optional<FocusPresentation::Shown>& lastTurnedOff() const { return lastTurnedOff_; }
 
  private:
-  void recordCheck();
   void update();
 
   std::shared_ptr<FocusStatusSource> status_;

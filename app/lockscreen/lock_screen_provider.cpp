@@ -21,18 +21,12 @@ LockScreenProvider::LockScreenProvider(ProviderContext context,
       guard_(std::move(guard)),
       now_(std::move(now)) {
   connect(source_.get(), &LockStateSource::changed, this, &LockScreenProvider::onChanged);
-  connect(source_.get(), &LockStateSource::checkChanged, this, &LockScreenProvider::recordCheck);
 }
 
 void LockScreenProvider::start() {
   judgeLastLaunch();
-  recordCheck();
+  followCheck(lcLockScreen(), *source_);
   source_->start();
-}
-
-void LockScreenProvider::recordCheck() {
-  const ServiceCheck check = source_->check();
-  diagnostics().record(lcLockScreen(), name(), check.outcome, check.text);
 }
 
 void LockScreenProvider::judgeLastLaunch() {

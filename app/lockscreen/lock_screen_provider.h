@@ -38,7 +38,6 @@ class LockScreenProvider final : public Provider {
   const LockScreenPresence& presence() const { return presence_; }
 
  private:
-  void recordCheck();
   void judgeLastLaunch();
   void onChanged(LockScreenPresence::Event event);
 

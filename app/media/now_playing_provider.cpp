@@ -100,17 +100,11 @@ void NowPlayingProvider::onProbed(const AdapterProbeResult& result, const Senten
 void NowPlayingProvider::startSource() {
   source_ = makeSource_();
   connect(source_.get(), &NowPlayingSource::snapshotArrived, this, &NowPlayingProvider::show);
-  connect(source_.get(), &NowPlayingSource::checkChanged, this, &NowPlayingProvider::recordCheck);
-  recordCheck();
+  followCheck(lcNowPlaying(), *source_);
   connect(source_.get(), &NowPlayingSource::repeatedFailure, this, [this] {
     if (probe_) probe_->run();  // keeps the source if the adapter still passes
   });
   source_->start();
-}
-
-void NowPlayingProvider::recordCheck() {
-  const ServiceCheck& check = source_->check();
-  diagnostics().record(lcNowPlaying(), name(), check.outcome, check.text);
 }
 
 void NowPlayingProvider::dropSource() {

@@ -60,7 +60,6 @@ class NowPlayingProvider final : public Provider {
   NowPlayingPausedLinger pausedLinger() const;
   void onProbed(const AdapterProbeResult& result, const Sentence& text);
   void startSource();
-  void recordCheck();
   void dropSource();
   void show(const std::optional<NowPlayingSnapshot>& snapshot);
   void send(const NowPlayingCommand& command);

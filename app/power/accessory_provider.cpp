@@ -19,7 +19,6 @@ AccessoryProvider::AccessoryProvider(ProviderContext context,
       output_(std::move(output)),
       sounds_(std::move(sounds)) {
   connect(backend_.get(), &AccessoryBackend::changed, this, &AccessoryProvider::onChanged);
-  connect(backend_.get(), &AccessoryBackend::checkChanged, this, &AccessoryProvider::recordCheck);
   if (output_) {
     connect(output_.get(), &VolumeBackend::readingChanged, this,
             [this] { followOutput(backend_->connected()); });
@@ -31,15 +30,10 @@ AccessoryProvider::AccessoryProvider(ProviderContext context,
 }
 
 void AccessoryProvider::start() {
-  recordCheck();
+  followCheck(lcBluetooth(), *backend_);
   backend_->start();
   if (output_) output_->start();
   onChanged();
-}
-
-void AccessoryProvider::recordCheck() {
-  const ServiceCheck check = backend_->check();
-  diagnostics().record(lcBluetooth(), name(), check.outcome, check.text);
 }
 
 void AccessoryProvider::applyDrawingSettings() {

@@ -48,7 +48,6 @@ class AccessoryProvider final : public Provider {
   void onChanged();
   void followOutput(const std::vector<BluetoothAccessory>& connected);
   void show(const AccessoryNotice& notice);
-  void recordCheck();
   void applyDrawingSettings();
   AccessoryNoticeTracker::Settings noticeSettings() const;
 

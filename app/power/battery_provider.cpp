@@ -25,19 +25,13 @@ BatteryProvider::BatteryProvider(ProviderContext context, std::unique_ptr<Batter
                                  std::shared_ptr<SoundPlayer> sounds, QObject* parent)
     : Provider(context, id, parent), backend_(std::move(backend)), sounds_(std::move(sounds)) {
   connect(backend_.get(), &BatteryBackend::readingChanged, this, &BatteryProvider::onReading);
-  connect(backend_.get(), &BatteryBackend::checkChanged, this, &BatteryProvider::recordCheck);
 }
 
 void BatteryProvider::start() {
   migrateOldSetting();
-  recordCheck();
+  followCheck(lcBattery(), *backend_);
   backend_->start();
   onReading();
-}
-
-void BatteryProvider::recordCheck() {
-  const ServiceCheck check = backend_->check();
-  diagnostics().record(lcBattery(), name(), check.outcome, check.text);
 }
 
 // The single power-notice setting of earlier versions becomes the two it was split into.

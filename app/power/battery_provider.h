@@ -33,7 +33,6 @@ class BatteryProvider final : public Provider {
   BatteryViewModel* viewModel() override { return &viewModel_; }
 
  private:
-  void recordCheck();
   void onReading();
   void migrateOldSetting();
   BatteryNoticeTracker::Settings noticeSettings() const;
