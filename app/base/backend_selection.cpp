@@ -3,11 +3,12 @@
 #include <QStringList>
 #include <QtGlobal>
 
+#include "base/qt_text.h"
+
 namespace tindra {
 
 bool fakeBackendRequested(std::string_view provider) {
-  const QString wanted =
-      QString::fromUtf8(provider.data(), static_cast<qsizetype>(provider.size()));
+  const QString wanted = toQString(provider);
   const QStringList asked = qEnvironmentVariable("TINDRA_FAKE").split(u',', Qt::SkipEmptyParts);
   for (const QString& name : asked) {
     const QString trimmed = name.trimmed();

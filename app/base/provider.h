@@ -17,6 +17,7 @@
 
 #include "base/backend.h"
 #include "base/diagnostics_log.h"
+#include "base/qt_text.h"
 
 namespace tindra {
 
@@ -40,9 +41,7 @@ class Provider : public QObject {
 
  public:
   Provider(ProviderContext context, std::string_view id, QObject* parent = nullptr)
-      : QObject(parent),
-        context_(context),
-        name_(QString::fromUtf8(id.data(), static_cast<qsizetype>(id.size()))) {}
+      : QObject(parent), context_(context), name_(toQString(id)) {}
 
   // Its name in TINDRA_FAKE and the diagnostics, and the key its views find its model by.
   const QString& name() const { return name_; }

@@ -2,15 +2,9 @@
 
 #include <algorithm>
 
+#include "base/qt_text.h"
+
 namespace tindra {
-
-namespace {
-
-QString text(std::string_view name) {
-  return QString::fromUtf8(name.data(), static_cast<qsizetype>(name.size()));
-}
-
-}  // namespace
 
 QUrl ViewRegistry::source(const QString& file) {
   return QUrl(QStringLiteral("qrc:/Tindra/") + file);
@@ -28,13 +22,13 @@ ViewRegistry::ViewRegistry(const Declared& declared) {
   std::vector<std::pair<int, View>> idle;
   for (const auto& [name, views] : declared) {
     for (const ProviderViews::Section& section : views.sections) {
-      parts.push_back({section.rank, text(name), &section});
+      parts.push_back({section.rank, toQString(name), &section});
     }
     for (const ProviderViews::IdleItem& item : views.idle) {
-      idle.push_back({item.rank, View{text(name), source(item.file)}});
+      idle.push_back({item.rank, View{toQString(name), source(item.file)}});
     }
     for (const ProviderViews::Compact& compact : views.compact) {
-      compact_.push_back({compact.kind, View{text(name), source(compact.file)}});
+      compact_.push_back({compact.kind, View{toQString(name), source(compact.file)}});
     }
   }
   std::ranges::stable_sort(parts, {}, &Ranked::rank);
