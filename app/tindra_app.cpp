@@ -2,9 +2,11 @@
 
 #include "base/activity_center.h"
 #include "base/diagnostics_log.h"
+#include "base/logging_categories.h"
 #include "base/settings_file_watcher.h"
 #include "base/wall_clock.h"
 #include "media/adapter_check.h"
+#include "notch/display_platform.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
 #include "notch/screen_source_factory.h"
@@ -32,14 +34,22 @@ TindraApp::TindraApp(Options options, QObject* parent)
   offerProvidersToShell();
   content_ = std::make_unique<NotchContent>(*activities_, *settings_, views_);
   notches_ = std::make_unique<NotchScreenManager>(
-      *screens_, *settings_, *activities_, *content_, [this](NotchWindow& window) {
+      *screens_, *settings_, *activities_, *content_,
+      [this](NotchWindow& window) {
         window.setAnimated(options_.animated);
         window.setContextMenu(notchMenu());
         auto& tray = providers_->get<FileTrayProvider>();
         window.setFileDrop([&tray](const QList<QUrl>& urls) { return tray.drop(urls); });
         connect(&window, &NotchWindow::swiped, &providers_->get<NowPlayingProvider>(),
                 &NowPlayingProvider::swiped);
-      });
+      },
+      notchWindowMaker(backends_));
+  const DisplayPlatform& platform = displayPlatform();
+  diagnostics_->record(lcNotch(), QStringLiteral("notch"),
+                       platform.layerShell || !qEnvironmentVariableIsSet("WAYLAND_DISPLAY")
+                           ? DiagnosticsLog::Outcome::ok
+                           : DiagnosticsLog::Outcome::degraded,
+                       platform.reasonSentence());
   connect(tray_.get(), &TrayItem::shownChanged, this, &TindraApp::offerMenuOnNotches);
   stepAside();
   if (options_.welcome && !settings_->read(settings::onboardingCompleted)) {

@@ -14,13 +14,15 @@ namespace tindra {
 
 NotchScreenManager::NotchScreenManager(ScreenSource& screens, SettingsStore& settings,
                                        ActivityCenter& activities, NotchContent& content,
-                                       std::function<void(NotchWindow&)> prepare, QObject* parent)
+                                       std::function<void(NotchWindow&)> prepare,
+                                       NotchWindowMaker make, QObject* parent)
     : QObject(parent),
       screens_(screens),
       settings_(settings),
       activities_(activities),
       content_(content),
-      prepare_(std::move(prepare)) {
+      prepare_(std::move(prepare)),
+      make_(std::move(make)) {
   // Screens change in bursts (a new monitor resizes the others); one rebuild per burst.
   pending_.setSingleShot(true);
   pending_.setInterval(0);
@@ -75,13 +77,14 @@ void NotchScreenManager::rebuild() {
       window = std::move(existing->second);
       windows_.erase(existing);
     } else {
-      window = std::make_unique<NotchWindow>(activities_, settings_, content_);
+      window = make_ ? make_(activities_, settings_, content_)
+                     : std::make_unique<NotchWindow>(activities_, settings_, content_);
       if (prepare_) prepare_(*window);
       added = true;
     }
     window->place(NotchGeometry::forScreen(screen->descriptor, height, width), coordinates,
                   screen->screen);
-    window->setVisible(shows(*window));
+    window->present(shows(*window));
     kept.emplace(display.id, std::move(window));
   }
   const bool removed = !windows_.empty();
@@ -101,7 +104,7 @@ void NotchScreenManager::setAsideOn(std::function<bool(const QRect& screen)> asi
 }
 
 void NotchScreenManager::applyVisibility() {
-  for (const auto& [id, window] : windows_) window->setVisible(shows(*window));
+  for (const auto& [id, window] : windows_) window->present(shows(*window));
 }
 
 bool NotchScreenManager::shows(const NotchWindow& window) const {

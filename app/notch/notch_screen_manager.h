@@ -11,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+#include "notch/display_platform.h"
 #include "notch/screen_source.h"
 #include "settings/settings_store.h"
 
@@ -24,10 +25,11 @@ class NotchScreenManager : public QObject {
   Q_OBJECT
 
  public:
-  // `prepare` is called on every new window before it is first shown.
+  // `make` makes the windows (ordinary Qt windows when empty); `prepare` is called on every new
+  // window before it is first shown.
   NotchScreenManager(ScreenSource& screens, SettingsStore& settings, ActivityCenter& activities,
                      NotchContent& content, std::function<void(NotchWindow&)> prepare = {},
-                     QObject* parent = nullptr);
+                     NotchWindowMaker make = {}, QObject* parent = nullptr);
   ~NotchScreenManager() override;
 
   // The windows in display id order.
@@ -53,6 +55,7 @@ class NotchScreenManager : public QObject {
   ActivityCenter& activities_;
   NotchContent& content_;
   std::function<void(NotchWindow&)> prepare_;
+  NotchWindowMaker make_;
   bool steppedAside_ = false;
   std::function<bool(const QRect& screen)> asideOn_;
   SettingsObservation observation_;

@@ -32,13 +32,27 @@ double lerp(double from, double to, double t) {
 
 }  // namespace
 
+namespace {
+
+QQuickRenderControl* renderControlFor(NotchWindow::Rendering rendering) {
+  return rendering == NotchWindow::Rendering::offscreen ? new QQuickRenderControl : nullptr;
+}
+
+}  // namespace
+
 NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, NotchContent& content,
-                         QWindow* parent)
-    : QQuickView(parent),
+                         Rendering rendering)
+    : NotchWindow(activities, settings, content, renderControlFor(rendering)) {}
+
+NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, NotchContent& content,
+                         QQuickRenderControl* renderControl)
+    : QQuickView(QUrl(), renderControl),
+      renderControl_(renderControl),
       activities_(activities),
       settings_(settings),
       content_(content),
       hoverDeadline_([this] { sample(); }) {
+  if (renderControl_) renderControl_->setParent(this);
   setFlags(notchWindowFlags());
   QSurfaceFormat surface = format();
   surface.setAlphaBufferSize(8);
@@ -71,7 +85,7 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, No
 
   const auto compactTarget = [this](ActivityKind kind) {
     const QRect display = screen() ? screen()->geometry() : QRect();
-    return showsCompact(kind, display, QCursor::pos(screen())) ? 1.0 : 0.0;
+    return showsCompact(kind, display, pointerPosition()) ? 1.0 : 0.0;
   };
   connect(&activities_, &ActivityCenter::currentChanged, this,
           [this, compactTarget](ActivityKind kind) {
@@ -93,6 +107,16 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, No
 
 NotchWindow::~NotchWindow() {
   if (shownExpanded_) content_.clock()->release();
+}
+
+void NotchWindow::present(bool shown) {
+  if (shown == isPresented()) return;
+  setVisible(shown);
+  emit presentedChanged(shown);
+}
+
+QPoint NotchWindow::pointerPosition() const {
+  return QCursor::pos(screen());
 }
 
 void NotchWindow::place(const NotchGeometry& geometry, const ScreenCoordinates& coordinates,
@@ -292,7 +316,7 @@ void NotchWindow::animate(QVariantAnimation& animation, double from, double to, 
   animation.setStartValue(from);
   animation.setEndValue(to);
   // A zero-length animation lands on its end value at once, through the same handler.
-  animation.setDuration(animated_ && isVisible() ? ms : 0);
+  animation.setDuration(animated_ && isPresented() ? ms : 0);
   animation.setEasingCurve(curve);
   animation.start();
 }

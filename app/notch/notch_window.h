@@ -12,6 +12,7 @@
 #include <QMenu>
 #include <QPointF>
 #include <QPointer>
+#include <QQuickRenderControl>
 #include <QQuickView>
 #include <QVariantAnimation>
 #include <QWheelEvent>
@@ -43,10 +44,20 @@ class NotchWindow : public QQuickView {
   Q_PROPERTY(QRectF notchRect READ notchRect NOTIFY placementChanged)
 
  public:
+  // Where the frames go: to a window of the window system's, or, offscreen, to whoever drives
+  // renderControl() (a Wayland layer surface).
+  enum class Rendering { window, offscreen };
+
   // Time comes from the activity centre's clock, which tests inject.
   NotchWindow(ActivityCenter& activities, SettingsStore& settings, NotchContent& content,
-              QWindow* parent = nullptr);
+              Rendering rendering = Rendering::window);
   ~NotchWindow() override;
+
+  // Shows or hides the notch; an offscreen one's driver follows presentedChanged.
+  virtual void present(bool shown);
+  virtual bool isPresented() const { return isVisible(); }
+  // Null unless rendering offscreen.
+  QQuickRenderControl* renderControl() const { return renderControl_; }
 
   // Moves the window to the display that `geometry` describes.
   void place(const NotchGeometry& geometry, const ScreenCoordinates& coordinates, QScreen* screen);
@@ -84,13 +95,18 @@ class NotchWindow : public QQuickView {
   void shapeChanged();
   void placementChanged();
   void expandedChanged(bool expanded);
+  void presentedChanged(bool shown);
   // A swipe on the notch, whichever way; up and down have opened or closed it already.
   void swiped(SwipeDirection direction);
 
  protected:
   bool event(QEvent* event) override;
+  // Where the pointer is, in global coordinates, for the level that shows on its display.
+  virtual QPoint pointerPosition() const;
 
  private:
+  NotchWindow(ActivityCenter& activities, SettingsStore& settings, NotchContent& content,
+              QQuickRenderControl* renderControl);
   void readSettings();
   void followGlass();
   void sample();
@@ -106,6 +122,7 @@ class NotchWindow : public QQuickView {
   void handleWheel(const QWheelEvent& wheel);
   void swipe(SwipeDirection direction);
 
+  QQuickRenderControl* renderControl_;  // a child, so that it outlives the scene's teardown
   ActivityCenter& activities_;
   SettingsStore& settings_;
   NotchContent& content_;

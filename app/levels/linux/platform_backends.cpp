@@ -38,7 +38,9 @@ std::unique_ptr<BacklightBackend> BacklightBackend::keyboardForPlatform(SharedBa
 }
 
 std::unique_ptr<MediaKeySource> MediaKeySource::forPlatform(SharedBackends&) {
-  if (qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String("wayland")) {
+  // Under XWayland a grab succeeds but hears nothing while a Wayland window has the focus.
+  if (qEnvironmentVariable("XDG_SESSION_TYPE") == QLatin1String("wayland") ||
+      qEnvironmentVariableIsSet("WAYLAND_DISPLAY")) {
     return std::make_unique<MediaKeySource::Null>(Sentence::in(
         "Backends", QT_TRANSLATE_NOOP("Backends",
                                       "a Wayland session lets no program take the keys: the "

@@ -4,18 +4,87 @@
 
 #include <QGuiApplication>
 #include <QWindow>
+#include <cstdio>
 #include <cstdlib>
+#include <string_view>
 
+#include "base/linux/wayland_connection.h"
 #include "base/linux/xcb_connection.h"
+#include "notch/linux/layer_shell_notch_window.h"
 
 namespace tindra {
 
+namespace {
+
+DisplayPlatform& chosenPlatform() {
+  static DisplayPlatform platform{false,
+                                  QT_TRANSLATE_NOOP("Backends", "the notch is an X11 window")};
+  return platform;
+}
+
+// A Wayland client cannot place its own windows or stay above others; only the layer shell
+// lets it. Where the compositor has none (GNOME's Mutter), the notch goes through XWayland.
+DisplayPlatform chooseWayland(std::string_view asked) {
+  if (WaylandConnection::compositorOffersLayerShell()) {
+    return {true, QT_TRANSLATE_NOOP("Backends",
+                                    "the notch is a layer surface on the Wayland compositor")};
+  }
+  if (asked == "wayland") {
+    return {false, QT_TRANSLATE_NOOP(
+                       "Backends",
+                       "TINDRA_PLATFORM asks for Wayland, but the compositor offers no layer "
+                       "shell: the notch is an X11 window through XWayland")};
+  }
+  return {false, QT_TRANSLATE_NOOP(
+                     "Backends",
+                     "the Wayland compositor offers no layer shell (GNOME's has none): the notch "
+                     "is an X11 window through XWayland, above other X11 windows but not always "
+                     "above Wayland ones")};
+}
+
+}  // namespace
+
 void selectDisplayPlatform() {
-  // Wayland clients cannot place their own windows or stay above others, so under a Wayland
-  // session Tindra runs through XWayland unless the user asked for something else.
+  const char* tindraPlatform = std::getenv("TINDRA_PLATFORM");
+  const std::string_view asked = tindraPlatform ? tindraPlatform : "";
+  const char* qtPlatform = std::getenv("QT_QPA_PLATFORM");
   const bool wayland = std::getenv("WAYLAND_DISPLAY") != nullptr;
-  const bool chosen = std::getenv("QT_QPA_PLATFORM") != nullptr;
-  if (wayland && !chosen) setenv("QT_QPA_PLATFORM", "xcb", 1);
+  DisplayPlatform& platform = chosenPlatform();
+  if (asked == "x11") {
+    platform.reason =
+        QT_TRANSLATE_NOOP("Backends", "TINDRA_PLATFORM asks for X11: the notch is an X11 window");
+  } else if (wayland && (asked == "wayland" ||
+                         (asked.empty() &&
+                          (qtPlatform == nullptr || std::string_view(qtPlatform) == "wayland")))) {
+    platform = chooseWayland(asked);
+  } else if (!asked.empty()) {
+    std::fprintf(stderr, "tindra: TINDRA_PLATFORM=%s is neither x11 nor wayland; ignored\n",
+                 tindraPlatform);
+  }
+  // The rest of the app (Settings, Diagnostics, the tray item) uses Qt's own platform: Wayland
+  // beside a layer-surface notch, X11 beside an X11 one.
+  if (platform.layerShell) {
+    setenv("QT_QPA_PLATFORM", "wayland", 1);
+  } else if (wayland || asked == "x11") {
+    if (asked == "x11" || qtPlatform == nullptr) setenv("QT_QPA_PLATFORM", "xcb", 1);
+  }
+}
+
+const DisplayPlatform& displayPlatform() {
+  return chosenPlatform();
+}
+
+NotchWindowMaker notchWindowMaker(SharedBackends& shared) {
+  if (!displayPlatform().layerShell) {
+    return [](ActivityCenter& activities, SettingsStore& settings, NotchContent& content) {
+      return std::make_unique<NotchWindow>(activities, settings, content);
+    };
+  }
+  return [connection = WaylandConnection::shared(shared)](
+             ActivityCenter& activities, SettingsStore& settings, NotchContent& content) {
+    return std::unique_ptr<NotchWindow>(
+        std::make_unique<LayerShellNotchWindow>(*connection, activities, settings, content));
+  };
 }
 
 bool hasGraphicalSession() {
