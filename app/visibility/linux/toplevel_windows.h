@@ -17,14 +17,14 @@
 namespace tindra {
 
 struct ToplevelWindow {
-  std::string appId;
+  std::string appId{};
   bool active = false;
   bool fullScreen = false;
   bool minimized = false;
   // In Qt's global coordinates: the outputs it is on, and its frame where the compositor tells
   // it (KWin does, wlroots does not).
-  std::vector<QRect> outputs;
-  std::optional<QRect> frame;
+  std::vector<QRect> outputs{};
+  std::optional<QRect> frame{};
 
   friend bool operator==(const ToplevelWindow&, const ToplevelWindow&) = default;
 };
