@@ -85,8 +85,10 @@ Column {
             height: row.modelData.missing ? 34 : 22
 
             // What is dragged out: the file, as a file URL, for any application that takes one.
+            // A notch that is a Wayland layer surface starts the drag itself.
+            readonly property bool ownDrag: Window.window !== null && Window.window.dragsFilesItself === true
             Drag.active: area.drag.active
-            Drag.dragType: Drag.Automatic
+            Drag.dragType: row.ownDrag ? Drag.None : Drag.Automatic
             Drag.supportedActions: Qt.CopyAction
             Drag.mimeData: { "text/uri-list": row.modelData.url }
 
@@ -127,6 +129,9 @@ Column {
                 drag.target: row.modelData.missing ? null : dragProxy
                 cursorShape: Qt.PointingHandCursor
                 onClicked: root.model.open(row.modelData.id)
+                drag.onActiveChanged: {
+                    if (drag.active && row.ownDrag) Window.window.dragFilesOut([row.modelData.url])
+                }
             }
             Item { id: dragProxy }
             Text {

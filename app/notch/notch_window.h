@@ -42,6 +42,8 @@ class NotchWindow : public QQuickView {
   Q_PROPERTY(double openProgress READ openProgress NOTIFY shapeChanged)
   Q_PROPERTY(double compactProgress READ compactProgress NOTIFY shapeChanged)
   Q_PROPERTY(QRectF notchRect READ notchRect NOTIFY placementChanged)
+  // Whether files are dragged out through dragFilesOut() rather than Qt's own drag.
+  Q_PROPERTY(bool dragsFilesItself READ dragsFilesItself CONSTANT)
 
  public:
   // Where the frames go: to a window of the window system's, or, offscreen, to whoever drives
@@ -58,6 +60,9 @@ class NotchWindow : public QQuickView {
   virtual bool isPresented() const { return isVisible(); }
   // Null unless rendering offscreen.
   QQuickRenderControl* renderControl() const { return renderControl_; }
+  virtual bool dragsFilesItself() const { return false; }
+  // Drags `urls` out to whichever program takes them, from the press under way.
+  Q_INVOKABLE virtual void dragFilesOut(const QList<QUrl>& urls) { Q_UNUSED(urls); }
 
   // Moves the window to the display that `geometry` describes.
   void place(const NotchGeometry& geometry, const ScreenCoordinates& coordinates, QScreen* screen);

@@ -10,6 +10,7 @@
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QUrl>
+#include <cerrno>
 
 #include "base/linux/pipe_reader.h"
 #include "base/linux/wayland_connection.h"
@@ -129,6 +130,25 @@ const wl_data_offer_listener WaylandSeat::offerListener = {
     .action = [](void*, wl_data_offer*, std::uint32_t) {},
 };
 
+// Our own drag: the list goes to whichever program takes it, as often as it asks.
+const wl_data_source_listener WaylandSeat::sourceListener = {
+    .target = [](void*, wl_data_source*, const char*) {},
+    .send =
+        [](void* data, wl_data_source*, const char*, std::int32_t fd) {
+          const QByteArray& list = self(data).draggedUris_;
+          for (qsizetype written = 0; written < list.size();) {
+            const ssize_t n = write(fd, list.constData() + written, list.size() - written);
+            if (n <= 0 && errno != EINTR) break;
+            if (n > 0) written += n;
+          }
+          close(fd);
+        },
+    .cancelled = [](void* data, wl_data_source*) { self(data).endFileDrag(); },
+    .dnd_drop_performed = [](void*, wl_data_source*) {},
+    .dnd_finished = [](void* data, wl_data_source*) { self(data).endFileDrag(); },
+    .action = [](void*, wl_data_source*, std::uint32_t) {},
+};
+
 WaylandSeat::WaylandSeat(WaylandConnection& connection, wl_seat* seat, std::uint32_t)
     : connection_(connection), seat_(seat) {
   wl_seat_add_listener(seat_, &seatListener, this);
@@ -139,6 +159,7 @@ WaylandSeat::WaylandSeat(WaylandConnection& connection, wl_seat* seat, std::uint
 }
 
 WaylandSeat::~WaylandSeat() {
+  endFileDrag();
   dropReader_.reset();
   forgetOffer();
   if (pending_.offer) wl_data_offer_destroy(pending_.offer);
@@ -155,6 +176,35 @@ void WaylandSeat::unroute(wl_surface* surface) {
   const QPointer<QWindow> window = routes_.take(surface);
   if (window && window == pointerWindow_) pointerWindow_ = nullptr;
   if (window && window == dragWindow_) dragWindow_ = nullptr;
+}
+
+bool WaylandSeat::startFileDrag(wl_surface* origin, const QList<QUrl>& urls) {
+  if (dataDevice_ == nullptr || lastPressSerial_ == 0 || urls.isEmpty()) return false;
+  endFileDrag();
+  draggedUris_.clear();
+  for (const QUrl& url : urls) draggedUris_ += url.toEncoded() + "\r\n";
+  dragSource_ = wl_data_device_manager_create_data_source(connection_.dataDeviceManager());
+  wl_data_source_add_listener(dragSource_, &sourceListener, this);
+  wl_data_source_offer(dragSource_, "text/uri-list");
+  if (wl_proxy_get_version(reinterpret_cast<wl_proxy*>(dragSource_)) >= 3) {
+    wl_data_source_set_actions(dragSource_, WL_DATA_DEVICE_MANAGER_DND_ACTION_COPY);
+  }
+  wl_data_device_start_drag(dataDevice_, dragSource_, origin, nullptr, lastPressSerial_);
+  connection_.flush();
+  // The compositor has the pointer now and no release comes to the window; it gets one, after
+  // the handler that started the drag has returned, so that its press ends.
+  QMetaObject::invokeMethod(
+      this,
+      [this] {
+        buttons_ = Qt::NoButton;
+        sendMouse(QEvent::MouseButtonRelease, Qt::LeftButton, lastTime_);
+      },
+      Qt::QueuedConnection);
+  return true;
+}
+
+void WaylandSeat::endFileDrag() {
+  if (dragSource_) wl_data_source_destroy(std::exchange(dragSource_, nullptr));
 }
 
 void WaylandSeat::capabilities(std::uint32_t capabilities) {

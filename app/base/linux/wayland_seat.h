@@ -10,6 +10,7 @@
 #include <QPointF>
 #include <QPointer>
 #include <QStringList>
+#include <QUrl>
 #include <QWindow>
 #include <cstdint>
 #include <memory>
@@ -19,6 +20,8 @@ struct wl_pointer;
 struct wl_surface;
 struct wl_data_device;
 struct wl_data_offer;
+struct wl_data_source;
+struct wl_data_source_listener;
 struct wl_seat_listener;
 struct wl_pointer_listener;
 struct wl_data_device_listener;
@@ -40,8 +43,9 @@ class WaylandSeat final : public QObject {
   void route(wl_surface* surface, QWindow* window);
   void unroute(wl_surface* surface);
 
-  // The serial of the last button press, which a drag started from it must name.
-  std::uint32_t lastPressSerial() const { return lastPressSerial_; }
+  // Starts dragging `urls` out of `origin` with the button pressed last, for any program that
+  // takes files; false when the compositor has no drag and drop or no press to start from.
+  bool startFileDrag(wl_surface* origin, const QList<QUrl>& urls);
   wl_seat* get() const { return seat_; }
 
  private:
@@ -71,11 +75,13 @@ class WaylandSeat final : public QObject {
   void dragLeave();
   void drop();
   void forgetOffer();
+  void endFileDrag();
 
   static const wl_seat_listener seatListener;
   static const wl_pointer_listener pointerListener;
   static const wl_data_device_listener dataDeviceListener;
   static const wl_data_offer_listener offerListener;
+  static const wl_data_source_listener sourceListener;
 
   WaylandConnection& connection_;
   wl_seat* seat_;
@@ -97,6 +103,8 @@ class WaylandSeat final : public QObject {
   QPointF dragPosition_;
   std::uint32_t dragSerial_ = 0;
   std::unique_ptr<PipeReader> dropReader_;
+  wl_data_source* dragSource_ = nullptr;  // a drag of ours, until it ends
+  QByteArray draggedUris_;
 };
 
 }  // namespace tindra

@@ -86,6 +86,11 @@ void LayerShellNotchWindow::present(bool shown) {
   emit presentedChanged(shown);
 }
 
+void LayerShellNotchWindow::dragFilesOut(const QList<QUrl>& urls) {
+  if (surface_ == nullptr) return;
+  if (WaylandSeat* seat = connection_.seat()) seat->startFileDrag(surface_, urls);
+}
+
 QPoint LayerShellNotchWindow::pointerPosition() const {
   // No Wayland client learns where the pointer is outside its own surfaces; the level then
   // shows on every display.

@@ -36,6 +36,9 @@ class LayerShellNotchWindow final : public NotchWindow {
 
   void present(bool shown) override;
   bool isPresented() const override { return shown_; }
+  // Qt's drag needs a window of Qt's own to start from.
+  bool dragsFilesItself() const override { return true; }
+  void dragFilesOut(const QList<QUrl>& urls) override;
   // Whether the compositor has shown a frame of it since it was last presented.
   bool hasFramed() const { return framed_; }
 
