@@ -111,6 +111,30 @@
         <source>no system bus (%1): GeoClue cannot be asked</source>
         <translation>ingen systembuss (%1): GeoClue kan ikke spørres</translation>
     </message>
+    <message>
+        <source>the notch is an X11 window</source>
+        <translation>hakket er et X11-vindu</translation>
+    </message>
+    <message>
+        <source>the notch is a layer surface on the Wayland compositor</source>
+        <translation>hakket er en lagflate hos Wayland-kompositoren</translation>
+    </message>
+    <message>
+        <source>TINDRA_PLATFORM asks for Wayland, but the compositor offers no layer shell: the notch is an X11 window through XWayland</source>
+        <translation>TINDRA_PLATFORM ber om Wayland, men kompositoren tilbyr ikke lagskallet: hakket er et X11-vindu gjennom XWayland</translation>
+    </message>
+    <message>
+        <source>the Wayland compositor offers no layer shell (GNOME&apos;s has none): the notch is an X11 window through XWayland, above other X11 windows but not always above Wayland ones</source>
+        <translation>Wayland-kompositoren tilbyr ikke lagskallet (GNOMEs har det ikke): hakket er et X11-vindu gjennom XWayland, over andre X11-vinduer, men ikke alltid over Wayland-vinduer</translation>
+    </message>
+    <message>
+        <source>TINDRA_PLATFORM asks for X11: the notch is an X11 window</source>
+        <translation>TINDRA_PLATFORM ber om X11: hakket er et X11-vindu</translation>
+    </message>
+    <message>
+        <source>the Wayland compositor lists no windows to other programs (neither wlr foreign toplevel nor Plasma window management): the notch never steps aside for full-screen windows or games</source>
+        <translation>Wayland-kompositoren viser ikke vinduene sine til andre programmer (verken wlr foreign toplevel eller Plasma window management): hakket viker aldri for vinduer i fullskjerm eller spill</translation>
+    </message>
 </context>
 <context>
     <name>BannerPanel</name>
@@ -1566,6 +1590,13 @@
     </message>
 </context>
 <context>
+    <name>tindra::PlasmaWindowVisibilitySource</name>
+    <message>
+        <source>following the active window and full-screen state from KWin&apos;s window list (Plasma window management)</source>
+        <translation>følger det aktive vinduet og fullskjermtilstanden i KWins vindusliste (Plasma window management)</translation>
+    </message>
+</context>
+<context>
     <name>tindra::PosixFileTrayBackend</name>
     <message>
         <source>files are known by their device and inode</source>
@@ -1881,6 +1912,13 @@
     <message>
         <source>Weather data from MET Norway</source>
         <translation>Værdata fra Meteorologisk institutt</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::WlrToplevelVisibilitySource</name>
+    <message>
+        <source>following the active window and full-screen state from the compositor&apos;s window list (wlr foreign toplevel)</source>
+        <translation>følger det aktive vinduet og fullskjermtilstanden i kompositorens vindusliste (wlr foreign toplevel)</translation>
     </message>
 </context>
 <context>
