@@ -178,6 +178,7 @@ void WaylandConnection::withdraw(std::uint32_t name) {
 
 void WaylandConnection::addOutput(std::uint32_t name, std::uint32_t version) {
   auto output = std::make_unique<Output>();
+  output->connection = this;
   output->global = name;
   output->output = static_cast<wl_output*>(
       wl_registry_bind(registry_, name, &wl_output_interface, std::min(version, 4u)));

@@ -38,6 +38,7 @@ class WaylandConnection final : public QObject {
 
  public:
   struct Output {
+    WaylandConnection* connection = nullptr;
     std::uint32_t global = 0;
     wl_output* output = nullptr;
     zxdg_output_v1* xdgOutput = nullptr;
