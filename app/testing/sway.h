@@ -66,7 +66,8 @@ class Sway {
   // empty, and waits until sway's tree says so.
   bool setFullScreen(bool on, const QString& appId = {});
 
-  // What `output` shows, from grim.
+  // What `output` shows, from grim: sway's plain grey (#3f3f3f) where no surface is, and the
+  // pointer, which a headless output draws into the picture.
   QImage screenshot(const QString& output);
 
  private:
