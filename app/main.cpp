@@ -16,6 +16,7 @@
 
 #include "demo_tour.h"
 #include "diagnostics/first_frame_report.h"
+#include "diagnostics/frame_swap_report.h"
 #include "diagnostics/key_latency_report.h"
 #include "diagnostics/notice_latency_report.h"
 #include "diagnostics/stall_report.h"
@@ -91,6 +92,7 @@ int main(int argc, char* argv[]) {
   }
   tindra::TindraApp tindra({.animated = true, .welcome = !options.isSet(demo)});
   tindra::reportFirstFrameIfAsked();
+  tindra::reportFrameSwapsIfAsked();
   tindra::reportNoticeLatencyIfAsked(tindra.activities());
   tindra::reportStallsIfAsked();
   tindra::reportKeyLatencyIfAsked(*tindra.providers().get<tindra::HudProvider>().viewModel());
