@@ -1,0 +1,195 @@
+// Runs in: private-session --sway-two --sound-server
+// Tindra as a user meets it on a wlroots desktop: the built program on a headless sway with two
+// outputs, its notch a layer surface on each, seen through grim's screenshots and driven with
+// the seat's pointer, sway's windows and `tindra level` commands.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QProcess>
+#include <QTest>
+
+#include "testing/picture_checks.h"
+#include "testing/skip_or_fail_on_ci.h"
+#include "testing/sway.h"
+
+namespace tindra {
+namespace {
+
+const QString left = QStringLiteral("HEADLESS-1");
+const QString right = QStringLiteral("HEADLESS-2");
+
+// The notch is black; sway's empty background is #3f3f3f and the test windows are orange.
+const PixelTest notchBlack = near(Qt::black, 10);
+const QColor windowColour(0xc0, 0x40, 0x00);
+
+// The notch's window spans this strip of the top centre of an output.
+QRect topCentre(const QImage& shot) {
+  return {shot.width() / 2 - 320, 0, 640, 220};
+}
+
+// The black outline in the top centre of `output`'s screenshot.
+QRect notchIn(const QImage& shot) {
+  const QRect strip = topCentre(shot).intersected(shot.rect());
+  QRect found;
+  for (int y = strip.top(); y <= strip.bottom(); ++y) {
+    for (int x = strip.left(); x <= strip.right(); ++x) {
+      if (notchBlack(shot.pixelColor(x, y))) found |= QRect(x, y, 1, 1);
+    }
+  }
+  return found;
+}
+
+QString runTindra(const QStringList& arguments, int* exitCode = nullptr) {
+  QProcess command;
+  command.start(QStringLiteral(TINDRA_BINARY), arguments);
+  EXPECT_TRUE(command.waitForFinished(10000));
+  if (exitCode) *exitCode = command.exitCode();
+  return QString::fromUtf8(command.readAllStandardOutput() + command.readAllStandardError());
+}
+
+int sinkVolumePercent() {
+  QProcess pactl;
+  pactl.start(QStringLiteral("pactl"), {"get-sink-volume", "@DEFAULT_SINK@"});
+  pactl.waitForFinished();
+  // "Volume: front-left: 32768 /  50% / …"
+  const QString said = QString::fromUtf8(pactl.readAllStandardOutput());
+  const qsizetype percent = said.indexOf('%');
+  if (percent < 0) return -1;
+  const qsizetype start = said.lastIndexOf(' ', percent - 1) + 1;
+  return said.mid(start, percent - start).toInt();
+}
+
+class LayerShellNotchTest : public ::testing::Test {
+ protected:
+  // One Tindra for the whole program, started as a user's session would start it.
+  static void SetUpTestSuite() {
+    const QDir config(qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/tindra"));
+    config.mkpath(QStringLiteral("."));
+    QFile settings(config.filePath(QStringLiteral("settings.json")));
+    if (settings.open(QIODevice::WriteOnly)) settings.write(R"({"onboardingCompleted": true})");
+    settings.close();
+    tindra = new QProcess;
+    tindra->setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    tindra->start(QStringLiteral(TINDRA_BINARY), {});
+  }
+  static void TearDownTestSuite() {
+    tindra->terminate();
+    tindra->waitForFinished(5000);
+    delete std::exchange(tindra, nullptr);
+  }
+
+  void SetUp() override {
+    if (!sway_.running()) SKIP_OR_FAIL_ON_CI("the session has no sway");
+    ASSERT_EQ(tindra->state(), QProcess::Running) << "Tindra stopped";
+    // Closed, the notch hangs from the top edge of both outputs.
+    ASSERT_TRUE(waitForNotch(left, [](const QRect& notch) { return notch.top() == 0; }));
+    ASSERT_TRUE(waitForNotch(right, [](const QRect& notch) { return notch.top() == 0; }));
+  }
+  void TearDown() override {
+    for (const QString& appId : started_)
+      sway_.command(QStringLiteral("[app_id=%1] kill").arg(appId));
+    sway_.movePointer({100, 900});
+  }
+
+  // A window of a colour of its own, tiled on `output`.
+  void startWindow(const QString& appId, const QString& output) {
+    ASSERT_TRUE(sway_.command(QStringLiteral("focus output %1").arg(output)));
+    ASSERT_TRUE(sway_.startClient(
+        QStringLiteral("foot --app-id=%1 -o colors.background=c04000").arg(appId), appId));
+    started_.push_back(appId);
+  }
+
+  // Waits (up to 5 s, screenshots all along) until the notch on `output` passes `test`.
+  bool waitForNotch(const QString& output, const std::function<bool(const QRect&)>& test) {
+    return QTest::qWaitFor(
+        [&] {
+          shot_ = sway_.screenshot(output);
+          return test(notchIn(shot_));
+        },
+        5000);
+  }
+
+  static QProcess* tindra;
+  Sway sway_;
+  QImage shot_;
+  QStringList started_;
+};
+
+QProcess* LayerShellNotchTest::tindra = nullptr;
+
+TEST_F(LayerShellNotchTest, HangsFromTheTopCentreOfEveryOutputOverATiledWindow) {
+  startWindow(QStringLiteral("tiled"), left);
+  ASSERT_TRUE(waitForNotch(left, [](const QRect& notch) { return !notch.isEmpty(); }));
+  const QRect notch = notchIn(shot_);
+  EXPECT_EQ(notch.top(), 0);
+  EXPECT_NEAR(notch.center().x(), 960, 2);
+  EXPECT_LT(notch.height(), 60) << "closed";
+  // The window fills the rest of the top edge: the notch is over it, not beside or under it.
+  EXPECT_GT(countPixels(shot_, near(windowColour), QRect(0, 0, 1920, 40)), 1920 * 30);
+
+  ASSERT_TRUE(waitForNotch(right, [](const QRect& notch) { return !notch.isEmpty(); }));
+  EXPECT_NEAR(notchIn(shot_).center().x(), 640, 2);
+
+  // A display plugged in later gets its own.
+  const std::optional<QString> third = sway_.createOutput();
+  ASSERT_TRUE(third);
+  EXPECT_TRUE(waitForNotch(*third, [](const QRect& notch) { return notch.top() == 0; }));
+  // Taking it away again needs sway 1.8 (`output … unplug`); Debian 12 has 1.7.
+  if (sway_.canUnplug()) {
+    EXPECT_TRUE(sway_.unplug(*third));
+  }
+}
+
+TEST_F(LayerShellNotchTest, OpensUnderThePointerAndClosesWhenItLeaves) {
+  ASSERT_TRUE(waitForNotch(right, [](const QRect& notch) { return !notch.isEmpty(); }));
+  const QRect closed = notchIn(shot_);
+  ASSERT_TRUE(sway_.movePointer({1920 + 640, 4}));
+  EXPECT_TRUE(waitForNotch(right, [&](const QRect& notch) {
+    return notch.height() > 2 * closed.height() && notch.width() > closed.width();
+  })) << "opened";
+  ASSERT_TRUE(sway_.movePointer({1920 + 640, 600}));
+  EXPECT_TRUE(waitForNotch(right, [&](const QRect& notch) { return notch == closed; }))
+      << "closed again";
+}
+
+TEST_F(LayerShellNotchTest, AClickBesideTheOutlineReachesTheWindowBelow) {
+  startWindow(QStringLiteral("below"), left);
+  startWindow(QStringLiteral("elsewhere"), right);
+  ASSERT_EQ(sway_.focusedWindow()->value("app_id").toString(), "elsewhere");
+  // Inside the notch's surface, which is as large as the opened panel, but beside the outline.
+  ASSERT_TRUE(sway_.click({960 - 240, 120}));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return sway_.focusedWindow()->value("app_id").toString() == "below"; }, 3000));
+}
+
+TEST_F(LayerShellNotchTest, StepsAsideForAFullScreenWindowOnItsOutputOnly) {
+  startWindow(QStringLiteral("video"), left);
+  ASSERT_TRUE(sway_.setFullScreen(true, QStringLiteral("video")));
+  EXPECT_TRUE(waitForNotch(left, [](const QRect& notch) { return notch.isEmpty(); }))
+      << "aside over the full-screen window";
+  EXPECT_GT(countPixels(shot_, near(windowColour), topCentre(shot_)), 600 * 200);
+  EXPECT_TRUE(waitForNotch(right, [](const QRect& notch) { return !notch.isEmpty(); }))
+      << "still there on the other output";
+
+  ASSERT_TRUE(sway_.setFullScreen(false, QStringLiteral("video")));
+  EXPECT_TRUE(waitForNotch(left, [](const QRect& notch) { return !notch.isEmpty(); }))
+      << "back when it leaves full screen";
+}
+
+TEST_F(LayerShellNotchTest, ALevelCommandStepsTheVolumeAndShowsTheIndicator) {
+  ASSERT_TRUE(waitForNotch(left, [](const QRect& notch) { return !notch.isEmpty(); }));
+  const QRect idle = notchIn(shot_);
+  ASSERT_EQ(QProcess::execute("pactl", {"set-sink-volume", "@DEFAULT_SINK@", "50%"}), 0);
+  int exitCode = -1;
+  const QString said = runTindra({"level", "volume", "up"}, &exitCode);
+  EXPECT_EQ(exitCode, 0) << said.toStdString();
+  EXPECT_TRUE(QTest::qWaitFor([] { return sinkVolumePercent() > 50; }, 3000))
+      << sinkVolumePercent();
+  // The level shows on the notch's ears, wider than the idle notch.
+  EXPECT_TRUE(
+      waitForNotch(left, [&](const QRect& notch) { return notch.width() > idle.width() + 40; }));
+}
+
+}  // namespace
+}  // namespace tindra
