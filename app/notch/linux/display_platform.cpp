@@ -42,6 +42,26 @@ DisplayPlatform chooseWayland(std::string_view asked) {
                      "above Wayland ones")};
 }
 
+QtMessageHandler qtHandler = nullptr;
+
+// Qt says twice that it loaded no GPU buffer integration; that is the point, not a fault.
+void dropBufferIntegrationNotes(QtMsgType type, const QMessageLogContext& context,
+                                const QString& message) {
+  const bool expected = context.category != nullptr &&
+                        std::string_view(context.category) == "qt.qpa.wayland" &&
+                        message.contains(QLatin1String("client buffer integration"));
+  if (!expected && qtHandler != nullptr) qtHandler(type, context, message);
+}
+
+// Everything Tindra draws is drawn by the CPU (the software scene graph, raster widgets), but
+// Qt's Wayland platform sets up EGL for the first window it decorates, which brings Mesa's
+// software rasteriser and LLVM in: some 50 MB resident for nothing. Shared memory is all it needs.
+void keepQtOffTheGpu() {
+  if (std::getenv("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION") != nullptr) return;
+  setenv("QT_WAYLAND_CLIENT_BUFFER_INTEGRATION", "none", 1);
+  qtHandler = qInstallMessageHandler(dropBufferIntegrationNotes);
+}
+
 }  // namespace
 
 void selectDisplayPlatform() {
@@ -65,6 +85,7 @@ void selectDisplayPlatform() {
   // beside a layer-surface notch, X11 beside an X11 one.
   if (platform.layerShell) {
     setenv("QT_QPA_PLATFORM", "wayland", 1);
+    keepQtOffTheGpu();
   } else if (wayland || asked == "x11") {
     if (asked == "x11" || qtPlatform == nullptr) setenv("QT_QPA_PLATFORM", "xcb", 1);
   }

@@ -194,6 +194,8 @@ void LayerShellNotchWindow::renderFrame() {
   wl_callback_add_listener(frameCallback_, &frameListener, this);
   wl_surface_commit(surface_);
   connection_.flush();
+  // As Qt's own render loop says when it has handed a frame over (reports and tests follow it).
+  emit frameSwapped();
 }
 
 void LayerShellNotchWindow::frameDone() {
