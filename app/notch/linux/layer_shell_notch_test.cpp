@@ -40,6 +40,17 @@ QRect notchIn(const QImage& shot) {
   return found;
 }
 
+// Writes the settings file as a user's edit would; the running Tindra follows it.
+void writeSettings(const QByteArray& json) {
+  const QDir config(qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/tindra"));
+  config.mkpath(QStringLiteral("."));
+  QFile settings(config.filePath(QStringLiteral("settings.json")));
+  ASSERT_TRUE(settings.open(QIODevice::WriteOnly));
+  settings.write(json);
+}
+
+const QByteArray welcomed = R"({"onboardingCompleted": true})";
+
 QString runTindra(const QStringList& arguments, int* exitCode = nullptr) {
   QProcess command;
   command.start(QStringLiteral(TINDRA_BINARY), arguments);
@@ -64,11 +75,7 @@ class LayerShellNotchTest : public ::testing::Test {
  protected:
   // One Tindra for the whole program, started as a user's session would start it.
   static void SetUpTestSuite() {
-    const QDir config(qEnvironmentVariable("XDG_CONFIG_HOME") + QStringLiteral("/tindra"));
-    config.mkpath(QStringLiteral("."));
-    QFile settings(config.filePath(QStringLiteral("settings.json")));
-    if (settings.open(QIODevice::WriteOnly)) settings.write(R"({"onboardingCompleted": true})");
-    settings.close();
+    writeSettings(welcomed);
     tindra = new QProcess;
     tindra->setProcessChannelMode(QProcess::ForwardedErrorChannel);
     tindra->start(QStringLiteral(TINDRA_BINARY), {});
@@ -139,6 +146,14 @@ TEST_F(LayerShellNotchTest, HangsFromTheTopCentreOfEveryOutputOverATiledWindow) 
   if (sway_.canUnplug()) {
     EXPECT_TRUE(sway_.unplug(*third));
   }
+}
+
+TEST_F(LayerShellNotchTest, ShowsOnTheOutputTheDisplayChoiceNames) {
+  writeSettings(R"({"onboardingCompleted": true, "displaySelection": "named:HEADLESS-2"})");
+  EXPECT_TRUE(waitForNotch(left, [](const QRect& notch) { return notch.isEmpty(); }));
+  EXPECT_TRUE(waitForNotch(right, [](const QRect& notch) { return !notch.isEmpty(); }));
+  writeSettings(welcomed);
+  EXPECT_TRUE(waitForNotch(left, [](const QRect& notch) { return !notch.isEmpty(); }));
 }
 
 TEST_F(LayerShellNotchTest, OpensUnderThePointerAndClosesWhenItLeaves) {
