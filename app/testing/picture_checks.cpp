@@ -42,15 +42,19 @@ int countPixels(const QImage& picture, const PixelTest& test, const QRect& regio
   return count;
 }
 
-QRect drawnArea(const QImage& picture, const QRect& region) {
+QRect areaOf(const QImage& picture, const PixelTest& test, const QRect& region) {
   const QRect area = within(picture, region);
-  QRect drawn;
+  QRect found;
   for (int y = area.top(); y <= area.bottom(); ++y) {
     for (int x = area.left(); x <= area.right(); ++x) {
-      if (isDrawn(picture.pixelColor(x, y))) drawn |= QRect(x, y, 1, 1);
+      if (test(picture.pixelColor(x, y))) found |= QRect(x, y, 1, 1);
     }
   }
-  return drawn;
+  return found;
+}
+
+QRect drawnArea(const QImage& picture, const QRect& region) {
+  return areaOf(picture, isDrawn, region);
 }
 
 QRect leftHalf(const QImage& picture) {

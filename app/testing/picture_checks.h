@@ -24,8 +24,10 @@ PixelTest near(const QColor& colour, int tolerance = 24);
 // The pixels of `picture` within `region` (all of it when empty) that pass `test`.
 int countPixels(const QImage& picture, const PixelTest& test, const QRect& region = {});
 
-// The smallest rectangle around what is drawn within `region` (all of `picture` when empty);
-// empty when nothing is.
+// The smallest rectangle around the pixels within `region` (all of `picture` when empty) that
+// pass `test`; empty when none does.
+QRect areaOf(const QImage& picture, const PixelTest& test, const QRect& region = {});
+// The same for what is drawn.
 QRect drawnArea(const QImage& picture, const QRect& region = {});
 
 // The halves of a picture of a compact view: its left ear, and its right one.
