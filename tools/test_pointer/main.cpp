@@ -9,7 +9,18 @@
 //   scroll DX DY        one step of two fingers on a touchpad, pixels, positive down and right
 //   scroll-stop         the fingers lift
 //   wheel N             N detents of the wheel, positive down
+//   drag-files URI...   starts dragging the files: a 64x64 surface of this program's own appears
+//                       centred at the bottom of the first output, the pointer presses on it and
+//                       a drag offering text/uri-list begins; the button stays held, so a "move"
+//                       onto the target and a "release" drop the files there. The target must
+//                       have answered first ("event: action copy" below): a release before that
+//                       is a drop nobody accepted, and the compositor cancels the drag
 //   quit                (or the end of the input) disconnects; the pointer leaves the seat
+// What a drag's data source hears comes whenever it comes, on lines of its own: "event: accepted
+// <type>|none", "event: action copy|move|ask|none", "event: dropped", "event: sent" (the list
+// was written to the receiver), "event: finished", "event: cancelled". Any number of them may
+// come before a command's answer.
+#include <signal.h>
 #include <unistd.h>
 
 #include <cstdio>
@@ -44,6 +55,8 @@ bool runLines(std::string& pending, tindra::PointerCommands& commands) {
 }  // namespace
 
 int main() {
+  // A receiver that closes its end early must not end the program.
+  signal(SIGPIPE, SIG_IGN);
   std::string error;
   const auto wayland = tindra::WaylandClient::connect(error);
   if (!wayland) {
@@ -54,7 +67,8 @@ int main() {
   // The seat announces its new pointer, then this program's own wl_pointer is bound.
   wayland->roundtrip();
   wayland->roundtrip();
-  tindra::PointerCommands commands(*wayland, pointer);
+  tindra::PointerCommands commands(*wayland, pointer,
+                                   [](const std::string& event) { say("event: " + event); });
   std::string pending;
   while (wayland->dispatchUntilReadable(STDIN_FILENO)) {
     if (!runLines(pending, commands)) break;

@@ -43,8 +43,9 @@ std::string describe(const Box& box) {
 
 }  // namespace
 
-PointerCommands::PointerCommands(WaylandClient& wayland, VirtualPointer& pointer)
-    : wayland_(wayland), pointer_(pointer) {}
+PointerCommands::PointerCommands(WaylandClient& wayland, VirtualPointer& pointer,
+                                 FileDrag::Report report)
+    : wayland_(wayland), pointer_(pointer), drag_(wayland, std::move(report)) {}
 
 std::string PointerCommands::run(std::string_view line) {
   const Words words = split(line);
@@ -66,6 +67,7 @@ std::string PointerCommands::dispatch(const Words& words) {
     return settle();
   }
   if (verb == "wheel") return wheel(words);
+  if (verb == "drag-files") return dragFiles(words);
   if (verb == "quit" && bare) {
     quitting_ = true;
     return settle();
@@ -103,6 +105,14 @@ std::string PointerCommands::wheel(const Words& words) {
   if (!steps || *steps == 0) return error("wheel takes N, detents other than 0");
   pointer_.wheel(*steps);
   return settle();
+}
+
+std::string PointerCommands::dragFiles(const Words& words) {
+  if (words.size() < 2) return error("drag-files takes one or more URIs");
+  if (drag_.isActive()) return error("a drag is under way already");
+  const std::string failure =
+      drag_.start(std::vector<std::string>(words.begin() + 1, words.end()), pointer_);
+  return failure.empty() ? settle() : error(failure);
 }
 
 // The answer waits until the compositor has handled the command.

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "file_drag.h"
+
 namespace tindra {
 
 class WaylandClient;
@@ -13,7 +15,8 @@ class VirtualPointer;
 
 class PointerCommands {
  public:
-  PointerCommands(WaylandClient& wayland, VirtualPointer& pointer);
+  // `report` gets what a drag's data source hears, whenever it hears it.
+  PointerCommands(WaylandClient& wayland, VirtualPointer& pointer, FileDrag::Report report);
 
   // "ok", or "error: " and why.
   std::string run(std::string_view line);
@@ -27,10 +30,12 @@ class PointerCommands {
   std::string button(std::uint32_t code, bool pressed);
   std::string scroll(const Words& words);
   std::string wheel(const Words& words);
+  std::string dragFiles(const Words& words);
   std::string settle();
 
   WaylandClient& wayland_;
   VirtualPointer& pointer_;
+  FileDrag drag_;
   bool quitting_ = false;
 };
 
