@@ -17,7 +17,7 @@ add_library(tindra_test_support STATIC ${test_support} test_main.cpp)
 target_link_libraries(tindra_test_support PUBLIC tindra_app_lib Qt6::Test Qt6::DBus GTest::gmock
   GTest::gtest)
 target_compile_definitions(tindra_test_support PUBLIC TINDRA_SOURCE_DIR="${PROJECT_SOURCE_DIR}"
-  TINDRA_BINARY="$<TARGET_FILE:tindra>")
+  TINDRA_BINARY="$<TARGET_FILE:tindra>" TINDRA_TEST_POINTER="$<TARGET_FILE:tindra-test-pointer>")
 
 file(GLOB_RECURSE test_files CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" "*_test.cpp")
 list(FILTER test_files EXCLUDE REGEX "^testing/")
@@ -54,7 +54,7 @@ list(REMOVE_DUPLICATES programs)
 foreach(program IN LISTS programs)
   add_executable(${program} ${sources_${program}})
   target_link_libraries(${program} PRIVATE tindra_test_support)
-  add_dependencies(${program} tindra tindra-mpris-adapter)
+  add_dependencies(${program} tindra tindra-mpris-adapter tindra-test-pointer)
   if(test_name_${program})
     add_test(NAME ${test_name_${program}}
       COMMAND ${session} ${options_${program}} -- $<TARGET_FILE:${program}>)

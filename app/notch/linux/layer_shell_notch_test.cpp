@@ -7,11 +7,13 @@
 #include <QDir>
 #include <QFile>
 #include <QProcess>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "testing/picture_checks.h"
 #include "testing/skip_or_fail_on_ci.h"
 #include "testing/sway.h"
+#include "testing/test_pointer.h"
 
 namespace tindra {
 namespace {
@@ -42,7 +44,7 @@ void writeSettings(const QByteArray& json) {
   settings.write(json);
 }
 
-const QByteArray welcomed = R"({"onboardingCompleted": true})";
+const QByteArray welcomed = R"({"onboardingCompleted": true, "experimentalFileTray": true})";
 
 QString runTindra(const QStringList& arguments, int* exitCode = nullptr) {
   QProcess command;
@@ -145,7 +147,8 @@ TEST_F(LayerShellNotchTest, HangsFromTheTopCentreOfEveryOutputOverATiledWindow) 
 }
 
 TEST_F(LayerShellNotchTest, ShowsOnTheOutputTheDisplayChoiceNames) {
-  writeSettings(R"({"onboardingCompleted": true, "displaySelection": "named:HEADLESS-2"})");
+  writeSettings(
+      R"({"onboardingCompleted": true, "experimentalFileTray": true, "displaySelection": "named:HEADLESS-2"})");
   EXPECT_TRUE(waitForNotch(left, [](const QRect& notch) { return notch.isEmpty(); }));
   EXPECT_TRUE(waitForNotch(right, [](const QRect& notch) { return !notch.isEmpty(); }));
   writeSettings(welcomed);
@@ -200,6 +203,28 @@ TEST_F(LayerShellNotchTest, ALevelCommandStepsTheVolumeAndShowsTheIndicator) {
   // The level shows on the notch's ears, wider than the idle notch.
   EXPECT_TRUE(
       waitForNotch(left, [&](const QRect& notch) { return notch.width() > idle.width() + 40; }));
+}
+
+TEST_F(LayerShellNotchTest, AFileDroppedOnTheNotchLandsInTheTray) {
+  QTemporaryDir dir;
+  const QString file = dir.filePath(QStringLiteral("minutes.txt"));
+  QFile(file).open(QIODevice::WriteOnly);
+  // Another program drags the file out of a surface of its own and lets go over the notch.
+  TestPointer pointer;
+  ASSERT_TRUE(pointer.running());
+  ASSERT_TRUE(pointer.send(QStringLiteral("drag-files ") + QUrl::fromLocalFile(file).toString()));
+  ASSERT_TRUE(pointer.send(QStringLiteral("move 960 10")));
+  ASSERT_TRUE(pointer.waitForEvent(QStringLiteral("action copy")))
+      << pointer.events().join(", ").toStdString();
+  ASSERT_TRUE(pointer.send(QStringLiteral("release")));
+  EXPECT_TRUE(pointer.waitForEvent(QStringLiteral("finished")))
+      << pointer.events().join(", ").toStdString();
+
+  QFile tray(QDir::home().filePath(QStringLiteral(".local/share/tindra/file-tray.json")));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] { return tray.open(QIODevice::ReadOnly) && tray.readAll().contains("minutes.txt"); },
+      3000))
+      << "the tray keeps it";
 }
 
 }  // namespace
