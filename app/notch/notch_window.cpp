@@ -1,5 +1,6 @@
 #include "notch/notch_window.h"
 
+#include <QAction>
 #include <QCursor>
 #include <QDragEnterEvent>
 #include <QMenu>
@@ -109,6 +110,51 @@ NotchWindow::~NotchWindow() {
   if (shownExpanded_) content_.clock()->release();
 }
 
+void NotchWindow::openMenuInside(const QPointF& at) {
+  // What the menu shows is brought up to date as it would be before showing itself.
+  emit contextMenu_->aboutToShow();
+  menuActions_.clear();
+  for (QAction* action : contextMenu_->actions()) {
+    if (action->isVisible()) menuActions_.push_back(action);
+  }
+  menuPosition_ = at;
+  emit menuChanged();
+}
+
+QVariantList NotchWindow::menuItems() const {
+  QVariantList items;
+  for (const QPointer<QAction>& action : menuActions_) {
+    if (!action) continue;
+    items.push_back(QVariantMap{{QStringLiteral("text"), action->text()},
+                                {QStringLiteral("enabled"), action->isEnabled()},
+                                {QStringLiteral("checkable"), action->isCheckable()},
+                                {QStringLiteral("checked"), action->isChecked()},
+                                {QStringLiteral("separator"), action->isSeparator()}});
+  }
+  return items;
+}
+
+void NotchWindow::chooseMenuItem(int index) {
+  const QPointer<QAction> chosen =
+      index >= 0 && index < menuActions_.size() ? menuActions_[index] : nullptr;
+  closeMenu();
+  if (chosen && chosen->isEnabled() && !chosen->isSeparator()) chosen->trigger();
+}
+
+void NotchWindow::setMenuArea(const QRectF& area) {
+  if (area == menuArea_) return;
+  menuArea_ = area;
+  updateShape();
+}
+
+void NotchWindow::closeMenu() {
+  if (menuActions_.isEmpty()) return;
+  menuActions_.clear();
+  menuArea_ = QRectF();
+  updateShape();
+  emit menuChanged();
+}
+
 void NotchWindow::present(bool shown) {
   if (shown == isPresented()) return;
   setVisible(shown);
@@ -167,6 +213,7 @@ bool NotchWindow::event(QEvent* event) {
       break;
     case QEvent::Leave:
       pointerInside_ = false;
+      closeMenu();
       sample();
       break;
     case QEvent::MouseMove:
@@ -192,12 +239,15 @@ bool NotchWindow::handleMouse(QEvent* event) {
   auto* mouse = static_cast<QMouseEvent*>(event);
   pointerInside_ = true;
   pointer_ = mouse->position();
+  if (event->type() == QEvent::MouseButtonPress && !menuArea_.contains(pointer_)) closeMenu();
   if (event->type() == QEvent::MouseButtonPress && mouse->button() == Qt::RightButton) {
-    if (contextMenu_ != nullptr && shape_.contains(pointer_)) {
+    if (contextMenu_ == nullptr || !shape_.contains(pointer_)) return false;
+    if (drawsMenuInside()) {
+      openMenuInside(pointer_);
+    } else {
       contextMenu_->popup(mouse->globalPosition().toPoint());
-      return true;
     }
-    return false;
+    return true;
   }
   const bool wasDown = buttonDown_;
   buttonDown_ = mouse->buttons().testFlag(Qt::LeftButton);
@@ -360,7 +410,8 @@ void NotchWindow::updateShape() {
   shape_.body = QRectF(left, 0, bodyWidth, std::min<double>(height, this->height()));
   shape_.bottomRadius = lerp(std::min(10.0, layout_.notchRect.height() / 3), 26, openProgress_);
   shape_.flareRadius = flare;
-  setMask(shape_.region());
+  // An open menu takes the pointer where it is drawn, inside the notch's window or not.
+  setMask(menuActions_.isEmpty() ? shape_.region() : shape_.region() | menuArea_.toAlignedRect());
   emit shapeChanged();
 }
 

@@ -44,6 +44,11 @@ class NotchWindow : public QQuickView {
   Q_PROPERTY(QRectF notchRect READ notchRect NOTIFY placementChanged)
   // Whether files are dragged out through dragFilesOut() rather than Qt's own drag.
   Q_PROPERTY(bool dragsFilesItself READ dragsFilesItself CONSTANT)
+  // The context menu drawn inside the notch (where no menu window of its own can be placed):
+  // its items ({text, enabled, checked, checkable, separator}), none while it is closed, and
+  // where it was asked for.
+  Q_PROPERTY(QVariantList menuItems READ menuItems NOTIFY menuChanged)
+  Q_PROPERTY(QPointF menuPosition READ menuPosition NOTIFY menuChanged)
 
  public:
   // Where the frames go: to a window of the window system's, or, offscreen, to whoever drives
@@ -63,6 +68,14 @@ class NotchWindow : public QQuickView {
   virtual bool dragsFilesItself() const { return false; }
   // Drags `urls` out to whichever program takes them, from the press under way.
   Q_INVOKABLE virtual void dragFilesOut(const QList<QUrl>& urls) { Q_UNUSED(urls); }
+
+  QVariantList menuItems() const;
+  QPointF menuPosition() const { return menuPosition_; }
+  // The menu drawn inside: the item chosen, and where the view laid it out (it takes the pointer
+  // there too).
+  Q_INVOKABLE void chooseMenuItem(int index);
+  Q_INVOKABLE void setMenuArea(const QRectF& area);
+  void closeMenu();
 
   // Moves the window to the display that `geometry` describes.
   void place(const NotchGeometry& geometry, const ScreenCoordinates& coordinates, QScreen* screen);
@@ -101,6 +114,7 @@ class NotchWindow : public QQuickView {
   void placementChanged();
   void expandedChanged(bool expanded);
   void presentedChanged(bool shown);
+  void menuChanged();
   // A swipe on the notch, whichever way; up and down have opened or closed it already.
   void swiped(SwipeDirection direction);
 
@@ -108,6 +122,8 @@ class NotchWindow : public QQuickView {
   bool event(QEvent* event) override;
   // Where the pointer is, in global coordinates, for the level that shows on its display.
   virtual QPoint pointerPosition() const;
+  // Whether the context menu is drawn inside the notch rather than as a menu window.
+  virtual bool drawsMenuInside() const { return false; }
 
  private:
   NotchWindow(ActivityCenter& activities, SettingsStore& settings, NotchContent& content,
@@ -123,6 +139,7 @@ class NotchWindow : public QQuickView {
   void releasePull();
   void updateShape();
   bool handleMouse(QEvent* event);
+  void openMenuInside(const QPointF& at);
   bool handleDrag(QEvent* event);
   void handleWheel(const QWheelEvent& wheel);
   void swipe(SwipeDirection direction);
@@ -142,6 +159,9 @@ class NotchWindow : public QQuickView {
   bool mouseDragGestures_ = false;
   bool blurBehind_ = false;
   QPointer<QMenu> contextMenu_;
+  QList<QPointer<QAction>> menuActions_;  // the menu drawn inside, while it is open
+  QPointF menuPosition_;
+  QRectF menuArea_;
 
   bool animated_ = true;
   bool pointerInside_ = false;

@@ -144,4 +144,8 @@ Item {
             }
         }
     }
+
+    NotchMenu {
+        notch: root.notch
+    }
 }

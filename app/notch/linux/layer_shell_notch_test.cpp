@@ -227,5 +227,25 @@ TEST_F(LayerShellNotchTest, AFileDroppedOnTheNotchLandsInTheTray) {
       << "the tray keeps it";
 }
 
+TEST_F(LayerShellNotchTest, ItsMenuIsDrawnInsideTheNotchAndOpensWhatIsChosen) {
+  // No tray here, so a right click on the notch offers the shell menu. A menu window would be
+  // tiled like any other; the notch draws it inside its own surface instead.
+  TestPointer pointer;
+  ASSERT_TRUE(pointer.send(QStringLiteral("move 960 8")));
+  ASSERT_TRUE(pointer.send(QStringLiteral("right-press")));
+  ASSERT_TRUE(pointer.send(QStringLiteral("right-release")));
+  // The second item, Diagnostics…, hangs 24 px below the first, just under the click.
+  ASSERT_TRUE(pointer.send(QStringLiteral("move 1010 52")));
+  ASSERT_TRUE(pointer.send(QStringLiteral("press")));
+  ASSERT_TRUE(pointer.send(QStringLiteral("release")));
+  EXPECT_TRUE(QTest::qWaitFor(
+      [&] {
+        const auto focused = sway_.focusedWindow();
+        return focused && focused->value("name").toString() == "Tindra Diagnostics";
+      },
+      3000));
+  sway_.command(QStringLiteral("[title=\"Tindra Diagnostics\"] kill"));
+}
+
 }  // namespace
 }  // namespace tindra

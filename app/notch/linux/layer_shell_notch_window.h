@@ -44,6 +44,9 @@ class LayerShellNotchWindow final : public NotchWindow {
 
  protected:
   QPoint pointerPosition() const override;
+  // A menu window would be a window of Qt's, which the compositor places as it likes (tiled,
+  // full screen); inside the layer surface it stays by the notch.
+  bool drawsMenuInside() const override { return true; }
 
  private:
   void createSurface();
