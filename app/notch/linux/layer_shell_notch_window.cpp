@@ -71,7 +71,12 @@ LayerShellNotchWindow::LayerShellNotchWindow(WaylandConnection& connection,
   });
 }
 
+// The scene is taken down by the base class, after this part is gone; what it says meanwhile
+// (scene changes, a smaller window) must not reach this part.
 LayerShellNotchWindow::~LayerShellNotchWindow() {
+  disconnect(renderControl(), nullptr, this, nullptr);
+  disconnect(this, nullptr, this, nullptr);
+  disconnect(&connection_, nullptr, this, nullptr);
   destroySurface();
 }
 
