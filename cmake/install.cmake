@@ -6,8 +6,11 @@ include(GNUInstallDirs)
 
 install(TARGETS tindra RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}")
 install(TARGETS tindra-mpris-adapter RUNTIME DESTINATION "${CMAKE_INSTALL_LIBEXECDIR}/tindra")
-install(FILES "${PROJECT_SOURCE_DIR}/packaging/com.brenvik.Tindra.desktop"
-  DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(CODE "set(tindra_desktop_entry \"${PROJECT_SOURCE_DIR}/packaging/com.brenvik.Tindra.desktop\")
+  set(tindra_staging_dir \"${PROJECT_BINARY_DIR}\")
+  set(tindra_bindir \"${CMAKE_INSTALL_BINDIR}\")
+  set(tindra_datadir \"${CMAKE_INSTALL_DATADIR}\")")
+install(SCRIPT "${PROJECT_SOURCE_DIR}/cmake/install_desktop_entry.cmake")
 install(FILES "${PROJECT_SOURCE_DIR}/packaging/com.brenvik.Tindra.svg"
   DESTINATION "${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps")
 

@@ -22,10 +22,11 @@ const org_kde_plasma_window_management_listener PlasmaWindowVisibilitySource::ma
     .show_desktop_changed = [](void*, org_kde_plasma_window_management*, std::uint32_t) {},
     .window = [](void* data, org_kde_plasma_window_management*,
                  std::uint32_t id) { self(data).add(id); },
-    // Never sent at the version bound.
-    .stacking_order_changed = nullptr,
-    .stacking_order_uuid_changed = nullptr,
-    .window_with_uuid = nullptr,
+    // Newer than the version bound, but KWin 5.27 sends window events past it (below) and a null
+    // listener aborts the program, so each has one that ignores it.
+    .stacking_order_changed = [](void*, org_kde_plasma_window_management*, wl_array*) {},
+    .stacking_order_uuid_changed = [](void*, org_kde_plasma_window_management*, const char*) {},
+    .window_with_uuid = [](void*, org_kde_plasma_window_management*, std::uint32_t, const char*) {},
 };
 
 const org_kde_plasma_window_listener PlasmaWindowVisibilitySource::windowListener = {
@@ -59,13 +60,14 @@ const org_kde_plasma_window_listener PlasmaWindowVisibilitySource::windowListene
         },
     .icon_changed = [](void*, org_kde_plasma_window*) {},
     .pid_changed = [](void*, org_kde_plasma_window*, std::uint32_t) {},
-    // Never sent at the version bound.
-    .virtual_desktop_entered = nullptr,
-    .virtual_desktop_left = nullptr,
-    .application_menu = nullptr,
-    .activity_entered = nullptr,
-    .activity_left = nullptr,
-    .resource_name_changed = nullptr,
+    // KWin 5.27 sends virtual_desktop_entered to a window of version 6, which has no such
+    // event yet; a null listener there aborted Tindra on its first window.
+    .virtual_desktop_entered = [](void*, org_kde_plasma_window*, const char*) {},
+    .virtual_desktop_left = [](void*, org_kde_plasma_window*, const char*) {},
+    .application_menu = [](void*, org_kde_plasma_window*, const char*, const char*) {},
+    .activity_entered = [](void*, org_kde_plasma_window*, const char*) {},
+    .activity_left = [](void*, org_kde_plasma_window*, const char*) {},
+    .resource_name_changed = [](void*, org_kde_plasma_window*, const char*) {},
 };
 
 std::unique_ptr<PlasmaWindowVisibilitySource> PlasmaWindowVisibilitySource::make(
