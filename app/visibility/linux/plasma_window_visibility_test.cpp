@@ -1,24 +1,21 @@
 // Runs in: private-session --kwin
 // Tindra as a user meets it on a Plasma desktop: the built program on a headless KWin, granted
 // KWin's window list by its desktop entry as an installed Tindra is, its notch a layer surface
-// that steps aside for a window of this test going full screen and comes back when it leaves.
+// that steps aside for a window started full screen and comes back when it is gone.
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QPainter>
 #include <QProcess>
-#include <QRasterWindow>
+#include <QTemporaryDir>
 #include <QTest>
 
 #include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
 namespace {
-
-const QColor windowColour(0xc0, 0x40, 0x00);
 
 // KWin tells a program by the desktop entry whose Exec is its absolute path; the session's HOME
 // is fresh, so entries written here are the only ones of their name.
@@ -36,14 +33,6 @@ void installDesktopEntry(const QString& name, QByteArray entry, const QString& p
   ASSERT_TRUE(file.open(QIODevice::WriteOnly));
   file.write(entry);
 }
-
-// A plain window of one colour.
-class ColourWindow final : public QRasterWindow {
- protected:
-  void paintEvent(QPaintEvent*) override {
-    QPainter(this).fillRect(QRect(QPoint(), size()), windowColour);
-  }
-};
 
 class PlasmaWindowVisibilityTest : public ::testing::Test {
  protected:
@@ -103,18 +92,22 @@ TEST_F(PlasmaWindowVisibilityTest, TheNotchIsALayerSurfaceFollowingKWinsWindowLi
 }
 
 TEST_F(PlasmaWindowVisibilityTest, StepsAsideForAFullScreenWindowAndComesBackWhenItLeaves) {
-  ColourWindow window;
-  window.resize(800, 600);
-  window.show();
-  ASSERT_TRUE(QTest::qWaitForWindowExposed(&window));
-
+  // A window of another program's, full screen from its start: Qt's QML runtime showing one.
+  QTemporaryDir dir;
+  QFile scene(dir.filePath(QStringLiteral("full-screen.qml")));
+  ASSERT_TRUE(scene.open(QIODevice::WriteOnly));
+  scene.write("import QtQuick\nWindow { visibility: Window.FullScreen; color: \"#c04000\" }\n");
+  scene.close();
   const qsizetype before = log().size();
-  window.showFullScreen();
+  QProcess window;
+  window.start(QStringLiteral("/usr/lib/qt6/bin/qml"), {scene.fileName()});
+  ASSERT_TRUE(window.waitForStarted());
   EXPECT_TRUE(waitForLog(QStringLiteral("the notch steps aside: fullScreen"), before))
       << log().mid(before).toStdString();
 
   const qsizetype aside = log().size();
-  window.showNormal();
+  window.terminate();
+  window.waitForFinished(3000);
   EXPECT_TRUE(waitForLog(QStringLiteral("the notch shows"), aside))
       << log().mid(aside).toStdString();
 }
