@@ -17,6 +17,8 @@ int main(int argc, char* argv[]) {
     arguments.insert(arguments.begin() + 1, {platform, offscreen});
   }
   int count = static_cast<int>(arguments.size());
+  // GoogleTest moves the list's end marker along when it takes its flags out.
+  arguments.push_back(nullptr);
   QApplication app(count, arguments.data());
   QApplication::setQuitOnLastWindowClosed(false);
   ::testing::InitGoogleTest(&count, arguments.data());
