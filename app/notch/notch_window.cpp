@@ -156,9 +156,7 @@ void NotchWindow::closeMenu() {
 }
 
 void NotchWindow::present(bool shown) {
-  if (shown == isPresented()) return;
   setVisible(shown);
-  emit presentedChanged(shown);
 }
 
 QPoint NotchWindow::pointerPosition() const {
@@ -410,8 +408,9 @@ void NotchWindow::updateShape() {
   shape_.body = QRectF(left, 0, bodyWidth, std::min<double>(height, this->height()));
   shape_.bottomRadius = lerp(std::min(10.0, layout_.notchRect.height() / 3), 26, openProgress_);
   shape_.flareRadius = flare;
-  // An open menu takes the pointer where it is drawn, inside the notch's window or not.
-  setMask(menuActions_.isEmpty() ? shape_.region() : shape_.region() | menuArea_.toAlignedRect());
+  // An open menu takes the pointer where it is drawn, inside the notch's window or not (its area
+  // is empty while it is closed).
+  setMask(shape_.region() | menuArea_.toAlignedRect());
   emit shapeChanged();
 }
 

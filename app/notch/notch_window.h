@@ -60,7 +60,7 @@ class NotchWindow : public QQuickView {
               Rendering rendering = Rendering::window);
   ~NotchWindow() override;
 
-  // Shows or hides the notch; an offscreen one's driver follows presentedChanged.
+  // Shows or hides the notch; an offscreen one's driver shows its own surface.
   virtual void present(bool shown);
   virtual bool isPresented() const { return isVisible(); }
   // Null unless rendering offscreen.
@@ -113,7 +113,6 @@ class NotchWindow : public QQuickView {
   void shapeChanged();
   void placementChanged();
   void expandedChanged(bool expanded);
-  void presentedChanged(bool shown);
   void menuChanged();
   // A swipe on the notch, whichever way; up and down have opened or closed it already.
   void swiped(SwipeDirection direction);

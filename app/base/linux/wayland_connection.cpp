@@ -160,8 +160,8 @@ void WaylandConnection::announce(std::uint32_t name, const char* interface, std:
     addOutput(name, version);
   } else if (named(interface, wl_seat_interface) && !seat_) {
     // One seat is enough for a pointer over the notch; desktops with more are rare.
-    seat_ = std::make_unique<WaylandSeat>(
-        *this, static_cast<wl_seat*>(bindAt(wl_seat_interface, 5)), std::min(version, 5u));
+    seat_ =
+        std::make_unique<WaylandSeat>(*this, static_cast<wl_seat*>(bindAt(wl_seat_interface, 5)));
   }
 }
 
@@ -202,14 +202,6 @@ void* WaylandConnection::bind(const wl_interface& interface, std::uint32_t maxVe
                           std::min(global->version, maxVersion));
 }
 
-std::vector<const WaylandConnection::Output*> WaylandConnection::outputs() const {
-  std::vector<const Output*> named;
-  for (const auto& output : outputs_) {
-    if (!output->name.isEmpty()) named.push_back(output.get());
-  }
-  return named;
-}
-
 const WaylandConnection::Output* WaylandConnection::output(const QString& name) const {
   for (const auto& output : outputs_) {
     if (output->name == name) return output.get();
@@ -244,7 +236,6 @@ void WaylandConnection::checkError() {
   if (lost_ || wl_display_get_error(display_) == 0) return;
   lost_ = true;
   notifier_->setEnabled(false);
-  emit lost();
 }
 
 }  // namespace tindra

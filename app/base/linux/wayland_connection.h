@@ -59,7 +59,6 @@ class WaylandConnection final : public QObject {
 
   // False when the compositor could not be reached or has closed the connection since.
   bool isOpen() const;
-  wl_display* display() const { return display_; }
   wl_compositor* compositor() const { return compositor_; }
   wl_shm* shm() const { return shm_; }
   zwlr_layer_shell_v1* layerShell() const { return layerShell_; }
@@ -71,8 +70,6 @@ class WaylandConnection final : public QObject {
   // compositor has none.
   void* bind(const wl_interface& interface, std::uint32_t maxVersion);
 
-  // The outputs whose name is known, in the order they came.
-  std::vector<const Output*> outputs() const;
   const Output* output(const QString& name) const;
   const Output* output(const wl_output* output) const;
 
@@ -81,8 +78,6 @@ class WaylandConnection final : public QObject {
 
  signals:
   void outputsChanged();
-  // The compositor closed the connection (it quit or found a protocol error).
-  void lost();
 
  private:
   struct Global {
@@ -115,7 +110,7 @@ class WaylandConnection final : public QObject {
   std::vector<std::unique_ptr<Output>> outputs_;
   std::unique_ptr<QSocketNotifier> notifier_;
   QMetaObject::Connection flushBeforeSleep_;
-  bool lost_ = false;
+  bool lost_ = false;  // the compositor closed the connection (it quit or found a protocol error)
 };
 
 }  // namespace tindra

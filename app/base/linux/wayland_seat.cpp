@@ -149,7 +149,7 @@ const wl_data_source_listener WaylandSeat::sourceListener = {
     .action = [](void*, wl_data_source*, std::uint32_t) {},
 };
 
-WaylandSeat::WaylandSeat(WaylandConnection& connection, wl_seat* seat, std::uint32_t)
+WaylandSeat::WaylandSeat(WaylandConnection& connection, wl_seat* seat)
     : connection_(connection), seat_(seat) {
   wl_seat_add_listener(seat_, &seatListener, this);
   if (connection_.dataDeviceManager() != nullptr) {
@@ -294,7 +294,6 @@ void WaylandSeat::dragEnter(std::uint32_t serial, wl_surface* surface, QPointF p
   if (offer == nullptr) return;  // a drag inside another program's own windows
   dragged_ = pending_.offer == offer ? std::exchange(pending_, {}) : Offer{offer, {}};
   dragWindow_ = routes_.value(surface);
-  dragSerial_ = serial;
   const bool files = dragged_.types.contains(uriList);
   wl_data_offer_accept(offer, serial, files && dragWindow_ ? "text/uri-list" : nullptr);
   if (wl_proxy_get_version(reinterpret_cast<wl_proxy*>(offer)) >= 3) {

@@ -36,7 +36,7 @@ class WaylandSeat final : public QObject {
   Q_OBJECT
 
  public:
-  WaylandSeat(WaylandConnection& connection, wl_seat* seat, std::uint32_t version);
+  WaylandSeat(WaylandConnection& connection, wl_seat* seat);
   ~WaylandSeat() override;
 
   // Events on `surface` go to `window`, with positions in its coordinates, while it lives.
@@ -46,7 +46,6 @@ class WaylandSeat final : public QObject {
   // Starts dragging `urls` out of `origin` with the button pressed last, for any program that
   // takes files; false when the compositor has no drag and drop or no press to start from.
   bool startFileDrag(wl_surface* origin, const QList<QUrl>& urls);
-  wl_seat* get() const { return seat_; }
 
  private:
   struct Offer {
@@ -101,7 +100,6 @@ class WaylandSeat final : public QObject {
   Offer dragged_;
   QPointer<QWindow> dragWindow_;
   QPointF dragPosition_;
-  std::uint32_t dragSerial_ = 0;
   std::unique_ptr<PipeReader> dropReader_;
   wl_data_source* dragSource_ = nullptr;  // a drag of ours, until it ends
   QByteArray draggedUris_;

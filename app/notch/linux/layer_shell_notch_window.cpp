@@ -88,7 +88,6 @@ void LayerShellNotchWindow::present(bool shown) {
   } else {
     destroySurface();
   }
-  emit presentedChanged(shown);
 }
 
 void LayerShellNotchWindow::dragFilesOut(const QList<QUrl>& urls) {
@@ -150,7 +149,6 @@ void LayerShellNotchWindow::destroySurface() {
     wl_surface_destroy(std::exchange(surface_, nullptr));
   }
   configured_ = false;
-  framed_ = false;
   frameSoon_.stop();
   connection_.flush();
 }
@@ -205,7 +203,6 @@ void LayerShellNotchWindow::renderFrame() {
 
 void LayerShellNotchWindow::frameDone() {
   wl_callback_destroy(std::exchange(frameCallback_, nullptr));
-  framed_ = true;
   // Whatever changed since the last frame is drawn now; an idle scene asked for nothing.
   if (std::exchange(changedSinceFrame_, false)) renderFrame();
 }

@@ -39,8 +39,6 @@ class LayerShellNotchWindow final : public NotchWindow {
   // Qt's drag needs a window of Qt's own to start from.
   bool dragsFilesItself() const override { return true; }
   void dragFilesOut(const QList<QUrl>& urls) override;
-  // Whether the compositor has shown a frame of it since it was last presented.
-  bool hasFramed() const { return framed_; }
 
  protected:
   QPoint pointerPosition() const override;
@@ -69,7 +67,6 @@ class LayerShellNotchWindow final : public NotchWindow {
   zwlr_layer_surface_v1* layer_ = nullptr;
   wl_callback* frameCallback_ = nullptr;
   bool configured_ = false;
-  bool framed_ = false;
   bool inputChanged_ = true;
   bool changedSinceFrame_ = false;
   QTimer frameSoon_;  // gathers a burst of scene changes into one frame
