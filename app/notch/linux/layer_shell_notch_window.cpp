@@ -62,7 +62,10 @@ LayerShellNotchWindow::LayerShellNotchWindow(WaylandConnection& connection,
     // A layer surface stays on the output it was made for; another display needs a new one.
     const WaylandConnection::Output* output =
         screen() ? connection_.output(screen()->name()) : nullptr;
-    if (layer_ && (output == nullptr || output->geometry.isEmpty())) destroySurface();
+    if (layer_ &&
+        (output == nullptr || output->output != surfaceOutput_ || output->geometry.isEmpty())) {
+      destroySurface();
+    }
     if (layer_) configureSurface();
     if (shown_ && !layer_) createSurface();
   });
@@ -105,6 +108,7 @@ void LayerShellNotchWindow::createSurface() {
   if (layer_ || screen() == nullptr || !connection_.isOpen() || !connection_.layerShell()) return;
   const WaylandConnection::Output* output = connection_.output(screen()->name());
   if (output == nullptr) return;  // not announced on this connection yet: outputsChanged brings it
+  surfaceOutput_ = output->output;
   surface_ = wl_compositor_create_surface(connection_.compositor());
   layer_ = zwlr_layer_shell_v1_get_layer_surface(connection_.layerShell(), surface_, output->output,
                                                  ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY, "tindra-notch");

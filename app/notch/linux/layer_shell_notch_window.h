@@ -15,6 +15,7 @@
 
 #include "notch/notch_window.h"
 
+struct wl_output;
 struct wl_surface;
 struct wl_callback;
 struct zwlr_layer_surface_v1;
@@ -65,6 +66,7 @@ class LayerShellNotchWindow final : public NotchWindow {
   bool shown_ = false;
   wl_surface* surface_ = nullptr;
   zwlr_layer_surface_v1* layer_ = nullptr;
+  wl_output* surfaceOutput_ = nullptr;  // the output the layer surface was made for
   wl_callback* frameCallback_ = nullptr;
   bool configured_ = false;
   bool inputChanged_ = true;
