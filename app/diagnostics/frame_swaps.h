@@ -4,6 +4,8 @@
 
 #include <QGuiApplication>
 #include <QQuickWindow>
+#include <chrono>
+#include <cstdio>
 #include <functional>
 
 namespace tindra {
@@ -14,6 +16,16 @@ inline void onEveryFrameSwap(const std::function<void()>& swapped) {
       QObject::connect(quick, &QQuickWindow::frameSwapped, quick, swapped, Qt::DirectConnection);
     }
   }
+}
+
+// Prints "`label`: N" on standard output, N being the wall-clock microseconds since 1970, which
+// scripts/measure sets against the moment it acted from outside.
+inline void printWallClockStamp(const char* label) {
+  const auto now = std::chrono::system_clock::now().time_since_epoch();
+  std::printf(
+      "%s: %lld\n", label,
+      static_cast<long long>(std::chrono::duration_cast<std::chrono::microseconds>(now).count()));
+  std::fflush(stdout);
 }
 
 }  // namespace tindra

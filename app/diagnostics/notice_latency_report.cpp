@@ -1,8 +1,6 @@
 #include "diagnostics/notice_latency_report.h"
 
 #include <atomic>
-#include <chrono>
-#include <cstdio>
 #include <memory>
 
 #include "base/activity_center.h"
@@ -20,12 +18,7 @@ void reportNoticeLatencyIfAsked(const ActivityCenter& activities) {
                      }
                    });
   onEveryFrameSwap([pending] {
-    if (!pending->exchange(false)) return;
-    const auto now = std::chrono::system_clock::now().time_since_epoch();
-    std::printf(
-        "notice on screen: %lld\n",
-        static_cast<long long>(std::chrono::duration_cast<std::chrono::microseconds>(now).count()));
-    std::fflush(stdout);
+    if (pending->exchange(false)) printWallClockStamp("notice on screen");
   });
 }
 
