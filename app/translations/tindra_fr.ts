@@ -5,1379 +5,1379 @@
     <name>AccessoriesPanel</name>
     <message>
         <source>Accessories</source>
-        <translation type="unfinished"></translation>
+        <translation>Accessoires</translation>
     </message>
     <message>
         <source>No battery reported</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune batterie signalée</translation>
     </message>
     <message>
         <source>L</source>
-        <translation type="unfinished"></translation>
+        <translation>G</translation>
     </message>
     <message>
         <source>R</source>
-        <translation type="unfinished"></translation>
+        <translation>D</translation>
     </message>
     <message>
         <source>Case</source>
-        <translation type="unfinished"></translation>
+        <translation>Boîtier</translation>
     </message>
 </context>
 <context>
     <name>AccessoryBatteryRings</name>
     <message>
         <source>L</source>
-        <translation type="unfinished"></translation>
+        <translation>G</translation>
     </message>
     <message>
         <source>R</source>
-        <translation type="unfinished"></translation>
+        <translation>D</translation>
     </message>
     <message>
         <source>C</source>
-        <translation type="unfinished"></translation>
+        <translation>B</translation>
     </message>
 </context>
 <context>
     <name>AccessoryCompact</name>
     <message>
         <source>Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauche</translation>
     </message>
     <message>
         <source>Right</source>
-        <translation type="unfinished"></translation>
+        <translation>Droite</translation>
     </message>
     <message>
         <source>Case</source>
-        <translation type="unfinished"></translation>
+        <translation>Boîtier</translation>
     </message>
     <message>
         <source>Disconnected</source>
-        <translation type="unfinished"></translation>
+        <translation>Déconnecté</translation>
     </message>
     <message>
         <source>Playing on %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture sur %1</translation>
     </message>
     <message>
         <source>Connected</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecté</translation>
     </message>
 </context>
 <context>
     <name>Autostart</name>
     <message>
         <source>could not remove %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de supprimer %1 : %2</translation>
     </message>
 </context>
 <context>
     <name>Backends</name>
     <message>
         <source>no session bus: no calls or messages are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de bus de session : aucun appel ni message n’est affiché</translation>
     </message>
     <message>
         <source>no session bus: do-not-disturb is unknown, only `tindra focus` shows a Focus</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de bus de session : « Ne pas déranger » est inconnu, seul `tindra focus` affiche une Concentration</translation>
     </message>
     <message>
         <source>no system bus (%1): the keyboard light keys stay with the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de bus système (%1) : les touches d’éclairage du clavier restent au bureau</translation>
     </message>
     <message>
         <source>a Wayland session lets no program take the keys: the desktop keeps them, and the level changes it makes are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>une session Wayland ne laisse aucun programme prendre les touches : le bureau les garde, et les changements de niveau qu’il fait sont affichés</translation>
     </message>
     <message>
         <source>no X11 display (%1): the keys stay with the desktop, and the level changes it makes are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>pas d’affichage X11 (%1) : les touches restent au bureau, et les changements de niveau qu’il fait sont affichés</translation>
     </message>
     <message>
         <source>the notch is an X11 window</source>
-        <translation type="unfinished"></translation>
+        <translation>l’encoche est une fenêtre X11</translation>
     </message>
     <message>
         <source>the notch is a layer surface on the Wayland compositor</source>
-        <translation type="unfinished"></translation>
+        <translation>l’encoche est une surface layer-shell du compositeur Wayland</translation>
     </message>
     <message>
         <source>TINDRA_PLATFORM asks for Wayland, but the compositor offers no layer shell: the notch is an X11 window through XWayland</source>
-        <translation type="unfinished"></translation>
+        <translation>TINDRA_PLATFORM demande Wayland, mais le compositeur n’offre pas de layer shell : l’encoche est une fenêtre X11 via XWayland</translation>
     </message>
     <message>
         <source>the Wayland compositor offers no layer shell (GNOME&apos;s has none): the notch is an X11 window through XWayland, above other X11 windows but not always above Wayland ones</source>
-        <translation type="unfinished"></translation>
+        <translation>le compositeur Wayland n’offre pas de layer shell (celui de GNOME n’en a pas) : l’encoche est une fenêtre X11 via XWayland, au-dessus des autres fenêtres X11 mais pas toujours des fenêtres Wayland</translation>
     </message>
     <message>
         <source>TINDRA_PLATFORM asks for X11: the notch is an X11 window</source>
-        <translation type="unfinished"></translation>
+        <translation>TINDRA_PLATFORM demande X11 : l’encoche est une fenêtre X11</translation>
     </message>
     <message>
         <source>no system bus (%1): no battery is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de bus système (%1) : aucune batterie n’est affichée</translation>
     </message>
     <message>
         <source>no system bus (%1): no accessories are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de bus système (%1) : aucun accessoire n’est affiché</translation>
     </message>
     <message>
         <source>the Wayland compositor lists no windows to other programs (neither wlr foreign toplevel nor Plasma window management): the notch never steps aside for full-screen windows or games</source>
-        <translation type="unfinished"></translation>
+        <translation>le compositeur Wayland ne liste pas ses fenêtres aux autres programmes (ni wlr foreign toplevel ni Plasma window management) : l’encoche ne s’efface jamais devant les fenêtres en plein écran ou les jeux</translation>
     </message>
     <message>
         <source>no X11 window manager to ask (%1): the notch never steps aside for full-screen windows or games</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun gestionnaire de fenêtres X11 à interroger (%1) : l’encoche ne s’efface jamais devant les fenêtres en plein écran ou les jeux</translation>
     </message>
     <message>
         <source>no system bus (%1): GeoClue cannot be asked</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de bus système (%1) : impossible d’interroger GeoClue</translation>
     </message>
 </context>
 <context>
     <name>BannerPanel</name>
     <message>
         <source>%1 call</source>
-        <translation type="unfinished"></translation>
+        <translation>Appel %1</translation>
     </message>
     <message>
         <source>Missed call · %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Appel manqué · %1</translation>
     </message>
     <message>
         <source>Ringing</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonnerie</translation>
     </message>
 </context>
 <context>
     <name>BatteriesPanel</name>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Charged</source>
-        <translation type="unfinished"></translation>
+        <translation>Chargée</translation>
     </message>
     <message>
         <source>Charging</source>
-        <translation type="unfinished"></translation>
+        <translation>En charge</translation>
     </message>
     <message>
         <source>%1 to full</source>
-        <translation type="unfinished"></translation>
+        <translation>Pleine dans %1</translation>
     </message>
     <message>
         <source>On power</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur secteur</translation>
     </message>
     <message>
         <source>On battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Sur batterie</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste %1</translation>
     </message>
     <message>
         <source>Low Power Mode is on</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode économie d’énergie activé</translation>
     </message>
 </context>
 <context>
     <name>BatteryCompact</name>
     <message>
         <source>Low</source>
-        <translation type="unfinished"></translation>
+        <translation>Faible</translation>
     </message>
 </context>
 <context>
     <name>CalendarPanel</name>
     <message>
         <source>Today</source>
-        <translation type="unfinished"></translation>
+        <translation>Aujourd’hui</translation>
     </message>
     <message>
         <source>Nothing else today</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus rien aujourd’hui</translation>
     </message>
     <message>
         <source>Reminders</source>
-        <translation type="unfinished"></translation>
+        <translation>Rappels</translation>
     </message>
 </context>
 <context>
     <name>CallCompact</name>
     <message>
         <source>Ringing</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonnerie</translation>
     </message>
 </context>
 <context>
     <name>FileTrayPanel</name>
     <message>
         <source>File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Plateau de fichiers</translation>
     </message>
     <message>
         <source>Remove All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout retirer</translation>
     </message>
     <message>
         <source>Stop</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter</translation>
     </message>
     <message>
         <source>This file was moved to a place Tindra cannot find, or deleted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier a été déplacé à un endroit que Tindra ne trouve pas, ou supprimé.</translation>
     </message>
     <message>
         <source>Remove from the tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer du plateau</translation>
     </message>
     <message>
         <source>Click to open, or drag to use this file</source>
-        <translation type="unfinished"></translation>
+        <translation>Cliquez pour ouvrir, ou faites glisser pour utiliser ce fichier</translation>
     </message>
 </context>
 <context>
     <name>HudPanel</name>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité</translation>
     </message>
     <message>
         <source>Keyboard light</source>
-        <translation type="unfinished"></translation>
+        <translation>Éclairage clavier</translation>
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
 </context>
 <context>
     <name>JoinButton</name>
     <message>
         <source>Join</source>
-        <translation type="unfinished"></translation>
+        <translation>Rejoindre</translation>
     </message>
     <message>
         <source>Join %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Rejoindre %1</translation>
     </message>
 </context>
 <context>
     <name>Notch</name>
     <message>
         <source>Now Playing</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’écoute</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendrier</translation>
     </message>
     <message>
         <source>Focus</source>
-        <translation type="unfinished"></translation>
+        <translation>Concentration</translation>
     </message>
     <message>
         <source>AirDrop</source>
-        <translation type="unfinished"></translation>
+        <translation>AirDrop</translation>
     </message>
     <message>
         <source>Message</source>
-        <translation type="unfinished"></translation>
+        <translation>Message</translation>
     </message>
     <message>
         <source>Accessory</source>
-        <translation type="unfinished"></translation>
+        <translation>Accessoire</translation>
     </message>
     <message>
         <source>Battery</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie</translation>
     </message>
     <message>
         <source>Level</source>
-        <translation type="unfinished"></translation>
+        <translation>Niveau</translation>
     </message>
     <message>
         <source>Call</source>
-        <translation type="unfinished"></translation>
+        <translation>Appel</translation>
     </message>
 </context>
 <context>
     <name>PinnedSectionsEditor</name>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendrier</translation>
     </message>
     <message>
         <source>File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Plateau de fichiers</translation>
     </message>
     <message>
         <source>Now Playing</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’écoute</translation>
     </message>
     <message>
         <source>Batteries</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteries</translation>
     </message>
     <message>
         <source>Weather</source>
-        <translation type="unfinished"></translation>
+        <translation>Météo</translation>
     </message>
 </context>
 <context>
     <name>QObject</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Dégagé</translation>
     </message>
     <message>
         <source>Fair</source>
-        <translation type="unfinished"></translation>
+        <translation>Beau temps</translation>
     </message>
     <message>
         <source>Partly cloudy</source>
-        <translation type="unfinished"></translation>
+        <translation>Partiellement nuageux</translation>
     </message>
     <message>
         <source>Cloudy</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuageux</translation>
     </message>
     <message>
         <source>Fog</source>
-        <translation type="unfinished"></translation>
+        <translation>Brouillard</translation>
     </message>
     <message>
         <source>Light rain</source>
-        <translation type="unfinished"></translation>
+        <translation>Pluie faible</translation>
     </message>
     <message>
         <source>Rain</source>
-        <translation type="unfinished"></translation>
+        <translation>Pluie</translation>
     </message>
     <message>
         <source>Heavy rain</source>
-        <translation type="unfinished"></translation>
+        <translation>Forte pluie</translation>
     </message>
     <message>
         <source>Rain showers</source>
-        <translation type="unfinished"></translation>
+        <translation>Averses</translation>
     </message>
     <message>
         <source>Thunderstorm</source>
-        <translation type="unfinished"></translation>
+        <translation>Orage</translation>
     </message>
     <message>
         <source>Sleet</source>
-        <translation type="unfinished"></translation>
+        <translation>Neige fondue</translation>
     </message>
     <message>
         <source>Snow</source>
-        <translation type="unfinished"></translation>
+        <translation>Neige</translation>
     </message>
     <message>
         <source>%1 % chance of precipitation</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 % de risque de précipitations</translation>
     </message>
     <message>
         <source>%1 mm in the next %2 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 mm dans les %2 h à venir</translation>
     </message>
     <message>
         <source>No precipitation in the next %1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas de précipitations dans les %1 h à venir</translation>
     </message>
     <message>
         <source>Sunrise %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Lever du soleil %1</translation>
     </message>
     <message>
         <source>Sunset %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Coucher du soleil %1</translation>
     </message>
     <message>
         <source>Midnight sun</source>
-        <translation type="unfinished"></translation>
+        <translation>Soleil de minuit</translation>
     </message>
     <message>
         <source>Polar night</source>
-        <translation type="unfinished"></translation>
+        <translation>Nuit polaire</translation>
     </message>
     <message>
         <source>Travel times are unavailable: no routing service is available on this system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les temps de trajet ne sont pas disponibles : aucun service d’itinéraire n’existe sur ce système.</translation>
     </message>
 </context>
 <context>
     <name>Settings</name>
     <message>
         <source>General</source>
-        <translation type="unfinished"></translation>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Notch</source>
-        <translation type="unfinished"></translation>
+        <translation>Encoche</translation>
     </message>
     <message>
         <source>Now Playing</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’écoute</translation>
     </message>
     <message>
         <source>Indicator</source>
-        <translation type="unfinished"></translation>
+        <translation>Indicateur</translation>
     </message>
     <message>
         <source>Battery and Accessories</source>
-        <translation type="unfinished"></translation>
+        <translation>Batterie et accessoires</translation>
     </message>
     <message>
         <source>Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendrier</translation>
     </message>
     <message>
         <source>Weather</source>
-        <translation type="unfinished"></translation>
+        <translation>Météo</translation>
     </message>
     <message>
         <source>Focus and Banners</source>
-        <translation type="unfinished"></translation>
+        <translation>Concentration et bannières</translation>
     </message>
     <message>
         <source>File Tray</source>
-        <translation type="unfinished"></translation>
+        <translation>Plateau de fichiers</translation>
     </message>
     <message>
         <source>Diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnostic</translation>
     </message>
 </context>
 <context>
     <name>SettingsKeys</name>
     <message>
         <source>The first-run introduction has been seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’introduction du premier lancement a été vue.</translation>
     </message>
     <message>
         <source>Play a sound with notices that have one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jouer le son des avis qui en ont un.</translation>
     </message>
     <message>
         <source>Show Tindra in the tray.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher Tindra dans la zone de notification.</translation>
     </message>
     <message>
         <source>How long notices stay: short, medium or long.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée d’affichage des avis : courte, moyenne ou longue.</translation>
     </message>
     <message>
         <source>Offer test versions when updating.</source>
-        <translation type="unfinished"></translation>
+        <translation>Proposer les versions de test lors des mises à jour.</translation>
     </message>
     <message>
         <source>Draw a notch on displays that have none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessiner une encoche sur les écrans qui n’en ont pas.</translation>
     </message>
     <message>
         <source>Which displays show the notch: all, main, built-in or one by name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Écrans qui affichent l’encoche : tous, principal, intégré ou un écran nommé.</translation>
     </message>
     <message>
         <source>Width in points of a drawn notch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur en points d’une encoche dessinée.</translation>
     </message>
     <message>
         <source>A drawn notch takes the height of the top panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une encoche dessinée prend la hauteur du panneau supérieur.</translation>
     </message>
     <message>
         <source>Height in points of a drawn notch when it does not match the panel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hauteur en points d’une encoche dessinée qui ne suit pas le panneau.</translation>
     </message>
     <message>
         <source>How the notch opens: on hover, on click, or pressed and held.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouverture de l’encoche : au survol, au clic ou par appui prolongé.</translation>
     </message>
     <message>
         <source>Seconds the pointer rests on the notch before it opens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes pendant lesquelles le pointeur reste sur l’encoche avant qu’elle s’ouvre.</translation>
     </message>
     <message>
         <source>Seconds of pressing that open the notch in press-and-hold mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes d’appui qui ouvrent l’encoche en mode appui prolongé.</translation>
     </message>
     <message>
         <source>Panel sections pinned in the opened notch, in order (&quot;media&quot;, &quot;calendar&quot;, &quot;weather&quot;, &quot;batteries&quot;, &quot;fileTray&quot;); empty shows every section with something to show.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sections épinglées dans l’encoche ouverte, dans l’ordre (&quot;media&quot;, &quot;calendar&quot;, &quot;weather&quot;, &quot;batteries&quot;, &quot;fileTray&quot;) ; vide affiche toutes les sections qui ont quelque chose à montrer.</translation>
     </message>
     <message>
         <source>Where the playing track comes from: automatic, or only the player scripts, which exist on a Mac alone (on the desktop that shows nothing).</source>
-        <translation type="unfinished"></translation>
+        <translation>Provenance du morceau en cours : automatique, ou seulement les scripts des lecteurs, qui n’existent que sur Mac (sur ce bureau, rien ne s’affiche).</translation>
     </message>
     <message>
         <source>The system version on which the basic-mode notice was last shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>La version du système sur laquelle l’avis du mode de base a été affiché pour la dernière fois.</translation>
     </message>
     <message>
         <source>Look covers up online when the player gives none.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chercher les pochettes en ligne quand le lecteur n’en fournit pas.</translation>
     </message>
     <message>
         <source>How long a paused track stays shown: short, long or until resumed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée d’affichage d’un morceau en pause : courte, longue ou jusqu’à la reprise.</translation>
     </message>
     <message>
         <source>The progress bar in the standard colour or the cover&apos;s.</source>
-        <translation type="unfinished"></translation>
+        <translation>La barre de progression dans la couleur standard ou celle de la pochette.</translation>
     </message>
     <message>
         <source>Show volume changes in the notch. Option-Shift with a volume or brightness key changes it in smaller steps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les changements de volume dans l’encoche. Option-Maj avec une touche de volume ou de luminosité change par petits pas.</translation>
     </message>
     <message>
         <source>Show brightness changes in the notch. Keys go to the system when the output or display cannot be controlled, or when BetterDisplay handles it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les changements de luminosité dans l’encoche. Les touches vont au système quand la sortie ou l’écran ne peut pas être contrôlé, ou quand BetterDisplay s’en charge.</translation>
     </message>
     <message>
         <source>How the level is drawn: a continuous bar, segments or a ring.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dessin du niveau : barre continue, segments ou anneau.</translation>
     </message>
     <message>
         <source>The level&apos;s colour: white, by level, or the accent colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>Couleur du niveau : blanc, selon le niveau ou couleur d’accentuation.</translation>
     </message>
     <message>
         <source>Seconds the level stays shown after a change.</source>
-        <translation type="unfinished"></translation>
+        <translation>Secondes d’affichage du niveau après un changement.</translation>
     </message>
     <message>
         <source>Play the volume feedback sound where the system does not. Hold Shift while pressing a volume key to do the opposite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jouer le son de retour du volume là où le système ne le fait pas. Maintenez Maj en appuyant sur une touche de volume pour faire l’inverse.</translation>
     </message>
     <message>
         <source>Tell when power is connected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Signaler le branchement de l’alimentation.</translation>
     </message>
     <message>
         <source>Tell when power is disconnected.</source>
-        <translation type="unfinished"></translation>
+        <translation>Signaler le débranchement de l’alimentation.</translation>
     </message>
     <message>
         <source>Warn when the battery runs low.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertir quand la batterie est faible.</translation>
     </message>
     <message>
         <source>Percentage at which the battery counts as low.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage à partir duquel la batterie est considérée comme faible.</translation>
     </message>
     <message>
         <source>Tell when a Bluetooth accessory connects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Signaler la connexion d’un accessoire Bluetooth.</translation>
     </message>
     <message>
         <source>Tell when files arrive from nearby devices.</source>
-        <translation type="unfinished"></translation>
+        <translation>Signaler l’arrivée de fichiers depuis des appareils à proximité.</translation>
     </message>
     <message>
         <source>Warn when an accessory&apos;s battery runs low.</source>
-        <translation type="unfinished"></translation>
+        <translation>Avertir quand la batterie d’un accessoire est faible.</translation>
     </message>
     <message>
         <source>Percentage at which an accessory&apos;s battery counts as low.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pourcentage à partir duquel la batterie d’un accessoire est considérée comme faible.</translation>
     </message>
     <message>
         <source>Tell when sound moves to an accessory.</source>
-        <translation type="unfinished"></translation>
+        <translation>Signaler quand le son passe sur un accessoire.</translation>
     </message>
     <message>
         <source>Tell when a Bluetooth accessory disconnects.</source>
-        <translation type="unfinished"></translation>
+        <translation>Signaler la déconnexion d’un accessoire Bluetooth.</translation>
     </message>
     <message>
         <source>Accessory batteries as a percentage or a ring.</source>
-        <translation type="unfinished"></translation>
+        <translation>Batteries des accessoires en pourcentage ou en anneau.</translation>
     </message>
     <message>
         <source>Show the next meeting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la prochaine réunion.</translation>
     </message>
     <message>
         <source>Minutes before a meeting that it appears.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes avant une réunion où elle apparaît.</translation>
     </message>
     <message>
         <source>Calendars whose events are never shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Calendriers dont les événements ne sont jamais affichés.</translation>
     </message>
     <message>
         <source>The meeting&apos;s time as a countdown, its start time, or both.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’heure de la réunion en compte à rebours, en heure de début, ou les deux.</translation>
     </message>
     <message>
         <source>Hide meeting titles.</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer les titres des réunions.</translation>
     </message>
     <message>
         <source>Play a sound when a meeting is about to start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jouer un son quand une réunion va commencer.</translation>
     </message>
     <message>
         <source>Meetings whose start sound has played, so it plays once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Réunions dont le son de début a déjà été joué, pour qu’il ne le soit qu’une fois.</translation>
     </message>
     <message>
         <source>Show reminders that are due.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les rappels arrivés à échéance.</translation>
     </message>
     <message>
         <source>Count travel time before meetings with a place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Compter le temps de trajet avant les réunions qui ont un lieu.</translation>
     </message>
     <message>
         <source>How you travel to meetings: by car, on foot or by transit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment vous vous rendez aux réunions : en voiture, à pied ou en transports en commun.</translation>
     </message>
     <message>
         <source>Minutes added to the travel time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Minutes ajoutées au temps de trajet.</translation>
     </message>
     <message>
         <source>Show the weather.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher la météo.</translation>
     </message>
     <message>
         <source>Show when a Focus mode is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquer quand un mode Concentration est activé.</translation>
     </message>
     <message>
         <source>Keep a Focus mark on the notch while the Focus lasts.</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder une marque Concentration sur l’encoche tant qu’elle dure.</translation>
     </message>
     <message>
         <source>The Focus filter&apos;s last state, as written by the system.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dernier état du filtre Concentration, tel qu’écrit par le système.</translation>
     </message>
     <message>
         <source>Swipes on the notch control playback.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les balayages sur l’encoche contrôlent la lecture.</translation>
     </message>
     <message>
         <source>Sideways swipes change the track.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un balayage latéral change de morceau.</translation>
     </message>
     <message>
         <source>Give feedback when a swipe is recognised.</source>
-        <translation type="unfinished"></translation>
+        <translation>Donner un retour quand un balayage est reconnu.</translation>
     </message>
     <message>
         <source>Dragging with the mouse works like swiping.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faire glisser avec la souris équivaut à un balayage.</translation>
     </message>
     <message>
         <source>Hide the notch over full-screen windows.</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer l’encoche au-dessus des fenêtres en plein écran.</translation>
     </message>
     <message>
         <source>Hide the notch while a game runs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer l’encoche pendant un jeu.</translation>
     </message>
     <message>
         <source>Applications treated as games, one per line.</source>
-        <translation type="unfinished"></translation>
+        <translation>Applications traitées comme des jeux, une par ligne.</translation>
     </message>
     <message>
         <source>Hide the notch while windows are being arranged.</source>
-        <translation type="unfinished"></translation>
+        <translation>Masquer l’encoche pendant l’organisation des fenêtres.</translation>
     </message>
     <message>
         <source>Keep the notch out of screenshots and recordings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Exclure l’encoche des captures d’écran et des enregistrements.</translation>
     </message>
     <message>
         <source>A translucent opened notch instead of black.</source>
-        <translation type="unfinished"></translation>
+        <translation>Encoche ouverte translucide au lieu de noire.</translation>
     </message>
     <message>
         <source>The opened notch in black and white or in colour.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’encoche ouverte en noir et blanc ou en couleur.</translation>
     </message>
     <message>
         <source>A soft glow around the opened notch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une lueur douce autour de l’encoche ouverte.</translation>
     </message>
     <message>
         <source>A brief flash when the notch opens.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un bref éclair à l’ouverture de l’encoche.</translation>
     </message>
     <message>
         <source>Colourful bars in the live spectrum.</source>
-        <translation type="unfinished"></translation>
+        <translation>Barres colorées dans le spectre en direct.</translation>
     </message>
     <message>
         <source>A thin coloured rim on the closed notch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fin liseré coloré sur l’encoche fermée.</translation>
     </message>
     <message>
         <source>Show a live spectrum of the playing audio.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher un spectre en direct du son en cours.</translation>
     </message>
     <message>
         <source>Show widgets on the lock screen (experimental).</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher des widgets sur l’écran de verrouillage (expérimental).</translation>
     </message>
     <message>
         <source>The lock-screen widgets&apos; background: clear, light frost or frosted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Fond des widgets de l’écran de verrouillage : transparent, légèrement dépoli ou dépoli.</translation>
     </message>
     <message>
         <source>Vertical offset in points of the lock-screen widgets.</source>
-        <translation type="unfinished"></translation>
+        <translation>Décalage vertical en points des widgets de l’écran de verrouillage.</translation>
     </message>
     <message>
         <source>Keep the notch on the lock screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder l’encoche sur l’écran de verrouillage.</translation>
     </message>
     <message>
         <source>The last lock-screen notice, kept to show it once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dernier avis de l’écran de verrouillage, gardé pour ne l’afficher qu’une fois.</translation>
     </message>
     <message>
         <source>The last lock-screen notch notice, kept to show it once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dernier avis d’encoche de l’écran de verrouillage, gardé pour ne l’afficher qu’une fois.</translation>
     </message>
     <message>
         <source>Show keyboard backlight changes (experimental).</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les changements du rétroéclairage du clavier (expérimental).</translation>
     </message>
     <message>
         <source>The system version on which no keyboard backlight was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>La version du système sur laquelle aucun rétroéclairage du clavier n’a été trouvé.</translation>
     </message>
     <message>
         <source>Show incoming calls (experimental).</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les appels entrants (expérimental).</translation>
     </message>
     <message>
         <source>Show incoming messages (experimental).</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les messages entrants (expérimental).</translation>
     </message>
     <message>
         <source>Keep dropped files in a tray (experimental).</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder les fichiers déposés dans un plateau (expérimental).</translation>
     </message>
     <message>
         <source>The tray keeps links to dropped files or copies of them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plateau garde des liens vers les fichiers déposés ou des copies.</translation>
     </message>
     <message>
         <source>Where the playing track comes from: automatic (the desktop&apos;s players), or only the player scripts of a Mac, which show nothing here.</source>
-        <translation type="unfinished"></translation>
+        <translation>Provenance du morceau en cours : automatique (les lecteurs du bureau), ou seulement les scripts des lecteurs d’un Mac, qui n’affichent rien ici.</translation>
     </message>
     <message>
         <source>Show volume changes in the notch. Alt-Shift with a volume or brightness key changes it in smaller steps.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les changements de volume dans l’encoche. Alt+Maj avec une touche de volume ou de luminosité change par petits pas.</translation>
     </message>
     <message>
         <source>Show brightness changes in the notch. Keys go to the desktop when the output or display cannot be controlled.</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher les changements de luminosité dans l’encoche. Les touches vont au bureau quand la sortie ou l’écran ne peut pas être contrôlé.</translation>
     </message>
     <message>
         <source>Play the volume feedback sound where the desktop does not. Hold Shift while pressing a volume key to do the opposite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jouer le son de retour du volume là où le bureau ne le fait pas. Maintenez Maj en appuyant sur une touche de volume pour faire l’inverse.</translation>
     </message>
     <message>
         <source>The Focus filter&apos;s last state, as `tindra focus` wrote it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dernier état du filtre Concentration, tel que `tindra focus` l’a écrit.</translation>
     </message>
     <message>
         <source>Sections pinned in the opened notch: tick them and drag them into order. With none ticked, every section with something to show appears.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sections épinglées dans l’encoche ouverte : cochez-les et faites-les glisser dans l’ordre voulu. Si aucune n’est cochée, toute section qui a quelque chose à montrer apparaît.</translation>
     </message>
 </context>
 <context>
     <name>SettingsNotes</name>
     <message>
         <source>No window can be drawn above the screen locker of a Linux desktop, so there are no lock-screen widgets here; the notch hides while the screen is locked.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune fenêtre ne peut s’afficher au-dessus du verrouillage d’écran d’un bureau Linux : il n’y a donc pas de widgets sur l’écran de verrouillage ici ; l’encoche se masque tant que l’écran est verrouillé.</translation>
     </message>
     <message>
         <source>If this computer ignores Tindra&apos;s changes, the keys go back to the desktop and the notch only shows the level.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si cet ordinateur ignore les changements de Tindra, les touches reviennent au bureau et l’encoche n’affiche que le niveau.</translation>
     </message>
     <message>
         <source>The warning appears once when the battery reaches this level, and again only after charging.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’avertissement apparaît une fois quand la batterie atteint ce niveau, puis seulement après une recharge.</translation>
     </message>
     <message>
         <source>Up to 20 items. Copies take up to 2 GB in total.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jusqu’à 20 éléments. Les copies occupent 2 Go au plus au total.</translation>
     </message>
     <message>
         <source>Links: Tindra remembers where they are; nothing is copied. Copies: Tindra keeps a copy, so they stay usable if the originals go; removing it from the tray deletes the copy, never the original.</source>
-        <translation type="unfinished"></translation>
+        <translation>Liens : Tindra retient où se trouvent les fichiers ; rien n’est copié. Copies : Tindra garde une copie, utilisable même si les originaux disparaissent ; la retirer du plateau supprime la copie, jamais l’original.</translation>
     </message>
     <message>
         <source>A ringing call shows only that it rings; answer it on the desktop&apos;s notification. Messages and missed calls show who and what, with a button that opens the application that sent them. Nothing is stored or sent, and nothing shows while do-not-disturb is on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un appel entrant indique seulement qu’il sonne ; répondez-y depuis la notification du bureau. Les messages et les appels manqués indiquent qui et quoi, avec un bouton qui ouvre l’application d’origine. Rien n’est enregistré ni envoyé, et rien ne s’affiche quand « Ne pas déranger » est activé.</translation>
     </message>
     <message>
         <source>Scroll on the notch with two fingers or the mouse wheel, as if moving a page: down opens it, up closes it, sideways skips tracks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites défiler sur l’encoche avec deux doigts ou la molette, comme pour déplacer une page : vers le bas pour l’ouvrir, vers le haut pour la fermer, sur le côté pour changer de morceau.</translation>
     </message>
     <message>
         <source>Drag the closed notch down to open it, or sideways to skip tracks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faites glisser l’encoche fermée vers le bas pour l’ouvrir, ou sur le côté pour changer de morceau.</translation>
     </message>
     <message>
         <source>The desktop shows through where the window manager draws windows translucent; elsewhere the glass is dark grey.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le bureau transparaît là où le gestionnaire de fenêtres dessine les fenêtres translucides ; ailleurs, le verre est gris foncé.</translation>
     </message>
 </context>
 <context>
     <name>SettingsValues</name>
     <message>
         <source>monochrome</source>
-        <translation type="unfinished"></translation>
+        <translation>monochrome</translation>
     </message>
     <message>
         <source>colorful</source>
-        <translation type="unfinished"></translation>
+        <translation>en couleur</translation>
     </message>
     <message>
         <source>hover</source>
-        <translation type="unfinished"></translation>
+        <translation>au survol</translation>
     </message>
     <message>
         <source>click</source>
-        <translation type="unfinished"></translation>
+        <translation>au clic</translation>
     </message>
     <message>
         <source>press and hold</source>
-        <translation type="unfinished"></translation>
+        <translation>appui prolongé</translation>
     </message>
     <message>
         <source>short</source>
-        <translation type="unfinished"></translation>
+        <translation>courte</translation>
     </message>
     <message>
         <source>medium</source>
-        <translation type="unfinished"></translation>
+        <translation>moyenne</translation>
     </message>
     <message>
         <source>long</source>
-        <translation type="unfinished"></translation>
+        <translation>longue</translation>
     </message>
     <message>
         <source>white</source>
-        <translation type="unfinished"></translation>
+        <translation>blanc</translation>
     </message>
     <message>
         <source>countdown</source>
-        <translation type="unfinished"></translation>
+        <translation>compte à rebours</translation>
     </message>
     <message>
         <source>start time</source>
-        <translation type="unfinished"></translation>
+        <translation>heure de début</translation>
     </message>
     <message>
         <source>both</source>
-        <translation type="unfinished"></translation>
+        <translation>les deux</translation>
     </message>
     <message>
         <source>automobile</source>
-        <translation type="unfinished"></translation>
+        <translation>voiture</translation>
     </message>
     <message>
         <source>walking</source>
-        <translation type="unfinished"></translation>
+        <translation>à pied</translation>
     </message>
     <message>
         <source>transit</source>
-        <translation type="unfinished"></translation>
+        <translation>transports en commun</translation>
     </message>
     <message>
         <source>link</source>
-        <translation type="unfinished"></translation>
+        <translation>liens</translation>
     </message>
     <message>
         <source>copy</source>
-        <translation type="unfinished"></translation>
+        <translation>copies</translation>
     </message>
     <message>
         <source>continuous</source>
-        <translation type="unfinished"></translation>
+        <translation>continu</translation>
     </message>
     <message>
         <source>segmented</source>
-        <translation type="unfinished"></translation>
+        <translation>segmenté</translation>
     </message>
     <message>
         <source>ring</source>
-        <translation type="unfinished"></translation>
+        <translation>anneau</translation>
     </message>
     <message>
         <source>level</source>
-        <translation type="unfinished"></translation>
+        <translation>selon le niveau</translation>
     </message>
     <message>
         <source>accent</source>
-        <translation type="unfinished"></translation>
+        <translation>couleur d’accentuation</translation>
     </message>
     <message>
         <source>clear</source>
-        <translation type="unfinished"></translation>
+        <translation>transparent</translation>
     </message>
     <message>
         <source>light frost</source>
-        <translation type="unfinished"></translation>
+        <translation>légèrement dépoli</translation>
     </message>
     <message>
         <source>frosted</source>
-        <translation type="unfinished"></translation>
+        <translation>dépoli</translation>
     </message>
     <message>
         <source>until resumed</source>
-        <translation type="unfinished"></translation>
+        <translation>jusqu’à la reprise</translation>
     </message>
     <message>
         <source>standard</source>
-        <translation type="unfinished"></translation>
+        <translation>standard</translation>
     </message>
     <message>
         <source>artwork</source>
-        <translation type="unfinished"></translation>
+        <translation>pochette</translation>
     </message>
     <message>
         <source>automatic</source>
-        <translation type="unfinished"></translation>
+        <translation>automatique</translation>
     </message>
     <message>
         <source>AppleScript only</source>
-        <translation type="unfinished"></translation>
+        <translation>AppleScript uniquement</translation>
     </message>
     <message>
         <source>percentage</source>
-        <translation type="unfinished"></translation>
+        <translation>pourcentage</translation>
     </message>
 </context>
 <context>
     <name>WeatherPanel</name>
     <message>
         <source>Weather</source>
-        <translation type="unfinished"></translation>
+        <translation>Météo</translation>
     </message>
 </context>
 <context>
     <name>tindra::AdapterCheck</name>
     <message>
         <source>nothing playing</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune lecture</translation>
     </message>
     <message>
         <source>Stream gave %1 update(s) and %2 unreadable line(s) in %3 s: %4.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le flux a donné %1 mise(s) à jour et %2 ligne(s) illisible(s) en %3 s : %4.</translation>
     </message>
     <message>
         <source>Stream skipped because the self-test failed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Flux ignoré, car l’autotest a échoué.</translation>
     </message>
     <message>
         <source>Could not launch stream: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lancer le flux : %1</translation>
     </message>
 </context>
 <context>
     <name>tindra::AdapterNowPlayingSource</name>
     <message>
         <source>following the players through the adapter&apos;s stream</source>
-        <translation type="unfinished"></translation>
+        <translation>suit les lecteurs via le flux de l’adaptateur</translation>
     </message>
     <message>
         <source>the adapter&apos;s stream keeps failing: testing the adapter again</source>
-        <translation type="unfinished"></translation>
+        <translation>le flux de l’adaptateur échoue sans cesse : nouveau test de l’adaptateur</translation>
     </message>
 </context>
 <context>
     <name>tindra::AdapterProbe</name>
     <message>
         <source>The adapter&apos;s self-test did not finish within %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’autotest de l’adaptateur ne s’est pas terminé en %1 s.</translation>
     </message>
     <message>
         <source>Could not launch %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lancer %1 : %2</translation>
     </message>
     <message>
         <source>The adapter&apos;s self-test passed.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’autotest de l’adaptateur a réussi.</translation>
     </message>
     <message>
         <source>The adapter&apos;s self-test failed with exit status %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’autotest de l’adaptateur a échoué avec le code de sortie %1.</translation>
     </message>
     <message>
         <source>Adapter not bundled; missing: %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Adaptateur non fourni ; manquant : %1 %2</translation>
     </message>
 </context>
 <context>
     <name>tindra::BannerProvider</name>
     <message>
         <source>Open %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir %1</translation>
     </message>
 </context>
 <context>
     <name>tindra::BlueZAccessoryBackend</name>
     <message>
         <source>asking BlueZ for the accessories</source>
-        <translation type="unfinished"></translation>
+        <translation>interroge BlueZ sur les accessoires</translation>
     </message>
     <message>
         <source>BlueZ does not answer (%1): no accessories are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>BlueZ ne répond pas (%1) : aucun accessoire n’est affiché</translation>
     </message>
     <message>
         <source>BlueZ went away: no accessories are shown until it returns</source>
-        <translation type="unfinished"></translation>
+        <translation>BlueZ a disparu : aucun accessoire n’est affiché jusqu’à son retour</translation>
     </message>
     <message>
         <source>following BlueZ: %1 Bluetooth devices known</source>
-        <translation type="unfinished"></translation>
+        <translation>suit BlueZ : %1 appareils Bluetooth connus</translation>
     </message>
 </context>
 <context>
     <name>tindra::BusLevelCommandSource</name>
     <message>
         <source>asking the session bus for the name of the level commands</source>
-        <translation type="unfinished"></translation>
+        <translation>demande au bus de session le nom des commandes de niveau</translation>
     </message>
     <message>
         <source>`tindra level` commands step the levels (%1 on the session bus)</source>
-        <translation type="unfinished"></translation>
+        <translation>les commandes `tindra level` changent les niveaux (%1 sur le bus de session)</translation>
     </message>
     <message>
         <source>another program holds %1 on the session bus: `tindra level` commands go there</source>
-        <translation type="unfinished"></translation>
+        <translation>un autre programme détient %1 sur le bus de session : les commandes `tindra level` y vont</translation>
     </message>
 </context>
 <context>
     <name>tindra::CalendarFeed</name>
     <message>
         <source>not read yet</source>
-        <translation type="unfinished"></translation>
+        <translation>pas encore lu</translation>
     </message>
     <message>
         <source>%1; the last good copy is kept</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ; la dernière copie valide est conservée</translation>
     </message>
     <message numerus="yes">
         <source>%n document(s) could not be read (%1)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>%n document n’a pas pu être lu (%1)</numerusform>
+            <numerusform>%n documents n’ont pas pu être lus (%1)</numerusform>
         </translation>
     </message>
     <message>
         <source>%1 events in view</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 événements en vue</translation>
     </message>
     <message>
         <source>, %1 to-dos</source>
-        <translation type="unfinished"></translation>
+        <translation>, %1 tâches</translation>
     </message>
 </context>
 <context>
     <name>tindra::CalendarListEditor</name>
     <message>
         <source>A file, a folder, or an https:// or webcal:// address</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier, un dossier, ou une adresse https:// ou webcal://</translation>
     </message>
     <message>
         <source>Add</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter</translation>
     </message>
     <message>
         <source>Choose File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir un fichier…</translation>
     </message>
     <message>
         <source>Add a Calendar</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un calendrier</translation>
     </message>
     <message>
         <source>iCalendar (*.ics);;All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>iCalendar (*.ics);;Tous les fichiers (*)</translation>
     </message>
     <message>
         <source>Your mail addresses, separated by commas</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos adresses e-mail, séparées par des virgules</translation>
     </message>
     <message>
         <source>Invitations you declined at these addresses are not shown.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les invitations refusées à ces adresses ne sont pas affichées.</translation>
     </message>
     <message>
         <source>No calendars yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun calendrier pour l’instant.</translation>
     </message>
     <message>
         <source>Remove</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer</translation>
     </message>
 </context>
 <context>
     <name>tindra::CalendarProvider</name>
     <message>
         <source>the calendar is off in Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>le calendrier est désactivé dans les Réglages</translation>
     </message>
     <message>
         <source>Event</source>
-        <translation type="unfinished"></translation>
+        <translation>Événement</translation>
     </message>
     <message>
         <source>Reminder</source>
-        <translation type="unfinished"></translation>
+        <translation>Rappel</translation>
     </message>
 </context>
 <context>
     <name>tindra::CalendarTexts</name>
     <message>
         <source>%1 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 min</translation>
     </message>
     <message>
         <source>%1 h</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h</translation>
     </message>
     <message>
         <source>%1 h %2 min</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 h %2 min</translation>
     </message>
     <message>
         <source>Now</source>
-        <translation type="unfinished"></translation>
+        <translation>Maintenant</translation>
     </message>
     <message>
         <source>in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>dans %1</translation>
     </message>
     <message>
         <source>%1 left</source>
-        <translation type="unfinished"></translation>
+        <translation>Reste %1</translation>
     </message>
     <message>
         <source>Ended</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Leave in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Départ dans %1</translation>
     </message>
     <message>
         <source>%1 late</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 de retard</translation>
     </message>
     <message>
         <source>Leave now</source>
-        <translation type="unfinished"></translation>
+        <translation>Partez maintenant</translation>
     </message>
     <message>
         <source>All day</source>
-        <translation type="unfinished"></translation>
+        <translation>Toute la journée</translation>
     </message>
 </context>
 <context>
     <name>tindra::DBusNotificationMonitor</name>
     <message>
         <source>calls and messages are off: notifications are not read</source>
-        <translation type="unfinished"></translation>
+        <translation>appels et messages désactivés : les notifications ne sont pas lues</translation>
     </message>
     <message>
         <source>the session bus does not let Tindra read notifications (%1): no calls or messages are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>le bus de session ne laisse pas Tindra lire les notifications (%1) : aucun appel ni message n’est affiché</translation>
     </message>
     <message>
         <source>no notification server runs on the session bus: calls and messages show once one starts</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun serveur de notifications ne tourne sur le bus de session : appels et messages s’afficheront dès qu’il y en aura un</translation>
     </message>
     <message>
         <source>reading notification banners for calls and messages</source>
-        <translation type="unfinished"></translation>
+        <translation>lit les bannières de notification pour les appels et les messages</translation>
     </message>
     <message>
         <source>the session bus closed the notification monitor: no calls or messages are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>le bus de session a fermé la surveillance des notifications : aucun appel ni message n’est affiché</translation>
     </message>
 </context>
 <context>
     <name>tindra::DiagnosticsWindow</name>
     <message>
         <source>Tindra Diagnostics</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnostic de Tindra</translation>
     </message>
     <message>
         <source>Copy report</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier le rapport</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeAccessoryBackend</name>
     <message>
         <source>invented accessories (TINDRA_FAKE asks for them)</source>
-        <translation type="unfinished"></translation>
+        <translation>accessoires fictifs (TINDRA_FAKE les demande)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeBacklightBackend</name>
     <message>
         <source>invented readings (TINDRA_FAKE asks for them)</source>
-        <translation type="unfinished"></translation>
+        <translation>mesures fictives (TINDRA_FAKE les demande)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeBatteryBackend</name>
     <message>
         <source>invented readings (TINDRA_FAKE asks for them)</source>
-        <translation type="unfinished"></translation>
+        <translation>mesures fictives (TINDRA_FAKE les demande)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeCalendarBackend</name>
     <message>
         <source>invented</source>
-        <translation type="unfinished"></translation>
+        <translation>fictif</translation>
     </message>
     <message>
         <source>The invented calendars take no additions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les calendriers fictifs n’acceptent pas d’ajouts.</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeFileTrayBackend</name>
     <message>
         <source>invented files (TINDRA_FAKE asks for them)</source>
-        <translation type="unfinished"></translation>
+        <translation>fichiers fictifs (TINDRA_FAKE les demande)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeFocusStatusSource</name>
     <message>
         <source>invented do-not-disturb (TINDRA_FAKE)</source>
-        <translation type="unfinished"></translation>
+        <translation>« Ne pas déranger » fictif (TINDRA_FAKE)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeLocationSource</name>
     <message>
         <source>an invented position (TINDRA_FAKE)</source>
-        <translation type="unfinished"></translation>
+        <translation>une position fictive (TINDRA_FAKE)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeLockStateSource</name>
     <message>
         <source>invented screen lock (TINDRA_FAKE)</source>
-        <translation type="unfinished"></translation>
+        <translation>verrouillage d’écran fictif (TINDRA_FAKE)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeNotificationSource</name>
     <message>
         <source>invented notifications (TINDRA_FAKE)</source>
-        <translation type="unfinished"></translation>
+        <translation>notifications fictives (TINDRA_FAKE)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeNowPlayingSource</name>
     <message>
         <source>an invented track (TINDRA_FAKE asks for it)</source>
-        <translation type="unfinished"></translation>
+        <translation>un morceau fictif (TINDRA_FAKE le demande)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeVisibilitySource</name>
     <message>
         <source>an invented window in front (TINDRA_FAKE)</source>
-        <translation type="unfinished"></translation>
+        <translation>une fenêtre fictive au premier plan (TINDRA_FAKE)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FakeVolumeBackend</name>
     <message>
         <source>invented readings (TINDRA_FAKE asks for them)</source>
-        <translation type="unfinished"></translation>
+        <translation>mesures fictives (TINDRA_FAKE les demande)</translation>
     </message>
 </context>
 <context>
     <name>tindra::FileTrayProvider</name>
     <message>
         <source>keeping the file tray in %1</source>
-        <translation type="unfinished"></translation>
+        <translation>conserve le plateau de fichiers dans %1</translation>
     </message>
     <message>
         <source>some items of the saved file tray could not be read and were left out; the list as it was is kept as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>certains éléments du plateau de fichiers enregistré étaient illisibles et ont été omis ; la liste d’origine est conservée sous %1</translation>
     </message>
     <message>
         <source>the saved file tray %1; it is kept as %2 and the tray starts empty</source>
-        <translation type="unfinished"></translation>
+        <translation>le plateau de fichiers enregistré %1 ; il est conservé sous %2 et le plateau démarre vide</translation>
     </message>
     <message>
         <source>was written by a newer Tindra</source>
-        <translation type="unfinished"></translation>
+        <translation>a été écrit par une version plus récente de Tindra</translation>
     </message>
     <message>
         <source>could not be read</source>
-        <translation type="unfinished"></translation>
+        <translation>n’a pas pu être lu</translation>
     </message>
     <message>
         <source>Only files and folders can go in the tray.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls des fichiers et des dossiers peuvent aller dans le plateau.</translation>
     </message>
     <message>
         <source>Already in the tray:</source>
-        <translation type="unfinished"></translation>
+        <translation>Déjà dans le plateau :</translation>
     </message>
     <message>
         <source>The tray is full:</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plateau est plein :</translation>
     </message>
     <message>
         <source>not added. Remove some items first.</source>
-        <translation type="unfinished"></translation>
+        <translation>— non ajouté. Retirez d’abord des éléments.</translation>
     </message>
     <message>
         <source>Only files and folders can go in the tray:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls des fichiers et des dossiers peuvent aller dans le plateau :</translation>
     </message>
     <message>
         <source>Copies in the tray are limited to 2 GB:</source>
-        <translation type="unfinished"></translation>
+        <translation>Les copies dans le plateau sont limitées à 2 Go :</translation>
     </message>
     <message>
         <source>could not be copied into the tray.</source>
-        <translation type="unfinished"></translation>
+        <translation>— la copie dans le plateau a échoué.</translation>
     </message>
     <message>
         <source>The copy into the tray was stopped.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie dans le plateau a été arrêtée.</translation>
     </message>
     <message>
         <source>the file tray is not saved: an unreadable list could not be moved aside</source>
-        <translation type="unfinished"></translation>
+        <translation>le plateau de fichiers n’est pas enregistré : une liste illisible n’a pas pu être mise de côté</translation>
     </message>
     <message numerus="yes">
         <source>Copying %n item(s) into the tray…</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>Copie de %n élément dans le plateau…</numerusform>
+            <numerusform>Copie de %n éléments dans le plateau…</numerusform>
         </translation>
     </message>
 </context>
@@ -1385,574 +1385,574 @@
     <name>tindra::FocusViewModel</name>
     <message>
         <source>Focus</source>
-        <translation type="unfinished"></translation>
+        <translation>Concentration</translation>
     </message>
 </context>
 <context>
     <name>tindra::GSettingsFocusSource</name>
     <message>
         <source>reading do-not-disturb from GNOME&apos;s settings (show-banners)</source>
-        <translation type="unfinished"></translation>
+        <translation>lit « Ne pas déranger » dans les réglages de GNOME (show-banners)</translation>
     </message>
     <message>
         <source>GNOME&apos;s notification settings are not installed: do-not-disturb is unknown</source>
-        <translation type="unfinished"></translation>
+        <translation>les réglages de notification de GNOME ne sont pas installés : « Ne pas déranger » est inconnu</translation>
     </message>
 </context>
 <context>
     <name>tindra::GeoClueLocationSource</name>
     <message>
         <source>asking GeoClue for the position</source>
-        <translation type="unfinished"></translation>
+        <translation>demande la position à GeoClue</translation>
     </message>
     <message>
         <source>GeoClue went away: the last position stays until it returns</source>
-        <translation type="unfinished"></translation>
+        <translation>GeoClue a disparu : la dernière position reste jusqu’à son retour</translation>
     </message>
     <message>
         <source>GeoClue is not available (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>GeoClue n’est pas disponible (%1)</translation>
     </message>
     <message>
         <source>GeoClue refused the position (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>GeoClue a refusé la position (%1)</translation>
     </message>
     <message>
         <source>GeoClue gives the position, at city accuracy</source>
-        <translation type="unfinished"></translation>
+        <translation>GeoClue donne la position, à l’échelle de la ville</translation>
     </message>
 </context>
 <context>
     <name>tindra::HudProvider</name>
     <message>
         <source>the keyboard backlight ignores Tindra&apos;s changes: the keys go back to the desktop and the notch only shows the level</source>
-        <translation type="unfinished"></translation>
+        <translation>le rétroéclairage du clavier ignore les changements de Tindra : les touches reviennent au bureau et l’encoche n’affiche que le niveau</translation>
     </message>
     <message>
         <source>holds %1</source>
-        <translation type="unfinished"></translation>
+        <translation>détient %1</translation>
     </message>
     <message>
         <source>only watches the level for %1 (another program holds them)</source>
-        <translation type="unfinished"></translation>
+        <translation>surveille seulement le niveau pour %1 (un autre programme les détient)</translation>
     </message>
     <message>
         <source>leaves %1 to the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>laisse %1 au bureau</translation>
     </message>
 </context>
 <context>
     <name>tindra::ICalendarBackend</name>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être lu : %2</translation>
     </message>
     <message>
         <source>the calendar list was not readable and was set aside as %1</source>
-        <translation type="unfinished"></translation>
+        <translation>la liste des calendriers était illisible et a été mise de côté sous %1</translation>
     </message>
     <message>
         <source>not read while the calendar is off</source>
-        <translation type="unfinished"></translation>
+        <translation>non lu tant que le calendrier est désactivé</translation>
     </message>
     <message>
         <source>Give a file, a folder or an address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Indiquez un fichier, un dossier ou une adresse.</translation>
     </message>
     <message>
         <source>Use an https:// or webcal:// address: a calendar fetched over plain http can be read by anyone on the way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Utilisez une adresse https:// ou webcal:// : un calendrier récupéré en http simple peut être lu par n’importe qui en chemin.</translation>
     </message>
     <message>
         <source>This calendar is already in the list.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce calendrier est déjà dans la liste.</translation>
     </message>
     <message numerus="yes">
         <source>reading %n iCalendar calendar(s)</source>
-        <translation type="unfinished">
-            <numerusform></numerusform>
-            <numerusform></numerusform>
+        <translation>
+            <numerusform>lit %n calendrier iCalendar</numerusform>
+            <numerusform>lit %n calendriers iCalendar</numerusform>
         </translation>
     </message>
     <message>
         <source>no calendars: add an iCalendar file, folder or address in Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun calendrier : ajoutez un fichier, un dossier ou une adresse iCalendar dans les Réglages</translation>
     </message>
 </context>
 <context>
     <name>tindra::LocalCalendarFeed</name>
     <message>
         <source>%1 is not there</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’existe pas</translation>
     </message>
     <message>
         <source>%1 cannot be read</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ne peut pas être lu</translation>
     </message>
 </context>
 <context>
     <name>tindra::LogindLockSource</name>
     <message>
         <source>asking logind for the session</source>
-        <translation type="unfinished"></translation>
+        <translation>demande la session à logind</translation>
     </message>
     <message>
         <source>logind went away: the screen lock is not followed until it returns</source>
-        <translation type="unfinished"></translation>
+        <translation>logind a disparu : le verrouillage d’écran n’est pas suivi jusqu’à son retour</translation>
     </message>
     <message>
         <source>logind does not know this session (%1): the screen lock is not followed</source>
-        <translation type="unfinished"></translation>
+        <translation>logind ne connaît pas cette session (%1) : le verrouillage d’écran n’est pas suivi</translation>
     </message>
     <message>
         <source>logind does not answer (%1): the screen lock is not followed</source>
-        <translation type="unfinished"></translation>
+        <translation>logind ne répond pas (%1) : le verrouillage d’écran n’est pas suivi</translation>
     </message>
     <message>
         <source>following the screen lock of logind&apos;s session %1</source>
-        <translation type="unfinished"></translation>
+        <translation>suit le verrouillage d’écran de la session logind %1</translation>
     </message>
 </context>
 <context>
     <name>tindra::NotificationServerFocusSource</name>
     <message>
         <source>asking the notification server for do-not-disturb</source>
-        <translation type="unfinished"></translation>
+        <translation>interroge le serveur de notifications sur « Ne pas déranger »</translation>
     </message>
     <message>
         <source>no notification server runs: do-not-disturb is unknown until one starts</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun serveur de notifications ne tourne : « Ne pas déranger » est inconnu jusqu’à ce qu’un serveur démarre</translation>
     </message>
     <message>
         <source>the notification server went away: do-not-disturb is unknown until it returns</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de notifications a disparu : « Ne pas déranger » est inconnu jusqu’à son retour</translation>
     </message>
     <message>
         <source>reading do-not-disturb from the notification server (Inhibited)</source>
-        <translation type="unfinished"></translation>
+        <translation>lit « Ne pas déranger » auprès du serveur de notifications (Inhibited)</translation>
     </message>
     <message>
         <source>the notification server does not report do-not-disturb (no Inhibited property): only `tindra focus` shows a Focus</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de notifications ne signale pas « Ne pas déranger » (pas de propriété Inhibited) : seul `tindra focus` affiche une Concentration</translation>
     </message>
 </context>
 <context>
     <name>tindra::NowPlayingProvider</name>
     <message>
         <source>Settings ask for the player scripts, which this desktop does not have: nothing is shown as playing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les Réglages demandent les scripts des lecteurs, que ce bureau n’a pas : rien n’est affiché comme en cours de lecture.</translation>
     </message>
     <message>
         <source>testing the now-playing adapter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>teste l’adaptateur « À l’écoute » %1</translation>
     </message>
 </context>
 <context>
     <name>tindra::OnboardingWindow</name>
     <message>
         <source>Welcome to Tindra</source>
-        <translation type="unfinished"></translation>
+        <translation>Bienvenue dans Tindra</translation>
     </message>
     <message>
         <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ in use, – waiting or limited, ✗ not available, and what that means):&lt;/p&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;h2&gt;Bienvenue dans Tindra&lt;/h2&gt;&lt;p&gt;La bande en haut de votre écran est désormais un petit affichage en direct. Fermée, elle montre une chose à la fois : ce qui est en lecture, un niveau de volume ou de luminosité, un avis de batterie ou de casque, la prochaine réunion, un appel ou un message. Posez le pointeur dessus et elle s’ouvre en un panneau avec les commandes, votre calendrier, la météo, vos batteries et un plateau de fichiers. Tout reste sur cet ordinateur.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Ce que Tindra a trouvé ici&lt;/b&gt; (✓ utilisé, – en attente ou limité, ✗ indisponible, et ce que cela signifie) :&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;The notch opens&lt;/b&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;b&gt;L’encoche s’ouvre&lt;/b&gt;</translation>
     </message>
     <message>
         <source>when the pointer rests on it</source>
-        <translation type="unfinished"></translation>
+        <translation>quand le pointeur reste dessus</translation>
     </message>
     <message>
         <source>when you click it</source>
-        <translation type="unfinished"></translation>
+        <translation>quand vous cliquez dessus</translation>
     </message>
     <message>
         <source>when you press and hold it</source>
-        <translation type="unfinished"></translation>
+        <translation>quand vous maintenez le bouton appuyé dessus</translation>
     </message>
     <message>
         <source>Start Tindra when I log in</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer Tindra à l’ouverture de session</translation>
     </message>
     <message>
         <source>Start Using Tindra</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer à utiliser Tindra</translation>
     </message>
 </context>
 <context>
     <name>tindra::PinnedSectionsEditor</name>
     <message>
         <source>Tick the sections to pin and drag them into order</source>
-        <translation type="unfinished"></translation>
+        <translation>Cochez les sections à épingler et faites-les glisser dans l’ordre</translation>
     </message>
 </context>
 <context>
     <name>tindra::PlasmaWindowVisibilitySource</name>
     <message>
         <source>following the active window and full-screen state from KWin&apos;s window list (Plasma window management)</source>
-        <translation type="unfinished"></translation>
+        <translation>suit la fenêtre active et l’état plein écran dans la liste des fenêtres de KWin (Plasma window management)</translation>
     </message>
 </context>
 <context>
     <name>tindra::PosixFileTrayBackend</name>
     <message>
         <source>files are known by their device and inode</source>
-        <translation type="unfinished"></translation>
+        <translation>les fichiers sont reconnus par leur périphérique et leur inode</translation>
     </message>
 </context>
 <context>
     <name>tindra::PulseProcessTapSession</name>
     <message>
         <source>no sound server to listen to</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun serveur de son à écouter</translation>
     </message>
     <message>
         <source>the player&apos;s own stream (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>le flux propre du lecteur (%1)</translation>
     </message>
     <message>
         <source>the default output</source>
-        <translation type="unfinished"></translation>
+        <translation>la sortie par défaut</translation>
     </message>
     <message>
         <source>the sound server has no output to listen to</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de son n’a aucune sortie à écouter</translation>
     </message>
     <message>
         <source> on </source>
-        <translation type="unfinished"></translation>
+        <translation> sur </translation>
     </message>
     <message>
         <source>the sound server refused a capture stream</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de son a refusé un flux de capture</translation>
     </message>
 </context>
 <context>
     <name>tindra::PulseVolumeBackend</name>
     <message>
         <source>connecting to the sound server</source>
-        <translation type="unfinished"></translation>
+        <translation>connexion au serveur de son</translation>
     </message>
     <message>
         <source>following the sound server&apos;s default output</source>
-        <translation type="unfinished"></translation>
+        <translation>suit la sortie par défaut du serveur de son</translation>
     </message>
     <message>
         <source>the sound server went away: no volume until it returns</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur de son a disparu : pas de volume jusqu’à son retour</translation>
     </message>
 </context>
 <context>
     <name>tindra::RemoteCalendarFeed</name>
     <message>
         <source>%1 is not an https address</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 n’est pas une adresse https</translation>
     </message>
     <message>
         <source>HTTP %1</source>
-        <translation type="unfinished"></translation>
+        <translation>HTTP %1</translation>
     </message>
     <message>
         <source>could not fetch %1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>impossible de récupérer %1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>tindra::SettingsWindow</name>
     <message>
         <source>Tindra Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages de Tindra</translation>
     </message>
     <message>
         <source>Search settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher dans les réglages</translation>
     </message>
     <message>
         <source>Reset Page</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser la page</translation>
     </message>
     <message>
         <source>Use the default value of every setting on this page</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser la valeur par défaut de chaque réglage de cette page</translation>
     </message>
     <message>
         <source>Reset</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser</translation>
     </message>
     <message>
         <source>Use the default value</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser la valeur par défaut</translation>
     </message>
     <message>
         <source>(none)</source>
-        <translation type="unfinished"></translation>
+        <translation>(aucun)</translation>
     </message>
     <message>
         <source>The change was not saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>La modification n’a pas été enregistrée : %1</translation>
     </message>
 </context>
 <context>
     <name>tindra::ShellActions</name>
     <message>
         <source>Settings…</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages…</translation>
     </message>
     <message>
         <source>Diagnostics…</source>
-        <translation type="unfinished"></translation>
+        <translation>Diagnostic…</translation>
     </message>
     <message>
         <source>Start at Login</source>
-        <translation type="unfinished"></translation>
+        <translation>Lancer à l’ouverture de session</translation>
     </message>
     <message>
         <source>Quit Tindra</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter Tindra</translation>
     </message>
     <message>
         <source>Each service Tindra uses says here whether it answers, and every change since Tindra started is in the log. The report has the versions, the session and the log, for a bug report; it names none of your files, events or messages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chaque service utilisé par Tindra indique ici s’il répond, et chaque changement depuis le lancement de Tindra figure dans le journal. Le rapport contient les versions, la session et le journal, pour un rapport de bogue ; il ne cite aucun de vos fichiers, événements ou messages.</translation>
     </message>
 </context>
 <context>
     <name>tindra::SysfsBacklightBackend</name>
     <message>
         <source>%1, set through logind</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, réglé via logind</translation>
     </message>
     <message>
         <source>%1 is shown; logind is not running, so the brightness keys stay with the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est affiché ; logind ne tourne pas, les touches de luminosité restent donc au bureau</translation>
     </message>
     <message>
         <source>no display backlight in %1: the brightness keys stay with the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>pas de rétroéclairage d’écran dans %1 : les touches de luminosité restent au bureau</translation>
     </message>
     <message>
         <source>%1 is shown; asking whether logind runs to set it</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est affiché ; vérifie si logind tourne pour le régler</translation>
     </message>
     <message>
         <source>%1 is shown; logind refused to set it (%2), so the brightness keys stay with the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 est affiché ; logind a refusé de le régler (%2), les touches de luminosité restent donc au bureau</translation>
     </message>
 </context>
 <context>
     <name>tindra::TindraApp</name>
     <message>
         <source>Check Now Playing adapter</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifier l’adaptateur « À l’écoute »</translation>
     </message>
 </context>
 <context>
     <name>tindra::UPowerBatteryBackend</name>
     <message>
         <source>asking UPower for the battery</source>
-        <translation type="unfinished"></translation>
+        <translation>demande la batterie à UPower</translation>
     </message>
     <message>
         <source>reading the battery from UPower</source>
-        <translation type="unfinished"></translation>
+        <translation>lit la batterie via UPower</translation>
     </message>
     <message>
         <source>UPower answers and reports no battery</source>
-        <translation type="unfinished"></translation>
+        <translation>UPower répond et ne signale aucune batterie</translation>
     </message>
     <message>
         <source>UPower does not answer (%1): no battery is shown</source>
-        <translation type="unfinished"></translation>
+        <translation>UPower ne répond pas (%1) : aucune batterie n’est affichée</translation>
     </message>
     <message>
         <source>UPower went away: no battery is shown until it returns</source>
-        <translation type="unfinished"></translation>
+        <translation>UPower a disparu : aucune batterie n’est affichée jusqu’à son retour</translation>
     </message>
 </context>
 <context>
     <name>tindra::UPowerKeyboardBacklightBackend</name>
     <message>
         <source>UPower went away: the keyboard light keys stay with the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>UPower a disparu : les touches d’éclairage du clavier restent au bureau</translation>
     </message>
     <message>
         <source>UPower reports no keyboard backlight (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>UPower ne signale aucun rétroéclairage du clavier (%1)</translation>
     </message>
     <message>
         <source>no levels</source>
-        <translation type="unfinished"></translation>
+        <translation>aucun niveau</translation>
     </message>
     <message>
         <source>keyboard backlight through UPower, %1 levels</source>
-        <translation type="unfinished"></translation>
+        <translation>rétroéclairage du clavier via UPower, %1 niveaux</translation>
     </message>
     <message>
         <source>the keyboard backlight level cannot be read (%1 of %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>le niveau du rétroéclairage du clavier est illisible (%1 sur %2)</translation>
     </message>
 </context>
 <context>
     <name>tindra::VisibilityMonitor</name>
     <message>
         <source>the notch steps aside: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>l’encoche s’efface : %1</translation>
     </message>
     <message>
         <source>the notch shows</source>
-        <translation type="unfinished"></translation>
+        <translation>l’encoche est visible</translation>
     </message>
 </context>
 <context>
     <name>tindra::WeatherProvider</name>
     <message>
         <source>the weather is off in Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>la météo est désactivée dans les Réglages</translation>
     </message>
     <message>
         <source>position: %1; %2</source>
-        <translation type="unfinished"></translation>
+        <translation>position : %1 ; %2</translation>
     </message>
     <message>
         <source>none yet</source>
-        <translation type="unfinished"></translation>
+        <translation>aucune pour l’instant</translation>
     </message>
     <message>
         <source>; the last request failed (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation> ; la dernière requête a échoué (%1)</translation>
     </message>
     <message>
         <source>set in Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>définie dans les Réglages</translation>
     </message>
     <message>
         <source>%1, set in Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, définie dans les Réglages</translation>
     </message>
     <message>
         <source>GeoClue</source>
-        <translation type="unfinished"></translation>
+        <translation>GeoClue</translation>
     </message>
     <message>
         <source>the time zone %1</source>
-        <translation type="unfinished"></translation>
+        <translation>le fuseau horaire %1</translation>
     </message>
     <message>
         <source>The weather is unavailable right now.</source>
-        <translation type="unfinished"></translation>
+        <translation>La météo n’est pas disponible pour le moment.</translation>
     </message>
     <message>
         <source>Waiting for location access</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente de l’accès à la position</translation>
     </message>
     <message>
         <source>High %1 · Low %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Max. %1 · Min. %2</translation>
     </message>
 </context>
 <context>
     <name>tindra::WeatherSettingsEditor</name>
     <message>
         <source>Position in use:</source>
-        <translation type="unfinished"></translation>
+        <translation>Position utilisée :</translation>
     </message>
     <message>
         <source>Pick a city</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir une ville</translation>
     </message>
     <message>
         <source>My place:</source>
-        <translation type="unfinished"></translation>
+        <translation>Mon lieu :</translation>
     </message>
     <message>
         <source>Use These</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser</translation>
     </message>
     <message>
         <source>Use the Location Service</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser le service de localisation</translation>
     </message>
     <message>
         <source>Latitude, longitude:</source>
-        <translation type="unfinished"></translation>
+        <translation>Latitude, longitude :</translation>
     </message>
     <message>
         <source>An e-mail address MET Norway may reach you at (optional)</source>
-        <translation type="unfinished"></translation>
+        <translation>Une adresse e-mail où MET Norway peut vous joindre (facultatif)</translation>
     </message>
     <message>
         <source>Contact:</source>
-        <translation type="unfinished"></translation>
+        <translation>Contact :</translation>
     </message>
     <message>
         <source>As the region says</source>
-        <translation type="unfinished"></translation>
+        <translation>Selon la région</translation>
     </message>
     <message>
         <source>Celsius</source>
-        <translation type="unfinished"></translation>
+        <translation>Celsius</translation>
     </message>
     <message>
         <source>Fahrenheit</source>
-        <translation type="unfinished"></translation>
+        <translation>Fahrenheit</translation>
     </message>
     <message>
         <source>Unit:</source>
-        <translation type="unfinished"></translation>
+        <translation>Unité :</translation>
     </message>
     <message>
         <source>No city called %1 is known.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune ville nommée %1 n’est connue.</translation>
     </message>
 </context>
 <context>
     <name>tindra::WeatherViewModel</name>
     <message>
         <source>Weather data from MET Norway</source>
-        <translation type="unfinished"></translation>
+        <translation>Données météo de MET Norway</translation>
     </message>
 </context>
 <context>
     <name>tindra::WlrToplevelVisibilitySource</name>
     <message>
         <source>following the active window and full-screen state from the compositor&apos;s window list (wlr foreign toplevel)</source>
-        <translation type="unfinished"></translation>
+        <translation>suit la fenêtre active et l’état plein écran dans la liste des fenêtres du compositeur (wlr foreign toplevel)</translation>
     </message>
 </context>
 <context>
     <name>tindra::X11MediaKeySource</name>
     <message>
         <source>no X display: the keys stay with the desktop, and the level changes it makes are shown</source>
-        <translation type="unfinished"></translation>
+        <translation>pas d’affichage X : les touches restent au bureau, et les changements de niveau qu’il fait sont affichés</translation>
     </message>
     <message>
         <source>holding no keys</source>
-        <translation type="unfinished"></translation>
+        <translation>ne détient aucune touche</translation>
     </message>
     <message>
         <source>holding %1 key combinations, %2 held by another program</source>
-        <translation type="unfinished"></translation>
+        <translation>détient %1 combinaisons de touches, %2 détenues par un autre programme</translation>
     </message>
     <message>
         <source>the X server closed the connection: the keys stay with the desktop</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur X a fermé la connexion : les touches restent au bureau</translation>
     </message>
 </context>
 <context>
     <name>tindra::X11VisibilitySource</name>
     <message>
         <source>no X display: the notch never steps aside for full-screen windows or games</source>
-        <translation type="unfinished"></translation>
+        <translation>pas d’affichage X : l’encoche ne s’efface jamais devant les fenêtres en plein écran ou les jeux</translation>
     </message>
     <message>
         <source>following the active window and full-screen state from the window manager (EWMH)</source>
-        <translation type="unfinished"></translation>
+        <translation>suit la fenêtre active et l’état plein écran via le gestionnaire de fenêtres (EWMH)</translation>
     </message>
     <message>
         <source>the X server closed the connection: the notch no longer steps aside</source>
-        <translation type="unfinished"></translation>
+        <translation>le serveur X a fermé la connexion : l’encoche ne s’efface plus</translation>
     </message>
 </context>
 </TS>
