@@ -1059,7 +1059,7 @@
     </message>
     <message>
         <source>`tindra level` commands step the levels (%1 on the session bus)</source>
-        <translation>`tindra level`-Befehle ändern die Pegel (%1 auf dem Sitzungsbus)</translation>
+        <translation>`tindra level` ändert die Pegel (%1 auf dem Sitzungsbus)</translation>
     </message>
     <message>
         <source>another program holds %1 on the session bus: `tindra level` commands go there</source>
@@ -1096,7 +1096,7 @@
     <name>tindra::CalendarListEditor</name>
     <message>
         <source>A file, a folder, or an https:// or webcal:// address</source>
-        <translation>Eine Datei, ein Ordner oder eine https://- oder webcal://-Adresse</translation>
+        <translation>Datei, Ordner oder https://- oder webcal://-Adresse</translation>
     </message>
     <message>
         <source>Add</source>
@@ -1856,7 +1856,7 @@
     <name>tindra::WeatherSettingsEditor</name>
     <message>
         <source>Position in use:</source>
-        <translation>Verwendete Position:</translation>
+        <translation>Position:</translation>
     </message>
     <message>
         <source>Pick a city</source>
@@ -1872,7 +1872,7 @@
     </message>
     <message>
         <source>Use the Location Service</source>
-        <translation>Ortungsdienst verwenden</translation>
+        <translation>Ortungsdienst nutzen</translation>
     </message>
     <message>
         <source>Latitude, longitude:</source>
@@ -1880,7 +1880,7 @@
     </message>
     <message>
         <source>An e-mail address MET Norway may reach you at (optional)</source>
-        <translation>Eine E-Mail-Adresse, unter der MET Norway Sie erreichen kann (optional)</translation>
+        <translation>E-Mail, unter der MET Norway Sie erreicht (optional)</translation>
     </message>
     <message>
         <source>Contact:</source>

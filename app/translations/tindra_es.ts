@@ -1059,7 +1059,7 @@
     </message>
     <message>
         <source>`tindra level` commands step the levels (%1 on the session bus)</source>
-        <translation>las órdenes `tindra level` cambian los niveles (%1 en el bus de sesión)</translation>
+        <translation>`tindra level` cambia los niveles (%1 en el bus de sesión)</translation>
     </message>
     <message>
         <source>another program holds %1 on the session bus: `tindra level` commands go there</source>
@@ -1096,7 +1096,7 @@
     <name>tindra::CalendarListEditor</name>
     <message>
         <source>A file, a folder, or an https:// or webcal:// address</source>
-        <translation>Un archivo, una carpeta o una dirección https:// o webcal://</translation>
+        <translation>Archivo, carpeta o dirección https:// o webcal://</translation>
     </message>
     <message>
         <source>Add</source>
@@ -1555,7 +1555,7 @@
     </message>
     <message>
         <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ in use, – waiting or limited, ✗ not available, and what that means):&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Te damos la bienvenida a Tindra&lt;/h2&gt;&lt;p&gt;La franja de la parte superior de tu pantalla es ahora una pequeña pantalla en directo. Cerrada, muestra una cosa cada vez: lo que suena, un nivel de volumen o brillo, un aviso de batería o de auriculares, la próxima reunión, una llamada o un mensaje. Deja el puntero sobre ella y se abre en un panel con los controles, tu calendario, el tiempo, tus baterías y una bandeja de archivos. Todo se queda en este equipo.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Lo que Tindra encontró aquí&lt;/b&gt; (✓ en uso, – en espera o limitado, ✗ no disponible, y lo que significa):&lt;/p&gt;</translation>
+        <translation>&lt;h2&gt;Te damos la bienvenida a Tindra&lt;/h2&gt;&lt;p&gt;La franja de la parte superior de tu pantalla es ahora un pequeño panel en directo. Cerrada, muestra una cosa cada vez: lo que suena, un nivel de volumen o brillo, un aviso de batería o de auriculares, la próxima reunión, una llamada o un mensaje. Deja el puntero sobre ella y se abre en un panel con los controles, tu calendario, el tiempo, tus baterías y una bandeja de archivos. Todo se queda en este equipo.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Lo que Tindra encontró aquí&lt;/b&gt; (✓ en uso, – en espera o limitado, ✗ no disponible, y lo que significa):&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;The notch opens&lt;/b&gt;</source>
@@ -1575,7 +1575,7 @@
     </message>
     <message>
         <source>Start Tindra when I log in</source>
-        <translation>Iniciar Tindra al iniciar sesión</translation>
+        <translation>Abrir Tindra al iniciar sesión</translation>
     </message>
     <message>
         <source>Start Using Tindra</source>
@@ -1707,7 +1707,7 @@
     </message>
     <message>
         <source>Start at Login</source>
-        <translation>Iniciar al iniciar sesión</translation>
+        <translation>Abrir al iniciar sesión</translation>
     </message>
     <message>
         <source>Quit Tindra</source>
@@ -1868,7 +1868,7 @@
     </message>
     <message>
         <source>Use These</source>
-        <translation>Usar estos</translation>
+        <translation>Usar estas</translation>
     </message>
     <message>
         <source>Use the Location Service</source>
@@ -1880,7 +1880,7 @@
     </message>
     <message>
         <source>An e-mail address MET Norway may reach you at (optional)</source>
-        <translation>Una dirección de correo en la que MET Norway pueda contactarte (opcional)</translation>
+        <translation>Correo en el que MET Norway puede contactarte (opcional)</translation>
     </message>
     <message>
         <source>Contact:</source>
