@@ -7,8 +7,9 @@ namespace tindra::CalendarTexts {
 
 namespace {
 
+// lupdate files these texts under the namespace they are written in, so that is the context.
 QString tr(const char* text) {
-  return QCoreApplication::translate("CalendarTexts", text);
+  return QCoreApplication::translate("tindra::CalendarTexts", text);
 }
 
 QString minutesText(std::int64_t minutes) {

@@ -1,5 +1,6 @@
 #include "shell/pinned_sections_editor.h"
 
+#include <QCoreApplication>
 #include <QSignalBlocker>
 
 #include "views/view_registry.h"
@@ -25,7 +26,9 @@ void PinnedSectionsEditor::setPinned(const std::vector<std::string>& pinned) {
   QHash<QString, QString> titles;
   for (const ViewRegistry::Section* section : views_.pinnable()) {
     if (!order.contains(section->name)) order << section->name;
-    titles[section->name] = tr(section->title);
+    // The providers mark the titles under "PinnedSectionsEditor"; tr() here would look under
+    // "tindra::PinnedSectionsEditor" and find nothing.
+    titles[section->name] = QCoreApplication::translate("PinnedSectionsEditor", section->title);
   }
   for (qsizetype i = 0; i < order.size(); ++i) {
     auto* item = new QListWidgetItem(titles.value(order[i]), this);

@@ -25,6 +25,7 @@
 
 #include "base/diagnostics_log.h"
 #include "base/qt_text.h"
+#include "calendar/calendar_texts.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
 #include "settings/settings_keys.h"
@@ -163,6 +164,11 @@ TEST_F(SettingsWindowTest, TheDesktopsLanguageIsUsedWhereTindraHasIt) {
   EXPECT_EQ(settingsPages().front().title, QStringLiteral("Generelt"));
   SettingsWindow window(store_, views_);
   EXPECT_EQ(window.windowTitle(), QStringLiteral("Tindra-innstillinger"));
+  // Texts marked under another context than the code that shows them.
+  const auto* pinned =
+      qobject_cast<PinnedSectionsEditor*>(window.editorFor(settings::pinnedWidgets.name));
+  EXPECT_EQ(pinned != nullptr ? pinned->item(0)->text() : QString(), QStringLiteral("Spilles nå"));
+  EXPECT_EQ(CalendarTexts::timeRange(0, 0, true, QLocale()), QStringLiteral("Hele dagen"));
   QCoreApplication::removeTranslator(&norwegian);
   EXPECT_EQ(settingsPages().front().title, QStringLiteral("General"));
 }
