@@ -464,7 +464,7 @@
     </message>
     <message>
         <source>Play a sound with notices that have one.</source>
-        <translation>Hinweise mit Ton abspielen.</translation>
+        <translation>Hinweistöne abspielen.</translation>
     </message>
     <message>
         <source>Show Tindra in the tray.</source>

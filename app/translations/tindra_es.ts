@@ -608,7 +608,7 @@
     </message>
     <message>
         <source>Minutes before a meeting that it appears.</source>
-        <translation>Minutos antes de una reunión en que aparece.</translation>
+        <translation>Minutos de antelación con que aparece una reunión.</translation>
     </message>
     <message>
         <source>Calendars whose events are never shown.</source>

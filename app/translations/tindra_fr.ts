@@ -70,30 +70,30 @@
     <name>Autostart</name>
     <message>
         <source>could not remove %1: %2</source>
-        <translation>impossible de supprimer %1 : %2</translation>
+        <translation>impossible de supprimer %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
     <name>Backends</name>
     <message>
         <source>no session bus: no calls or messages are shown</source>
-        <translation>pas de bus de session : aucun appel ni message n’est affiché</translation>
+        <translation>pas de bus de session&#xa0;: aucun appel ni message n’est affiché</translation>
     </message>
     <message>
         <source>no session bus: do-not-disturb is unknown, only `tindra focus` shows a Focus</source>
-        <translation>pas de bus de session : « Ne pas déranger » est inconnu, seul `tindra focus` affiche une Concentration</translation>
+        <translation>pas de bus de session&#xa0;: «&#xa0;Ne pas déranger&#xa0;» est inconnu, seul `tindra focus` affiche une Concentration</translation>
     </message>
     <message>
         <source>no system bus (%1): the keyboard light keys stay with the desktop</source>
-        <translation>pas de bus système (%1) : les touches d’éclairage du clavier restent au bureau</translation>
+        <translation>pas de bus système (%1)&#xa0;: les touches d’éclairage du clavier restent au bureau</translation>
     </message>
     <message>
         <source>a Wayland session lets no program take the keys: the desktop keeps them, and the level changes it makes are shown</source>
-        <translation>une session Wayland ne laisse aucun programme prendre les touches : le bureau les garde, et les changements de niveau qu’il fait sont affichés</translation>
+        <translation>une session Wayland ne laisse aucun programme prendre les touches&#xa0;: le bureau les garde, et les changements de niveau qu’il fait sont affichés</translation>
     </message>
     <message>
         <source>no X11 display (%1): the keys stay with the desktop, and the level changes it makes are shown</source>
-        <translation>pas d’affichage X11 (%1) : les touches restent au bureau, et les changements de niveau qu’il fait sont affichés</translation>
+        <translation>pas d’affichage X11 (%1)&#xa0;: les touches restent au bureau, et les changements de niveau qu’il fait sont affichés</translation>
     </message>
     <message>
         <source>the notch is an X11 window</source>
@@ -105,35 +105,35 @@
     </message>
     <message>
         <source>TINDRA_PLATFORM asks for Wayland, but the compositor offers no layer shell: the notch is an X11 window through XWayland</source>
-        <translation>TINDRA_PLATFORM demande Wayland, mais le compositeur n’offre pas de layer shell : l’encoche est une fenêtre X11 via XWayland</translation>
+        <translation>TINDRA_PLATFORM demande Wayland, mais le compositeur n’offre pas de layer shell&#xa0;: l’encoche est une fenêtre X11 via XWayland</translation>
     </message>
     <message>
         <source>the Wayland compositor offers no layer shell (GNOME&apos;s has none): the notch is an X11 window through XWayland, above other X11 windows but not always above Wayland ones</source>
-        <translation>le compositeur Wayland n’offre pas de layer shell (celui de GNOME n’en a pas) : l’encoche est une fenêtre X11 via XWayland, au-dessus des autres fenêtres X11 mais pas toujours des fenêtres Wayland</translation>
+        <translation>le compositeur Wayland n’offre pas de layer shell (celui de GNOME n’en a pas)&#xa0;: l’encoche est une fenêtre X11 via XWayland, au-dessus des autres fenêtres X11 mais pas toujours des fenêtres Wayland</translation>
     </message>
     <message>
         <source>TINDRA_PLATFORM asks for X11: the notch is an X11 window</source>
-        <translation>TINDRA_PLATFORM demande X11 : l’encoche est une fenêtre X11</translation>
+        <translation>TINDRA_PLATFORM demande X11&#xa0;: l’encoche est une fenêtre X11</translation>
     </message>
     <message>
         <source>no system bus (%1): no battery is shown</source>
-        <translation>pas de bus système (%1) : aucune batterie n’est affichée</translation>
+        <translation>pas de bus système (%1)&#xa0;: aucune batterie n’est affichée</translation>
     </message>
     <message>
         <source>no system bus (%1): no accessories are shown</source>
-        <translation>pas de bus système (%1) : aucun accessoire n’est affiché</translation>
+        <translation>pas de bus système (%1)&#xa0;: aucun accessoire n’est affiché</translation>
     </message>
     <message>
         <source>the Wayland compositor lists no windows to other programs (neither wlr foreign toplevel nor Plasma window management): the notch never steps aside for full-screen windows or games</source>
-        <translation>le compositeur Wayland ne liste pas ses fenêtres aux autres programmes (ni wlr foreign toplevel ni Plasma window management) : l’encoche ne s’efface jamais devant les fenêtres en plein écran ou les jeux</translation>
+        <translation>le compositeur Wayland ne liste pas ses fenêtres aux autres programmes (ni wlr foreign toplevel ni Plasma window management)&#xa0;: l’encoche ne s’efface jamais devant les fenêtres en plein écran ou les jeux</translation>
     </message>
     <message>
         <source>no X11 window manager to ask (%1): the notch never steps aside for full-screen windows or games</source>
-        <translation>aucun gestionnaire de fenêtres X11 à interroger (%1) : l’encoche ne s’efface jamais devant les fenêtres en plein écran ou les jeux</translation>
+        <translation>aucun gestionnaire de fenêtres X11 à interroger (%1)&#xa0;: l’encoche ne s’efface jamais devant les fenêtres en plein écran ou les jeux</translation>
     </message>
     <message>
         <source>no system bus (%1): GeoClue cannot be asked</source>
-        <translation>pas de bus système (%1) : impossible d’interroger GeoClue</translation>
+        <translation>pas de bus système (%1)&#xa0;: impossible d’interroger GeoClue</translation>
     </message>
 </context>
 <context>
@@ -410,7 +410,7 @@
     </message>
     <message>
         <source>Travel times are unavailable: no routing service is available on this system.</source>
-        <translation>Les temps de trajet ne sont pas disponibles : aucun service d’itinéraire n’existe sur ce système.</translation>
+        <translation>Les temps de trajet ne sont pas disponibles&#xa0;: aucun service d’itinéraire n’existe sur ce système.</translation>
     </message>
 </context>
 <context>
@@ -472,7 +472,7 @@
     </message>
     <message>
         <source>How long notices stay: short, medium or long.</source>
-        <translation>Durée d’affichage des avis : courte, moyenne ou longue.</translation>
+        <translation>Durée d’affichage des avis&#xa0;: courte, moyenne ou longue.</translation>
     </message>
     <message>
         <source>Offer test versions when updating.</source>
@@ -484,7 +484,7 @@
     </message>
     <message>
         <source>Which displays show the notch: all, main, built-in or one by name.</source>
-        <translation>Écrans qui affichent l’encoche : tous, principal, intégré ou un écran nommé.</translation>
+        <translation>Écrans qui affichent l’encoche&#xa0;: tous, principal, intégré ou un écran nommé.</translation>
     </message>
     <message>
         <source>Width in points of a drawn notch.</source>
@@ -500,7 +500,7 @@
     </message>
     <message>
         <source>How the notch opens: on hover, on click, or pressed and held.</source>
-        <translation>Ouverture de l’encoche : au survol, au clic ou par appui prolongé.</translation>
+        <translation>Ouverture de l’encoche&#xa0;: au survol, au clic ou par appui prolongé.</translation>
     </message>
     <message>
         <source>Seconds the pointer rests on the notch before it opens.</source>
@@ -512,11 +512,11 @@
     </message>
     <message>
         <source>Panel sections pinned in the opened notch, in order (&quot;media&quot;, &quot;calendar&quot;, &quot;weather&quot;, &quot;batteries&quot;, &quot;fileTray&quot;); empty shows every section with something to show.</source>
-        <translation>Sections épinglées dans l’encoche ouverte, dans l’ordre (&quot;media&quot;, &quot;calendar&quot;, &quot;weather&quot;, &quot;batteries&quot;, &quot;fileTray&quot;) ; vide affiche toutes les sections qui ont quelque chose à montrer.</translation>
+        <translation>Sections épinglées dans l’encoche ouverte, dans l’ordre (&quot;media&quot;, &quot;calendar&quot;, &quot;weather&quot;, &quot;batteries&quot;, &quot;fileTray&quot;)&#xa0;; vide affiche toutes les sections qui ont quelque chose à montrer.</translation>
     </message>
     <message>
         <source>Where the playing track comes from: automatic, or only the player scripts, which exist on a Mac alone (on the desktop that shows nothing).</source>
-        <translation>Provenance du morceau en cours : automatique, ou seulement les scripts des lecteurs, qui n’existent que sur Mac (sur ce bureau, rien ne s’affiche).</translation>
+        <translation>Provenance du morceau en cours&#xa0;: automatique, ou seulement les scripts des lecteurs, qui n’existent que sur Mac (sur ce bureau, rien ne s’affiche).</translation>
     </message>
     <message>
         <source>The system version on which the basic-mode notice was last shown.</source>
@@ -528,7 +528,7 @@
     </message>
     <message>
         <source>How long a paused track stays shown: short, long or until resumed.</source>
-        <translation>Durée d’affichage d’un morceau en pause : courte, longue ou jusqu’à la reprise.</translation>
+        <translation>Durée d’affichage d’un morceau en pause&#xa0;: courte, longue ou jusqu’à la reprise.</translation>
     </message>
     <message>
         <source>The progress bar in the standard colour or the cover&apos;s.</source>
@@ -544,11 +544,11 @@
     </message>
     <message>
         <source>How the level is drawn: a continuous bar, segments or a ring.</source>
-        <translation>Dessin du niveau : barre continue, segments ou anneau.</translation>
+        <translation>Dessin du niveau&#xa0;: barre continue, segments ou anneau.</translation>
     </message>
     <message>
         <source>The level&apos;s colour: white, by level, or the accent colour.</source>
-        <translation>Couleur du niveau : blanc, selon le niveau ou couleur d’accentuation.</translation>
+        <translation>Couleur du niveau&#xa0;: blanc, selon le niveau ou couleur d’accentuation.</translation>
     </message>
     <message>
         <source>Seconds the level stays shown after a change.</source>
@@ -640,7 +640,7 @@
     </message>
     <message>
         <source>How you travel to meetings: by car, on foot or by transit.</source>
-        <translation>Comment vous vous rendez aux réunions : en voiture, à pied ou en transports en commun.</translation>
+        <translation>Comment vous vous rendez aux réunions&#xa0;: en voiture, à pied ou en transports en commun.</translation>
     </message>
     <message>
         <source>Minutes added to the travel time.</source>
@@ -732,7 +732,7 @@
     </message>
     <message>
         <source>The lock-screen widgets&apos; background: clear, light frost or frosted.</source>
-        <translation>Fond des widgets de l’écran de verrouillage : transparent, légèrement dépoli ou dépoli.</translation>
+        <translation>Fond des widgets de l’écran de verrouillage&#xa0;: transparent, légèrement dépoli ou dépoli.</translation>
     </message>
     <message>
         <source>Vertical offset in points of the lock-screen widgets.</source>
@@ -776,7 +776,7 @@
     </message>
     <message>
         <source>Where the playing track comes from: automatic (the desktop&apos;s players), or only the player scripts of a Mac, which show nothing here.</source>
-        <translation>Provenance du morceau en cours : automatique (les lecteurs du bureau), ou seulement les scripts des lecteurs d’un Mac, qui n’affichent rien ici.</translation>
+        <translation>Provenance du morceau en cours&#xa0;: automatique (les lecteurs du bureau), ou seulement les scripts des lecteurs d’un Mac, qui n’affichent rien ici.</translation>
     </message>
     <message>
         <source>Show volume changes in the notch. Alt-Shift with a volume or brightness key changes it in smaller steps.</source>
@@ -796,14 +796,14 @@
     </message>
     <message>
         <source>Sections pinned in the opened notch: tick them and drag them into order. With none ticked, every section with something to show appears.</source>
-        <translation>Sections épinglées dans l’encoche ouverte : cochez-les et faites-les glisser dans l’ordre voulu. Si aucune n’est cochée, toute section qui a quelque chose à montrer apparaît.</translation>
+        <translation>Sections épinglées dans l’encoche ouverte&#xa0;: cochez-les et faites-les glisser dans l’ordre voulu. Si aucune n’est cochée, toute section qui a quelque chose à montrer apparaît.</translation>
     </message>
 </context>
 <context>
     <name>SettingsNotes</name>
     <message>
         <source>No window can be drawn above the screen locker of a Linux desktop, so there are no lock-screen widgets here; the notch hides while the screen is locked.</source>
-        <translation>Aucune fenêtre ne peut s’afficher au-dessus du verrouillage d’écran d’un bureau Linux : il n’y a donc pas de widgets sur l’écran de verrouillage ici ; l’encoche se masque tant que l’écran est verrouillé.</translation>
+        <translation>Aucune fenêtre ne peut s’afficher au-dessus du verrouillage d’écran d’un bureau Linux&#xa0;: il n’y a donc pas de widgets sur l’écran de verrouillage ici&#xa0;; l’encoche se masque tant que l’écran est verrouillé.</translation>
     </message>
     <message>
         <source>If this computer ignores Tindra&apos;s changes, the keys go back to the desktop and the notch only shows the level.</source>
@@ -819,15 +819,15 @@
     </message>
     <message>
         <source>Links: Tindra remembers where they are; nothing is copied. Copies: Tindra keeps a copy, so they stay usable if the originals go; removing it from the tray deletes the copy, never the original.</source>
-        <translation>Liens : Tindra retient où se trouvent les fichiers ; rien n’est copié. Copies : Tindra garde une copie, utilisable même si les originaux disparaissent ; la retirer du plateau supprime la copie, jamais l’original.</translation>
+        <translation>Liens&#xa0;: Tindra retient où se trouvent les fichiers&#xa0;; rien n’est copié. Copies&#xa0;: Tindra garde une copie, utilisable même si les originaux disparaissent&#xa0;; la retirer du plateau supprime la copie, jamais l’original.</translation>
     </message>
     <message>
         <source>A ringing call shows only that it rings; answer it on the desktop&apos;s notification. Messages and missed calls show who and what, with a button that opens the application that sent them. Nothing is stored or sent, and nothing shows while do-not-disturb is on.</source>
-        <translation>Un appel entrant indique seulement qu’il sonne ; répondez-y depuis la notification du bureau. Les messages et les appels manqués indiquent qui et quoi, avec un bouton qui ouvre l’application d’origine. Rien n’est enregistré ni envoyé, et rien ne s’affiche quand « Ne pas déranger » est activé.</translation>
+        <translation>Un appel entrant indique seulement qu’il sonne&#xa0;; répondez-y depuis la notification du bureau. Les messages et les appels manqués indiquent qui et quoi, avec un bouton qui ouvre l’application d’origine. Rien n’est enregistré ni envoyé, et rien ne s’affiche quand «&#xa0;Ne pas déranger&#xa0;» est activé.</translation>
     </message>
     <message>
         <source>Scroll on the notch with two fingers or the mouse wheel, as if moving a page: down opens it, up closes it, sideways skips tracks.</source>
-        <translation>Faites défiler sur l’encoche avec deux doigts ou la molette, comme pour déplacer une page : vers le bas pour l’ouvrir, vers le haut pour la fermer, sur le côté pour changer de morceau.</translation>
+        <translation>Faites défiler sur l’encoche avec deux doigts ou la molette, comme pour déplacer une page&#xa0;: vers le bas pour l’ouvrir, vers le haut pour la fermer, sur le côté pour changer de morceau.</translation>
     </message>
     <message>
         <source>Drag the closed notch down to open it, or sideways to skip tracks.</source>
@@ -835,7 +835,7 @@
     </message>
     <message>
         <source>The desktop shows through where the window manager draws windows translucent; elsewhere the glass is dark grey.</source>
-        <translation>Le bureau transparaît là où le gestionnaire de fenêtres dessine les fenêtres translucides ; ailleurs, le verre est gris foncé.</translation>
+        <translation>Le bureau transparaît là où le gestionnaire de fenêtres dessine les fenêtres translucides&#xa0;; ailleurs, le verre est gris foncé.</translation>
     </message>
 </context>
 <context>
@@ -980,7 +980,7 @@
     </message>
     <message>
         <source>Stream gave %1 update(s) and %2 unreadable line(s) in %3 s: %4.</source>
-        <translation>Le flux a donné %1 mise(s) à jour et %2 ligne(s) illisible(s) en %3 s : %4.</translation>
+        <translation>Le flux a donné %1 mise(s) à jour et %2 ligne(s) illisible(s) en %3 s&#xa0;: %4.</translation>
     </message>
     <message>
         <source>Stream skipped because the self-test failed.</source>
@@ -988,7 +988,7 @@
     </message>
     <message>
         <source>Could not launch stream: %1</source>
-        <translation>Impossible de lancer le flux : %1</translation>
+        <translation>Impossible de lancer le flux&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -999,7 +999,7 @@
     </message>
     <message>
         <source>the adapter&apos;s stream keeps failing: testing the adapter again</source>
-        <translation>le flux de l’adaptateur échoue sans cesse : nouveau test de l’adaptateur</translation>
+        <translation>le flux de l’adaptateur échoue sans cesse&#xa0;: nouveau test de l’adaptateur</translation>
     </message>
 </context>
 <context>
@@ -1010,7 +1010,7 @@
     </message>
     <message>
         <source>Could not launch %1: %2</source>
-        <translation>Impossible de lancer %1 : %2</translation>
+        <translation>Impossible de lancer %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>The adapter&apos;s self-test passed.</source>
@@ -1022,7 +1022,7 @@
     </message>
     <message>
         <source>Adapter not bundled; missing: %1 %2</source>
-        <translation>Adaptateur non fourni ; manquant : %1 %2</translation>
+        <translation>Adaptateur non fourni&#xa0;; manquant&#xa0;: %1 %2</translation>
     </message>
 </context>
 <context>
@@ -1040,15 +1040,15 @@
     </message>
     <message>
         <source>BlueZ does not answer (%1): no accessories are shown</source>
-        <translation>BlueZ ne répond pas (%1) : aucun accessoire n’est affiché</translation>
+        <translation>BlueZ ne répond pas (%1)&#xa0;: aucun accessoire n’est affiché</translation>
     </message>
     <message>
         <source>BlueZ went away: no accessories are shown until it returns</source>
-        <translation>BlueZ a disparu : aucun accessoire n’est affiché jusqu’à son retour</translation>
+        <translation>BlueZ a disparu&#xa0;: aucun accessoire n’est affiché jusqu’à son retour</translation>
     </message>
     <message>
         <source>following BlueZ: %1 Bluetooth devices known</source>
-        <translation>suit BlueZ : %1 appareils Bluetooth connus</translation>
+        <translation>suit BlueZ&#xa0;: %1 appareils Bluetooth connus</translation>
     </message>
 </context>
 <context>
@@ -1063,7 +1063,7 @@
     </message>
     <message>
         <source>another program holds %1 on the session bus: `tindra level` commands go there</source>
-        <translation>un autre programme détient %1 sur le bus de session : les commandes `tindra level` y vont</translation>
+        <translation>un autre programme détient %1 sur le bus de session&#xa0;: les commandes `tindra level` y vont</translation>
     </message>
 </context>
 <context>
@@ -1074,7 +1074,7 @@
     </message>
     <message>
         <source>%1; the last good copy is kept</source>
-        <translation>%1 ; la dernière copie valide est conservée</translation>
+        <translation>%1&#xa0;; la dernière copie valide est conservée</translation>
     </message>
     <message numerus="yes">
         <source>%n document(s) could not be read (%1)</source>
@@ -1197,15 +1197,15 @@
     <name>tindra::DBusNotificationMonitor</name>
     <message>
         <source>calls and messages are off: notifications are not read</source>
-        <translation>appels et messages désactivés : les notifications ne sont pas lues</translation>
+        <translation>appels et messages désactivés&#xa0;: les notifications ne sont pas lues</translation>
     </message>
     <message>
         <source>the session bus does not let Tindra read notifications (%1): no calls or messages are shown</source>
-        <translation>le bus de session ne laisse pas Tindra lire les notifications (%1) : aucun appel ni message n’est affiché</translation>
+        <translation>le bus de session ne laisse pas Tindra lire les notifications (%1)&#xa0;: aucun appel ni message n’est affiché</translation>
     </message>
     <message>
         <source>no notification server runs on the session bus: calls and messages show once one starts</source>
-        <translation>aucun serveur de notifications ne tourne sur le bus de session : appels et messages s’afficheront dès qu’il y en aura un</translation>
+        <translation>aucun serveur de notifications ne tourne sur le bus de session&#xa0;: appels et messages s’afficheront dès qu’il y en aura un</translation>
     </message>
     <message>
         <source>reading notification banners for calls and messages</source>
@@ -1213,7 +1213,7 @@
     </message>
     <message>
         <source>the session bus closed the notification monitor: no calls or messages are shown</source>
-        <translation>le bus de session a fermé la surveillance des notifications : aucun appel ni message n’est affiché</translation>
+        <translation>le bus de session a fermé la surveillance des notifications&#xa0;: aucun appel ni message n’est affiché</translation>
     </message>
 </context>
 <context>
@@ -1270,7 +1270,7 @@
     <name>tindra::FakeFocusStatusSource</name>
     <message>
         <source>invented do-not-disturb (TINDRA_FAKE)</source>
-        <translation>« Ne pas déranger » fictif (TINDRA_FAKE)</translation>
+        <translation>«&#xa0;Ne pas déranger&#xa0;» fictif (TINDRA_FAKE)</translation>
     </message>
 </context>
 <context>
@@ -1323,11 +1323,11 @@
     </message>
     <message>
         <source>some items of the saved file tray could not be read and were left out; the list as it was is kept as %1</source>
-        <translation>certains éléments du plateau de fichiers enregistré étaient illisibles et ont été omis ; la liste d’origine est conservée sous %1</translation>
+        <translation>certains éléments du plateau de fichiers enregistré étaient illisibles et ont été omis&#xa0;; la liste d’origine est conservée sous %1</translation>
     </message>
     <message>
         <source>the saved file tray %1; it is kept as %2 and the tray starts empty</source>
-        <translation>le plateau de fichiers enregistré %1 ; il est conservé sous %2 et le plateau démarre vide</translation>
+        <translation>le plateau de fichiers enregistré %1&#xa0;; il est conservé sous %2 et le plateau démarre vide</translation>
     </message>
     <message>
         <source>was written by a newer Tindra</source>
@@ -1343,11 +1343,11 @@
     </message>
     <message>
         <source>Already in the tray:</source>
-        <translation>Déjà dans le plateau :</translation>
+        <translation>Déjà dans le plateau&#xa0;:</translation>
     </message>
     <message>
         <source>The tray is full:</source>
-        <translation>Le plateau est plein :</translation>
+        <translation>Le plateau est plein&#xa0;:</translation>
     </message>
     <message>
         <source>not added. Remove some items first.</source>
@@ -1355,11 +1355,11 @@
     </message>
     <message>
         <source>Only files and folders can go in the tray:</source>
-        <translation>Seuls des fichiers et des dossiers peuvent aller dans le plateau :</translation>
+        <translation>Seuls des fichiers et des dossiers peuvent aller dans le plateau&#xa0;:</translation>
     </message>
     <message>
         <source>Copies in the tray are limited to 2 GB:</source>
-        <translation>Les copies dans le plateau sont limitées à 2 Go :</translation>
+        <translation>Les copies dans le plateau sont limitées à 2 Go&#xa0;:</translation>
     </message>
     <message>
         <source>could not be copied into the tray.</source>
@@ -1371,7 +1371,7 @@
     </message>
     <message>
         <source>the file tray is not saved: an unreadable list could not be moved aside</source>
-        <translation>le plateau de fichiers n’est pas enregistré : une liste illisible n’a pas pu être mise de côté</translation>
+        <translation>le plateau de fichiers n’est pas enregistré&#xa0;: une liste illisible n’a pas pu être mise de côté</translation>
     </message>
     <message numerus="yes">
         <source>Copying %n item(s) into the tray…</source>
@@ -1392,11 +1392,11 @@
     <name>tindra::GSettingsFocusSource</name>
     <message>
         <source>reading do-not-disturb from GNOME&apos;s settings (show-banners)</source>
-        <translation>lit « Ne pas déranger » dans les réglages de GNOME (show-banners)</translation>
+        <translation>lit «&#xa0;Ne pas déranger&#xa0;» dans les réglages de GNOME (show-banners)</translation>
     </message>
     <message>
         <source>GNOME&apos;s notification settings are not installed: do-not-disturb is unknown</source>
-        <translation>les réglages de notification de GNOME ne sont pas installés : « Ne pas déranger » est inconnu</translation>
+        <translation>les réglages de notification de GNOME ne sont pas installés&#xa0;: «&#xa0;Ne pas déranger&#xa0;» est inconnu</translation>
     </message>
 </context>
 <context>
@@ -1407,7 +1407,7 @@
     </message>
     <message>
         <source>GeoClue went away: the last position stays until it returns</source>
-        <translation>GeoClue a disparu : la dernière position reste jusqu’à son retour</translation>
+        <translation>GeoClue a disparu&#xa0;: la dernière position reste jusqu’à son retour</translation>
     </message>
     <message>
         <source>GeoClue is not available (%1)</source>
@@ -1426,7 +1426,7 @@
     <name>tindra::HudProvider</name>
     <message>
         <source>the keyboard backlight ignores Tindra&apos;s changes: the keys go back to the desktop and the notch only shows the level</source>
-        <translation>le rétroéclairage du clavier ignore les changements de Tindra : les touches reviennent au bureau et l’encoche n’affiche que le niveau</translation>
+        <translation>le rétroéclairage du clavier ignore les changements de Tindra&#xa0;: les touches reviennent au bureau et l’encoche n’affiche que le niveau</translation>
     </message>
     <message>
         <source>holds %1</source>
@@ -1445,7 +1445,7 @@
     <name>tindra::ICalendarBackend</name>
     <message>
         <source>%1 cannot be read: %2</source>
-        <translation>%1 ne peut pas être lu : %2</translation>
+        <translation>%1 ne peut pas être lu&#xa0;: %2</translation>
     </message>
     <message>
         <source>the calendar list was not readable and was set aside as %1</source>
@@ -1461,7 +1461,7 @@
     </message>
     <message>
         <source>Use an https:// or webcal:// address: a calendar fetched over plain http can be read by anyone on the way.</source>
-        <translation>Utilisez une adresse https:// ou webcal:// : un calendrier récupéré en http simple peut être lu par n’importe qui en chemin.</translation>
+        <translation>Utilisez une adresse https:// ou webcal://&#xa0;: un calendrier récupéré en http simple peut être lu par n’importe qui en chemin.</translation>
     </message>
     <message>
         <source>This calendar is already in the list.</source>
@@ -1476,7 +1476,7 @@
     </message>
     <message>
         <source>no calendars: add an iCalendar file, folder or address in Settings</source>
-        <translation>aucun calendrier : ajoutez un fichier, un dossier ou une adresse iCalendar dans les Réglages</translation>
+        <translation>aucun calendrier&#xa0;: ajoutez un fichier, un dossier ou une adresse iCalendar dans les Réglages</translation>
     </message>
 </context>
 <context>
@@ -1498,15 +1498,15 @@
     </message>
     <message>
         <source>logind went away: the screen lock is not followed until it returns</source>
-        <translation>logind a disparu : le verrouillage d’écran n’est pas suivi jusqu’à son retour</translation>
+        <translation>logind a disparu&#xa0;: le verrouillage d’écran n’est pas suivi jusqu’à son retour</translation>
     </message>
     <message>
         <source>logind does not know this session (%1): the screen lock is not followed</source>
-        <translation>logind ne connaît pas cette session (%1) : le verrouillage d’écran n’est pas suivi</translation>
+        <translation>logind ne connaît pas cette session (%1)&#xa0;: le verrouillage d’écran n’est pas suivi</translation>
     </message>
     <message>
         <source>logind does not answer (%1): the screen lock is not followed</source>
-        <translation>logind ne répond pas (%1) : le verrouillage d’écran n’est pas suivi</translation>
+        <translation>logind ne répond pas (%1)&#xa0;: le verrouillage d’écran n’est pas suivi</translation>
     </message>
     <message>
         <source>following the screen lock of logind&apos;s session %1</source>
@@ -1517,34 +1517,34 @@
     <name>tindra::NotificationServerFocusSource</name>
     <message>
         <source>asking the notification server for do-not-disturb</source>
-        <translation>interroge le serveur de notifications sur « Ne pas déranger »</translation>
+        <translation>interroge le serveur de notifications sur «&#xa0;Ne pas déranger&#xa0;»</translation>
     </message>
     <message>
         <source>no notification server runs: do-not-disturb is unknown until one starts</source>
-        <translation>aucun serveur de notifications ne tourne : « Ne pas déranger » est inconnu jusqu’à ce qu’un serveur démarre</translation>
+        <translation>aucun serveur de notifications ne tourne&#xa0;: «&#xa0;Ne pas déranger&#xa0;» est inconnu jusqu’à ce qu’un serveur démarre</translation>
     </message>
     <message>
         <source>the notification server went away: do-not-disturb is unknown until it returns</source>
-        <translation>le serveur de notifications a disparu : « Ne pas déranger » est inconnu jusqu’à son retour</translation>
+        <translation>le serveur de notifications a disparu&#xa0;: «&#xa0;Ne pas déranger&#xa0;» est inconnu jusqu’à son retour</translation>
     </message>
     <message>
         <source>reading do-not-disturb from the notification server (Inhibited)</source>
-        <translation>lit « Ne pas déranger » auprès du serveur de notifications (Inhibited)</translation>
+        <translation>lit «&#xa0;Ne pas déranger&#xa0;» auprès du serveur de notifications (Inhibited)</translation>
     </message>
     <message>
         <source>the notification server does not report do-not-disturb (no Inhibited property): only `tindra focus` shows a Focus</source>
-        <translation>le serveur de notifications ne signale pas « Ne pas déranger » (pas de propriété Inhibited) : seul `tindra focus` affiche une Concentration</translation>
+        <translation>le serveur de notifications ne signale pas «&#xa0;Ne pas déranger&#xa0;» (pas de propriété Inhibited)&#xa0;: seul `tindra focus` affiche une Concentration</translation>
     </message>
 </context>
 <context>
     <name>tindra::NowPlayingProvider</name>
     <message>
         <source>Settings ask for the player scripts, which this desktop does not have: nothing is shown as playing.</source>
-        <translation>Les Réglages demandent les scripts des lecteurs, que ce bureau n’a pas : rien n’est affiché comme en cours de lecture.</translation>
+        <translation>Les Réglages demandent les scripts des lecteurs, que ce bureau n’a pas&#xa0;: rien n’est affiché comme en cours de lecture.</translation>
     </message>
     <message>
         <source>testing the now-playing adapter %1</source>
-        <translation>teste l’adaptateur « À l’écoute » %1</translation>
+        <translation>teste l’adaptateur «&#xa0;À l’écoute&#xa0;» %1</translation>
     </message>
 </context>
 <context>
@@ -1555,7 +1555,7 @@
     </message>
     <message>
         <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ in use, – waiting or limited, ✗ not available, and what that means):&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Bienvenue dans Tindra&lt;/h2&gt;&lt;p&gt;La bande en haut de votre écran est désormais un petit affichage en direct. Fermée, elle montre une chose à la fois : ce qui est en lecture, un niveau de volume ou de luminosité, un avis de batterie ou de casque, la prochaine réunion, un appel ou un message. Posez le pointeur dessus et elle s’ouvre en un panneau avec les commandes, votre calendrier, la météo, vos batteries et un plateau de fichiers. Tout reste sur cet ordinateur.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Ce que Tindra a trouvé ici&lt;/b&gt; (✓ utilisé, – en attente ou limité, ✗ indisponible, et ce que cela signifie) :&lt;/p&gt;</translation>
+        <translation>&lt;h2&gt;Bienvenue dans Tindra&lt;/h2&gt;&lt;p&gt;La bande en haut de votre écran est désormais un petit affichage en direct. Fermée, elle montre une chose à la fois&#xa0;: ce qui est en lecture, un niveau de volume ou de luminosité, un avis de batterie ou de casque, la prochaine réunion, un appel ou un message. Posez le pointeur dessus et elle s’ouvre en un panneau avec les commandes, votre calendrier, la météo, vos batteries et un plateau de fichiers. Tout reste sur cet ordinateur.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Ce que Tindra a trouvé ici&lt;/b&gt; (✓ utilisé, – en attente ou limité, ✗ indisponible, et ce que cela signifie)&#xa0;:&lt;/p&gt;</translation>
     </message>
     <message>
         <source>&lt;b&gt;The notch opens&lt;/b&gt;</source>
@@ -1642,7 +1642,7 @@
     </message>
     <message>
         <source>the sound server went away: no volume until it returns</source>
-        <translation>le serveur de son a disparu : pas de volume jusqu’à son retour</translation>
+        <translation>le serveur de son a disparu&#xa0;: pas de volume jusqu’à son retour</translation>
     </message>
 </context>
 <context>
@@ -1692,7 +1692,7 @@
     </message>
     <message>
         <source>The change was not saved: %1</source>
-        <translation>La modification n’a pas été enregistrée : %1</translation>
+        <translation>La modification n’a pas été enregistrée&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -1715,7 +1715,7 @@
     </message>
     <message>
         <source>Each service Tindra uses says here whether it answers, and every change since Tindra started is in the log. The report has the versions, the session and the log, for a bug report; it names none of your files, events or messages.</source>
-        <translation>Chaque service utilisé par Tindra indique ici s’il répond, et chaque changement depuis le lancement de Tindra figure dans le journal. Le rapport contient les versions, la session et le journal, pour un rapport de bogue ; il ne cite aucun de vos fichiers, événements ou messages.</translation>
+        <translation>Chaque service utilisé par Tindra indique ici s’il répond, et chaque changement depuis le lancement de Tindra figure dans le journal. Le rapport contient les versions, la session et le journal, pour un rapport de bogue&#xa0;; il ne cite aucun de vos fichiers, événements ou messages.</translation>
     </message>
 </context>
 <context>
@@ -1726,26 +1726,26 @@
     </message>
     <message>
         <source>%1 is shown; logind is not running, so the brightness keys stay with the desktop</source>
-        <translation>%1 est affiché ; logind ne tourne pas, les touches de luminosité restent donc au bureau</translation>
+        <translation>%1 est affiché&#xa0;; logind ne tourne pas, les touches de luminosité restent donc au bureau</translation>
     </message>
     <message>
         <source>no display backlight in %1: the brightness keys stay with the desktop</source>
-        <translation>pas de rétroéclairage d’écran dans %1 : les touches de luminosité restent au bureau</translation>
+        <translation>pas de rétroéclairage d’écran dans %1&#xa0;: les touches de luminosité restent au bureau</translation>
     </message>
     <message>
         <source>%1 is shown; asking whether logind runs to set it</source>
-        <translation>%1 est affiché ; vérifie si logind tourne pour le régler</translation>
+        <translation>%1 est affiché&#xa0;; vérifie si logind tourne pour le régler</translation>
     </message>
     <message>
         <source>%1 is shown; logind refused to set it (%2), so the brightness keys stay with the desktop</source>
-        <translation>%1 est affiché ; logind a refusé de le régler (%2), les touches de luminosité restent donc au bureau</translation>
+        <translation>%1 est affiché&#xa0;; logind a refusé de le régler (%2), les touches de luminosité restent donc au bureau</translation>
     </message>
 </context>
 <context>
     <name>tindra::TindraApp</name>
     <message>
         <source>Check Now Playing adapter</source>
-        <translation>Vérifier l’adaptateur « À l’écoute »</translation>
+        <translation>Vérifier l’adaptateur «&#xa0;À l’écoute&#xa0;»</translation>
     </message>
 </context>
 <context>
@@ -1764,18 +1764,18 @@
     </message>
     <message>
         <source>UPower does not answer (%1): no battery is shown</source>
-        <translation>UPower ne répond pas (%1) : aucune batterie n’est affichée</translation>
+        <translation>UPower ne répond pas (%1)&#xa0;: aucune batterie n’est affichée</translation>
     </message>
     <message>
         <source>UPower went away: no battery is shown until it returns</source>
-        <translation>UPower a disparu : aucune batterie n’est affichée jusqu’à son retour</translation>
+        <translation>UPower a disparu&#xa0;: aucune batterie n’est affichée jusqu’à son retour</translation>
     </message>
 </context>
 <context>
     <name>tindra::UPowerKeyboardBacklightBackend</name>
     <message>
         <source>UPower went away: the keyboard light keys stay with the desktop</source>
-        <translation>UPower a disparu : les touches d’éclairage du clavier restent au bureau</translation>
+        <translation>UPower a disparu&#xa0;: les touches d’éclairage du clavier restent au bureau</translation>
     </message>
     <message>
         <source>UPower reports no keyboard backlight (%1)</source>
@@ -1798,7 +1798,7 @@
     <name>tindra::VisibilityMonitor</name>
     <message>
         <source>the notch steps aside: %1</source>
-        <translation>l’encoche s’efface : %1</translation>
+        <translation>l’encoche s’efface&#xa0;: %1</translation>
     </message>
     <message>
         <source>the notch shows</source>
@@ -1813,7 +1813,7 @@
     </message>
     <message>
         <source>position: %1; %2</source>
-        <translation>position : %1 ; %2</translation>
+        <translation>position&#xa0;: %1&#xa0;; %2</translation>
     </message>
     <message>
         <source>none yet</source>
@@ -1821,7 +1821,7 @@
     </message>
     <message>
         <source>; the last request failed (%1)</source>
-        <translation> ; la dernière requête a échoué (%1)</translation>
+        <translation>&#xa0;; la dernière requête a échoué (%1)</translation>
     </message>
     <message>
         <source>set in Settings</source>
@@ -1856,7 +1856,7 @@
     <name>tindra::WeatherSettingsEditor</name>
     <message>
         <source>Position in use:</source>
-        <translation>Position utilisée :</translation>
+        <translation>Position utilisée&#xa0;:</translation>
     </message>
     <message>
         <source>Pick a city</source>
@@ -1864,7 +1864,7 @@
     </message>
     <message>
         <source>My place:</source>
-        <translation>Mon lieu :</translation>
+        <translation>Mon lieu&#xa0;:</translation>
     </message>
     <message>
         <source>Use These</source>
@@ -1876,7 +1876,7 @@
     </message>
     <message>
         <source>Latitude, longitude:</source>
-        <translation>Latitude, longitude :</translation>
+        <translation>Latitude, longitude&#xa0;:</translation>
     </message>
     <message>
         <source>An e-mail address MET Norway may reach you at (optional)</source>
@@ -1884,7 +1884,7 @@
     </message>
     <message>
         <source>Contact:</source>
-        <translation>Contact :</translation>
+        <translation>Contact&#xa0;:</translation>
     </message>
     <message>
         <source>As the region says</source>
@@ -1900,7 +1900,7 @@
     </message>
     <message>
         <source>Unit:</source>
-        <translation>Unité :</translation>
+        <translation>Unité&#xa0;:</translation>
     </message>
     <message>
         <source>No city called %1 is known.</source>
@@ -1925,7 +1925,7 @@
     <name>tindra::X11MediaKeySource</name>
     <message>
         <source>no X display: the keys stay with the desktop, and the level changes it makes are shown</source>
-        <translation>pas d’affichage X : les touches restent au bureau, et les changements de niveau qu’il fait sont affichés</translation>
+        <translation>pas d’affichage X&#xa0;: les touches restent au bureau, et les changements de niveau qu’il fait sont affichés</translation>
     </message>
     <message>
         <source>holding no keys</source>
@@ -1937,14 +1937,14 @@
     </message>
     <message>
         <source>the X server closed the connection: the keys stay with the desktop</source>
-        <translation>le serveur X a fermé la connexion : les touches restent au bureau</translation>
+        <translation>le serveur X a fermé la connexion&#xa0;: les touches restent au bureau</translation>
     </message>
 </context>
 <context>
     <name>tindra::X11VisibilitySource</name>
     <message>
         <source>no X display: the notch never steps aside for full-screen windows or games</source>
-        <translation>pas d’affichage X : l’encoche ne s’efface jamais devant les fenêtres en plein écran ou les jeux</translation>
+        <translation>pas d’affichage X&#xa0;: l’encoche ne s’efface jamais devant les fenêtres en plein écran ou les jeux</translation>
     </message>
     <message>
         <source>following the active window and full-screen state from the window manager (EWMH)</source>
@@ -1952,7 +1952,7 @@
     </message>
     <message>
         <source>the X server closed the connection: the notch no longer steps aside</source>
-        <translation>le serveur X a fermé la connexion : l’encoche ne s’efface plus</translation>
+        <translation>le serveur X a fermé la connexion&#xa0;: l’encoche ne s’efface plus</translation>
     </message>
 </context>
 </TS>
