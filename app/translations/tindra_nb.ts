@@ -315,7 +315,7 @@
     </message>
     <message>
         <source>File Tray</source>
-        <translation>Filskuff</translation>
+        <translation>Filbrett</translation>
     </message>
     <message>
         <source>Now Playing</source>
