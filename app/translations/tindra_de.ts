@@ -227,7 +227,7 @@
     </message>
     <message>
         <source>Stop</source>
-        <translation>Stopp</translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>This file was moved to a place Tindra cannot find, or deleted.</source>

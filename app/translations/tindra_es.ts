@@ -171,7 +171,7 @@
     </message>
     <message>
         <source>On power</source>
-        <translation>Conectado a corriente</translation>
+        <translation>Enchufado</translation>
     </message>
     <message>
         <source>On battery</source>
