@@ -30,6 +30,7 @@ TindraApp::TindraApp(Options options, QObject* parent)
       shell_(std::make_unique<ShellActions>(*settings_, *diagnostics_, views_)),
       tray_(std::make_unique<TrayItem>(*settings_, *shell_)),
       screens_(makePlatformScreenSource()) {
+  shell_->setDisplays(screens_.get());
   startProviders();
   offerProvidersToShell();
   content_ = std::make_unique<NotchContent>(*activities_, *settings_, views_);

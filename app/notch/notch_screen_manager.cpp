@@ -58,9 +58,15 @@ void NotchScreenManager::rebuild() {
   const ScreenCoordinates coordinates = screens_.coordinates();
   std::vector<DisplayCandidate> candidates;
   for (const PlatformScreen& screen : screens) candidates.push_back(screen.candidate);
+  // A choice made by connector, before displays went by their product names, still holds.
+  const auto refersTo = [&screens](const DisplayCandidate& candidate, std::string_view stored) {
+    return std::ranges::any_of(screens, [&](const PlatformScreen& screen) {
+      return screen.candidate.id == candidate.id && ScreenSource::refersTo(screen, stored);
+    });
+  };
   const std::vector<DisplayCandidate> chosen = DisplayPicker::pick(
       candidates, DisplaySelection::fromText(settings_.read(settings::displaySelection)),
-      settings_.read(settings::showOnDisplaysWithoutNotch));
+      settings_.read(settings::showOnDisplaysWithoutNotch), refersTo);
 
   const std::optional<double> height = simulatedHeight();
   const double width = settings_.read(settings::simulatedNotchWidth);

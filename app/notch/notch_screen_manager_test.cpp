@@ -8,49 +8,11 @@
 #include "base/activity_center.h"
 #include "notch/notch_window.h"
 #include "settings/settings_keys.h"
+#include "testing/fake_screen_source.h"
 #include "views/notch_content.h"
 
 namespace tindra {
 namespace {
-
-// Screens as a test describes them, in Qt's top-left coordinates like the real source.
-class FakeScreenSource : public ScreenSource {
- public:
-  struct Screen {
-    std::uint32_t id;
-    std::string name;
-    QRect geometry;
-    QRect available;
-    bool isMain = false;
-  };
-
-  void set(std::vector<Screen> screens) {
-    screens_ = std::move(screens);
-    emit screensChanged();
-  }
-
-  ScreenCoordinates coordinates() const override {
-    for (const Screen& s : screens_) {
-      if (s.isMain) return {static_cast<double>(s.geometry.bottom() + 1)};
-    }
-    return {};
-  }
-
-  std::vector<PlatformScreen> screens() const override {
-    std::vector<PlatformScreen> result;
-    for (const Screen& s : screens_) {
-      PlatformScreen p;
-      p.candidate = {s.id, s.name, false, s.isMain, false};
-      p.descriptor.frame = coordinates().toCore(s.geometry);
-      p.descriptor.visibleFrame = coordinates().toCore(s.available);
-      result.push_back(p);
-    }
-    return result;
-  }
-
- private:
-  std::vector<Screen> screens_;
-};
 
 // A laptop-sized main display with a 30-point top panel, and a smaller one to its right whose
 // top sits lower.
@@ -127,6 +89,37 @@ TEST_F(NotchScreenManagerTest, FollowsDisplaysAddedRemovedAndResized) {
   EXPECT_EQ(notches(), (std::vector<QRectF>{{865, 0, 190, 30}}));
   source_.set({wide, small});
   EXPECT_EQ(notches(), (std::vector<QRectF>{{2465, 200, 190, 24}}));
+}
+
+TEST_F(NotchScreenManagerTest, ANamedChoiceFindsItsDisplayByTheNamesItWentBy) {
+  // Two monitors of one model: "DELL U2720Q (DP-1)" and "DELL U2720Q (HDMI-1)".
+  FakeScreenSource::Screen left = wide;
+  FakeScreenSource::Screen right = small;
+  left.productName = right.productName = "DELL U2720Q";
+  source_.set({left, right});
+  const std::vector<QRectF> both = notches();
+  const auto chosen = [this](const std::string& selection) {
+    EXPECT_TRUE(store_.write(settings::displaySelection, selection));
+    return notches();
+  };
+  EXPECT_EQ(chosen("named:DELL U2720Q (HDMI-1)"), (std::vector{both[1]}));
+  EXPECT_EQ(chosen("named:HDMI-1"), (std::vector{both[1]})) << "by connector, as stored before";
+  EXPECT_EQ(chosen("named:DELL U2720Q"), both) << "a model name means every monitor of it";
+
+  // The twin chosen by its bracketed name is unplugged: the main display has the notch until
+  // it is back.
+  source_.set({left});
+  EXPECT_EQ(chosen("named:DELL U2720Q (HDMI-1)"), (std::vector{both[0]}));
+  source_.set({left, right});
+  EXPECT_EQ(notches(), (std::vector{both[1]}));
+
+  // A laptop panel is the built-in display, whatever its connector or product code.
+  FakeScreenSource::Screen panel = wide;
+  panel.connector = "eDP-1";
+  panel.productName = "0x08E8";
+  source_.set({panel, small});
+  EXPECT_EQ(chosen("builtIn"), (std::vector{both[0]}));
+  EXPECT_EQ(chosen("named:eDP-1"), (std::vector{both[0]}));
 }
 
 TEST_F(NotchScreenManagerTest, StepsAsideWhileLockedEvenForDisplaysThatArrive) {

@@ -313,6 +313,22 @@ void SettingsWindow::setExtra(std::string_view name, QWidget* extra) {
   filter(search_.text());
 }
 
+void SettingsWindow::setEditor(std::string_view name, QWidget* editor,
+                               std::function<void(const JSONValue&)> show) {
+  auto row = rows_.find(name);
+  if (row == rows_.end()) {
+    delete editor;
+    return;
+  }
+  QGridLayout& grid = *pages_[static_cast<std::size_t>(row->second.page)].grid;
+  delete row->second.editor;
+  row->second.editor = editor;
+  row->second.show = std::move(show);
+  grid.addWidget(editor, row->second.line, 1);
+  refresh(name);
+  filter(search_.text());
+}
+
 void SettingsWindow::setHidden(std::function<bool(std::string_view name)> hidden) {
   hidden_ = std::move(hidden);
   filter(search_.text());

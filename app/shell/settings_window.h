@@ -40,6 +40,13 @@ class SettingsWindow : public QWidget {
   // Puts `extra` (owned from now on) under the key's row, shown and hidden with it: a note, or a
   // richer editor than the key's own (the list of calendars).
   void setExtra(std::string_view name, QWidget* extra);
+  // Puts `editor` (owned from now on) in place of the key's own, for a key whose values only the
+  // running program knows (the attached displays): `show` puts a value in it; it hands its edits
+  // to edit().
+  void setEditor(std::string_view name, QWidget* editor,
+                 std::function<void(const JSONValue&)> show);
+  // Writes `value` to the key as an edit in this window does; a failure is said below the pages.
+  void edit(std::string_view name, JSONValue value) { write(name, std::move(value)); }
   // Keys that do not apply here (the battery's on a desktop) are not listed.
   void setHidden(std::function<bool(std::string_view name)> hidden);
   // Puts `widget` (owned from now on) at the top of the page called `title` (the checks on the

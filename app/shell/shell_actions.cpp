@@ -10,6 +10,7 @@
 #include "settings/settings_keys.h"
 #include "shell/calendar_list_editor.h"
 #include "shell/diagnostics_window.h"
+#include "shell/display_selection_editor.h"
 #include "shell/settings_pages.h"
 #include "shell/settings_window.h"
 #include "shell/weather_settings_editor.h"
@@ -85,6 +86,18 @@ void ShellActions::openDiagnostics() {
   diagnosticsWindow_->activateWindow();
 }
 
+// The displays as a list to choose from, in place of the text of the choice.
+void ShellActions::offerDisplays() {
+  auto* displays = new DisplaySelectionEditor(*screens_);
+  const std::string name(settings::displaySelection.name);
+  connect(displays, &DisplaySelectionEditor::chosen, this,
+          [this, name](const QString& text) { settingsWindow_->edit(name, text.toStdString()); });
+  settingsWindow_->setEditor(name, displays, [displays](const JSONValue& value) {
+    displays->showSelection(value.asString() != nullptr ? QString::fromStdString(*value.asString())
+                                                        : QString());
+  });
+}
+
 void ShellActions::openSettings() {
   if (!settingsWindow_) {
     settingsWindow_ = std::make_unique<SettingsWindow>(settings_, views_);
@@ -96,6 +109,7 @@ void ShellActions::openSettings() {
       settingsWindow_->setExtra(settings::weatherEnabled.name,
                                 new WeatherSettingsEditor(*weather_, weather_->cities()));
     }
+    if (screens_ != nullptr) offerDisplays();
     settingsWindow_->addToPage(settingsPages().back().title, diagnosticsPanel());
     std::vector<Note> notes = notes_;
     for (const settings::SettingsKeyDescription& key : settings::allKeys()) {

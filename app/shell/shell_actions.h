@@ -18,6 +18,7 @@ namespace tindra {
 class ViewRegistry;
 
 class DiagnosticsLog;
+class ScreenSource;
 class WeatherProvider;
 class SettingsStore;
 
@@ -55,6 +56,8 @@ class ShellActions : public QObject {
   }
   // The weather's own settings, under weatherEnabled.
   void setWeather(WeatherProvider* weather) { weather_ = weather; }
+  // The attached displays, offered as the choice of displaySelection.
+  void setDisplays(ScreenSource* screens) { screens_ = screens; }
   SettingsWindow* settingsWindow() const { return settingsWindow_.get(); }
   // A check the Diagnostics window offers as a button; add before it is first opened.
   void addCheck(DiagnosticsWindow::Check check) { checks_.push_back(std::move(check)); }
@@ -70,6 +73,7 @@ class ShellActions : public QObject {
     notes_.push_back({std::move(name), std::move(text), unavailable});
   }
   QWidget* diagnosticsPanel();
+  void offerDisplays();
 
   SettingsStore& settings_;
   const ViewRegistry& views_;
@@ -93,6 +97,7 @@ class ShellActions : public QObject {
   };
   std::vector<Note> notes_;
   WeatherProvider* weather_ = nullptr;
+  ScreenSource* screens_ = nullptr;
 };
 
 }  // namespace tindra

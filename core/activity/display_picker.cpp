@@ -5,10 +5,11 @@
 namespace tindra {
 namespace {
 
-bool isSelected(const DisplayCandidate& candidate, const DisplaySelection& selection) {
+bool isSelected(const DisplayCandidate& candidate, const DisplaySelection& selection,
+                const DisplayPicker::NameMatch& refersTo) {
   switch (selection.kind()) {
     case DisplaySelection::Kind::named:
-      return candidate.name == selection.name();
+      return refersTo ? refersTo(candidate, selection.name()) : candidate.name == selection.name();
     case DisplaySelection::Kind::all:
       return true;
     case DisplaySelection::Kind::main:
@@ -20,10 +21,12 @@ bool isSelected(const DisplayCandidate& candidate, const DisplaySelection& selec
 }
 
 std::vector<DisplayCandidate> selected(const std::vector<DisplayCandidate>& ordered,
-                                       const DisplaySelection& selection) {
+                                       const DisplaySelection& selection,
+                                       const DisplayPicker::NameMatch& refersTo = {}) {
   std::vector<DisplayCandidate> result;
-  std::ranges::copy_if(ordered, std::back_inserter(result),
-                       [&](const DisplayCandidate& c) { return isSelected(c, selection); });
+  std::ranges::copy_if(ordered, std::back_inserter(result), [&](const DisplayCandidate& c) {
+    return isSelected(c, selection, refersTo);
+  });
   return result;
 }
 
@@ -31,11 +34,12 @@ std::vector<DisplayCandidate> selected(const std::vector<DisplayCandidate>& orde
 
 std::vector<DisplayCandidate> DisplayPicker::pick(std::span<const DisplayCandidate> candidates,
                                                   const DisplaySelection& selection,
-                                                  bool showOnDisplaysWithoutNotch) {
+                                                  bool showOnDisplaysWithoutNotch,
+                                                  const NameMatch& refersTo) {
   std::vector<DisplayCandidate> ordered(candidates.begin(), candidates.end());
   std::ranges::stable_sort(ordered, {}, &DisplayCandidate::id);
 
-  std::vector<DisplayCandidate> chosen = selected(ordered, selection);
+  std::vector<DisplayCandidate> chosen = selected(ordered, selection, refersTo);
   if (chosen.empty()) chosen = selected(ordered, DisplaySelection::main());
   if (chosen.empty() && !ordered.empty()) chosen.push_back(ordered.front());
 

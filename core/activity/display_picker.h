@@ -9,7 +9,9 @@
 // same order however the platform lists them, and "first" means the lowest id.
 #pragma once
 
+#include <functional>
 #include <span>
+#include <string_view>
 #include <vector>
 
 #include "activity/display_candidate.h"
@@ -18,9 +20,15 @@
 namespace tindra {
 
 struct DisplayPicker {
+  // Whether the name a `named` selection keeps means `candidate`. Without one, only a candidate
+  // of exactly that name does; a platform whose names change (a monitor once known by its
+  // connector) says which older names still mean it.
+  using NameMatch = std::function<bool(const DisplayCandidate& candidate, std::string_view name)>;
+
   static std::vector<DisplayCandidate> pick(std::span<const DisplayCandidate> candidates,
                                             const DisplaySelection& selection,
-                                            bool showOnDisplaysWithoutNotch);
+                                            bool showOnDisplaysWithoutNotch,
+                                            const NameMatch& refersTo = {});
 };
 
 }  // namespace tindra

@@ -48,5 +48,22 @@ TEST(DisplayPicker, DisplaysWithoutANotchNeedDrawnNotches) {
   EXPECT_EQ(pick({desk, side}, DisplaySelection::builtIn(), false), (Ids{}));
 }
 
+TEST(DisplayPicker, ANameMatchDecidesWhichDisplaysANameMeans) {
+  // The platform says "DP-4" is what the side monitor was called before.
+  const DisplayPicker::NameMatch formerly = [](const DisplayCandidate& c, std::string_view name) {
+    return c.name == name || (c.id == 4 && name == "DP-4");
+  };
+  const std::vector<DisplayCandidate> all{desk, side, sideTwin};
+  const auto pickWith = [&](std::string name) {
+    Ids ids;
+    for (const auto& c : DisplayPicker::pick(all, DisplaySelection::named(name), true, formerly))
+      ids.push_back(c.id);
+    return ids;
+  };
+  EXPECT_EQ(pickWith("DP-4"), (Ids{4}));
+  EXPECT_EQ(pickWith("Side Monitor"), (Ids{4, 9}));
+  EXPECT_EQ(pickWith("DP-9"), (Ids{7}));  // gone: the main display has it
+}
+
 }  // namespace
 }  // namespace tindra

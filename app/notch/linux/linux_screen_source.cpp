@@ -6,16 +6,6 @@
 
 namespace tindra {
 
-namespace {
-
-// Connector names the kernel gives to laptop panels.
-bool isBuiltInConnector(const QString& name) {
-  return name.startsWith(QLatin1String("eDP")) || name.startsWith(QLatin1String("LVDS")) ||
-         name.startsWith(QLatin1String("DSI"));
-}
-
-}  // namespace
-
 std::unique_ptr<ScreenSource> makePlatformScreenSource(QObject* parent) {
   return std::make_unique<LinuxScreenSource>(parent);
 }
@@ -58,14 +48,15 @@ std::vector<PlatformScreen> LinuxScreenSource::screens() const {
     PlatformScreen entry;
     entry.screen = screen;
     entry.candidate.id = idFor(screen->name());
-    entry.candidate.name = screen->name().toStdString();
-    entry.candidate.isBuiltIn = isBuiltInConnector(screen->name());
+    entry.identity.connector = screen->name().toStdString();
+    entry.identity.productName = screen->model().toStdString();
     entry.candidate.isMain = screen == primary;
     entry.candidate.hasHardwareNotch = false;
     entry.descriptor.frame = flip.toCore(screen->geometry());
     entry.descriptor.visibleFrame = flip.toCore(screen->availableGeometry());
     result.push_back(std::move(entry));
   }
+  nameScreens(result);
   return result;
 }
 
