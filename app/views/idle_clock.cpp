@@ -1,5 +1,6 @@
 #include "views/idle_clock.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 
 namespace tindra {
@@ -30,7 +31,11 @@ void IdleClock::update() {
   QString timeFormat = locale.timeFormat(QLocale::ShortFormat);
   timeFormat.remove(QStringLiteral(":ss"));
   const QString time = locale.toString(now.time(), timeFormat);
-  const QString date = locale.toString(now.date(), QStringLiteral("dddd d MMMM"));
+  // The date's shape is the language's own ("Donnerstag, 26. November", "jueves, 26 de
+  // noviembre"), so its format is a text the translations give.
+  const QString date = locale.toString(
+      now.date(), QCoreApplication::translate("tindra::IdleClock", "dddd d MMMM",
+                                              "the opened notch's date: Qt date format"));
   if (time != timeText_ || date != dateText_) {
     timeText_ = time;
     dateText_ = date;
