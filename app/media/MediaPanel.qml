@@ -3,8 +3,8 @@ import Tindra
 
 // The media section: cover, title, artist and album, a progress bar that can be dragged to
 // scrub, the elapsed and remaining times, and the transport buttons, each greyed out when the
-// player cannot do it, and left out altogether for a player that takes no command. The position advances from one timer aimed at the next whole second,
-// stopped while paused or hidden.
+// player cannot do it, and left out altogether for a player that takes no command. The position
+// advances from one timer aimed at the next whole second, stopped while paused or hidden.
 Row {
     id: root
 
