@@ -1,11 +1,13 @@
 // Feeds arbitrary bytes to the artwork search as the catalogue's response, for a song and an
 // album key whose names come from the input's first line. A found address is never empty and
-// never keeps the thumbnail size.
+// never keeps the thumbnail size. The input as a cover address: one the policy lets through is
+// always https on a catalogue host.
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
 #include <string_view>
 
+#include "nowplaying/artwork_url_policy.h"
 #include "nowplaying/itunes_artwork_search.h"
 
 using namespace tindra;
@@ -25,5 +27,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (url && (url->empty() || url->find("100x100bb") != std::string::npos)) std::abort();
   }
   ITunesArtworkSearch::normalizedForMatching(input.substr(0, 256));
+  if (const auto address = ArtworkURLPolicy::downloadURL(input.substr(0, 4096))) {
+    if (!address->starts_with("https://") || !ArtworkURLPolicy::imageHost(*address)) std::abort();
+  }
   return 0;
 }

@@ -3,8 +3,8 @@ import Tindra
 
 // The media section: cover, title, artist and album, a progress bar that can be dragged to
 // scrub, the elapsed and remaining times, and the transport buttons, each greyed out when the
-// player cannot do it. The position advances from one timer aimed at the next whole second,
-// stopped while paused or hidden.
+// player cannot do it, and left out altogether for a player that takes no command. The position
+// advances from one timer aimed at the next whole second, stopped while paused or hidden.
 Row {
     id: root
 
@@ -118,6 +118,7 @@ Row {
         }
         Row {
             spacing: 16
+            visible: root.model !== undefined && root.model.hasControls
             MediaButton {
                 glyph: "\u21c4"
                 enabled: root.model !== undefined && root.model.canShuffle
@@ -126,7 +127,7 @@ Row {
             }
             MediaButton {
                 glyph: "\u25c0\u25c0"
-                enabled: root.model !== undefined && root.model.canSkip
+                enabled: root.model !== undefined && root.model.canGoPrevious
                 onClicked: root.model.previous()
             }
             MediaButton {
@@ -137,7 +138,7 @@ Row {
             }
             MediaButton {
                 glyph: "\u25b6\u25b6"
-                enabled: root.model !== undefined && root.model.canSkip
+                enabled: root.model !== undefined && root.model.canGoNext
                 onClicked: root.model.next()
             }
             MediaButton {

@@ -49,17 +49,32 @@ void ArtworkService::show(const std::optional<NowPlayingSnapshot>& snapshot) {
     decodeAway(QByteArray(reinterpret_cast<const char*>(bytes->data()),
                           static_cast<qsizetype>(bytes->size())),
                then);
-  } else if (const std::string* url = cover_ ? cover_->remoteURL() : nullptr) {
-    download(*url, then);
+  } else if (const std::string* url = cover_ ? cover_->remoteURL() : nullptr;
+             url != nullptr && ArtworkURLPolicy::downloadURL(*url)) {
+    // A cover that does not arrive leaves the catalogue to find one, as if none was given.
+    download(*url, [this, generation,
+                    key = ArtworkCacheKey::forSnapshot(*snapshot)](std::optional<Artwork> artwork) {
+      if (generation != generation_) return;
+      if (artwork || !key) {
+        settle(std::move(artwork));
+      } else {
+        showFromCatalogue(*key);
+      }
+    });
   } else if (const auto key = ArtworkCacheKey::forSnapshot(*snapshot)) {
-    if (const Artwork* known = byKey_.find(*key)) {
-      settle(*known);
-    } else {
-      settle(std::nullopt);  // nothing while the catalogue is asked
-      lookUp(*key);
-    }
+    // No cover, or one on a host that is never contacted: the catalogue is asked instead.
+    showFromCatalogue(*key);
   } else {
     settle(std::nullopt);
+  }
+}
+
+void ArtworkService::showFromCatalogue(const ArtworkCacheKey& key) {
+  if (const Artwork* known = byKey_.find(key)) {
+    settle(*known);
+  } else {
+    settle(std::nullopt);  // nothing while the catalogue is asked
+    lookUp(key);
   }
 }
 

@@ -1,9 +1,9 @@
 // ArtworkService: the cover of the playing track and the tint it gives the progress bar.
 // Embedded covers are decoded and scaled down off the main thread; remote ones are downloaded
-// only from the catalogue hosts; a track without a cover is looked up in the iTunes catalogue
-// when the user allows it. Results are cached by address and by album or song, and a look-up
-// that found nothing is not repeated for hours (ArtworkMissMemo). A result that arrives after
-// the track changed is dropped.
+// only from the catalogue hosts; a track without a cover, or whose cover is on another host or
+// cannot be downloaded, is looked up in the iTunes catalogue when the user allows it. Results are
+// cached by address and by album or song, and a look-up that found nothing is not repeated for
+// hours (ArtworkMissMemo). A result that arrives after the track changed is dropped.
 #pragma once
 
 #include <QImage>
@@ -54,6 +54,7 @@ class ArtworkService : public QObject {
   void settle(std::optional<Artwork> artwork);
   void decodeAway(QByteArray bytes, std::function<void(std::optional<Artwork>)> then);
   void download(const std::string& url, std::function<void(std::optional<Artwork>)> then);
+  void showFromCatalogue(const ArtworkCacheKey& key);
   void lookUp(const ArtworkCacheKey& key);
 
   ArtworkFetcher& fetcher_;

@@ -101,7 +101,17 @@ TEST_F(ArtworkServiceTest, OnlyCatalogueHostsAreDownloadedAndEachOnlyOnce) {
   elsewhere.artwork = NowPlayingSnapshot::Artwork::remote("https://tracker.example/pixel.png");
   service_.show(elsewhere);
   EXPECT_FALSE(service_.current().has_value());
-  EXPECT_EQ(fetcher_.asked.size(), 1u);
+  // The other host is never asked; the catalogue is, as for a track that brings no cover.
+  ASSERT_EQ(fetcher_.asked.size(), 2u);
+  EXPECT_TRUE(fetcher_.asked[1].startsWith("https://itunes.apple.com/search?"));
+
+  // So is it when a catalogue host's cover does not arrive.
+  NowPlayingSnapshot missing = track("Missing", "Other album");
+  missing.artwork = NowPlayingSnapshot::Artwork::remote("https://i.scdn.co/image/gone");
+  service_.show(missing);
+  ASSERT_EQ(fetcher_.asked.size(), 4u);
+  EXPECT_EQ(fetcher_.asked[2], "https://i.scdn.co/image/gone");
+  EXPECT_TRUE(fetcher_.asked[3].contains("Other"));
 }
 
 TEST_F(ArtworkServiceTest, TheCatalogueIsAskedOnlyWhenAllowedAndAMissIsRemembered) {

@@ -45,6 +45,9 @@ NowPlayingProvider::NowPlayingProvider(ProviderContext context, SourceFactory ma
                                         [this](bool enabled) { spectrum_.setEnabled(enabled); });
   if (probe_) connect(probe_.get(), &AdapterProbe::finished, this, &NowPlayingProvider::onProbed);
   connect(&artwork_, &ArtworkService::changed, this, &NowPlayingProvider::showCover);
+  // The bar of the track on screen takes a new tint choice at once, not at the next cover.
+  tintSetting_ = settings().observe(settings::nowPlayingProgressTint,
+                                    [this](NowPlayingProgressTint) { showCover(); });
 }
 
 void NowPlayingProvider::showCover() {

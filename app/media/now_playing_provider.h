@@ -72,6 +72,7 @@ class NowPlayingProvider final : public Provider {
   ArtworkService artwork_;
   ProcessTapSpectrum spectrum_;
   SettingsObservation spectrumSetting_;
+  SettingsObservation tintSetting_;
   NowPlayingViewModel viewModel_;
   bool wasPlaying_ = false;
 };

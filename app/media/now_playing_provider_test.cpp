@@ -94,12 +94,26 @@ TEST_F(NowPlayingProviderTest, CommandsReachTheSourceOnlyWhenThePlayerCanCarryTh
   limited.capabilities = NowPlayingCapabilities::playPause();
   source_->report(limited);
   NowPlayingViewModel& view = *provider_->viewModel();
-  EXPECT_FALSE(view.canSkip() || view.canSeek());
+  EXPECT_FALSE(view.canGoNext() || view.canGoPrevious() || view.canSeek());
+  EXPECT_TRUE(view.hasControls());
   view.next();
   view.seek(10);
   view.togglePlayPause();
   ASSERT_EQ(source_->commands().size(), 1u);
   EXPECT_EQ(source_->commands()[0], NowPlayingCommand::togglePlayPause());
+
+  // Going back without going on, and then a player that takes nothing at all.
+  QSignalSpy faces(&view, &NowPlayingViewModel::trackChanged);
+  limited.capabilities = NowPlayingCapabilities::previousTrack();
+  source_->report(limited);
+  EXPECT_EQ(faces.count(), 1) << "a capability change alone redraws the buttons";
+  EXPECT_TRUE(view.canGoPrevious() && !view.canGoNext() && !view.canPlayPause());
+  limited.capabilities = {};
+  source_->report(limited);
+  EXPECT_FALSE(view.hasControls());
+  view.togglePlayPause();
+  view.previous();
+  EXPECT_EQ(source_->commands().size(), 1u);
 
   source_->report(FakeNowPlayingSource::track(1, now));
   view.cycleRepeat();

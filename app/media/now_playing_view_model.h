@@ -32,10 +32,13 @@ class NowPlayingViewModel : public QObject {
   Q_PROPERTY(int shuffle READ shuffle NOTIFY playbackChanged)  // -1 unknown, else ShuffleMode
   Q_PROPERTY(int repeat READ repeat NOTIFY playbackChanged)    // -1 unknown, else RepeatMode
   Q_PROPERTY(bool canPlayPause READ canPlayPause NOTIFY trackChanged)
-  Q_PROPERTY(bool canSkip READ canSkip NOTIFY trackChanged)
+  Q_PROPERTY(bool canGoNext READ canGoNext NOTIFY trackChanged)
+  Q_PROPERTY(bool canGoPrevious READ canGoPrevious NOTIFY trackChanged)
   Q_PROPERTY(bool canSeek READ canSeek NOTIFY trackChanged)
   Q_PROPERTY(bool canShuffle READ canShuffle NOTIFY trackChanged)
   Q_PROPERTY(bool canRepeat READ canRepeat NOTIFY trackChanged)
+  // False for a player that takes no command at all: its track is shown without buttons.
+  Q_PROPERTY(bool hasControls READ hasControls NOTIFY trackChanged)
   // The cover, null until known; the bar's colour, invalid for the standard one.
   Q_PROPERTY(QImage cover READ cover NOTIFY coverChanged)
   Q_PROPERTY(bool hasCover READ hasCover NOTIFY coverChanged)
@@ -65,10 +68,14 @@ class NowPlayingViewModel : public QObject {
   int shuffle() const;
   int repeat() const;
   bool canPlayPause() const { return allows(NowPlayingCapabilities::playPause()); }
-  bool canSkip() const { return allows(NowPlayingCapabilities::nextTrack()); }
+  bool canGoNext() const { return allows(NowPlayingCapabilities::nextTrack()); }
+  bool canGoPrevious() const { return allows(NowPlayingCapabilities::previousTrack()); }
   bool canSeek() const { return allows(NowPlayingCapabilities::seek()) && duration() > 0; }
   bool canShuffle() const { return allows(NowPlayingCapabilities::shuffle()); }
   bool canRepeat() const { return allows(NowPlayingCapabilities::repeat()); }
+  bool hasControls() const {
+    return snapshot_ && (snapshot_->capabilities.rawValue & NowPlayingCapabilities::all().rawValue);
+  }
 
   QImage cover() const { return cover_; }
   bool hasCover() const { return !cover_.isNull(); }

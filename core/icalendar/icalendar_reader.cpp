@@ -3,10 +3,14 @@
 #include <libical/ical.h>
 #include <unicode/timezone.h>
 
+#include <algorithm>
 #include <cmath>
+#include <iterator>
 #include <map>
 #include <memory>
 #include <set>
+#include <string>
+#include <vector>
 
 #include "base/ascii_text.h"
 #include "base/hex_digit.h"
@@ -349,15 +353,36 @@ class CalendarReader {
       return;
     }
     for (const auto& [key, occurrence] : occurrences(series.master, start, length)) {
-      if (!edited.contains(key)) add(series.master, idFor(uid, key), occurrence, length);
+      if (!edited.contains(key))
+        add(series.master, idFor(uid, key), occurrence.start, occurrence.length);
     }
   }
 
-  // The starts of a recurring event that can overlap the window, by their seconds: the rules'
-  // and the extra dates', less the excluded ones.
-  std::map<double, icaltimetype> occurrences(icalcomponent* event, icaltimetype start,
-                                             const Length& length) {
-    std::map<double, icaltimetype> found;
+  struct Occurrence {
+    icaltimetype start;
+    Length length;
+  };
+
+  // An extra date given as a period lasts as long as its period, not as the event.
+  Length lengthOfPeriod(const icalperiodtype& period, icaltimetype start, icalproperty* property,
+                        const Length& eventLength) {
+    if (icaltime_is_null_time(period.start) != 0) return eventLength;
+    if (icaltime_is_null_time(period.end) == 0) {
+      return {0, std::max(0.0, seconds(zoned(period.end, property)) - seconds(start))};
+    }
+    if (icaldurationtype_is_bad_duration(period.duration) == 0) {
+      return {0, std::max(0.0, static_cast<double>(icaldurationtype_as_int(period.duration)))};
+    }
+    return eventLength;
+  }
+
+  // The occurrences of a recurring event that can overlap the window, by their starts' seconds:
+  // its own start, which always counts, the rules' and the extra dates', less the excluded ones.
+  std::map<double, Occurrence> occurrences(icalcomponent* event, icaltimetype start,
+                                           const Length& length) {
+    std::map<double, Occurrence> found;
+    if (overlapsWindow(seconds(start), endOf(start, length)))
+      found.emplace(seconds(start), Occurrence{start, length});
     // Anything starting before this cannot reach into the window; a day's slack for dates,
     // whose length in seconds depends on the clocks.
     const double earliest = options_.windowStart - length.seconds -
@@ -372,12 +397,14 @@ class CalendarReader {
       icaltimetype time = (icaltime_is_null_time(date.time) != 0) ? date.period.start : date.time;
       if (icaltime_is_null_time(time) != 0) continue;
       time = zoned(time, p);
+      const Length ownLength = lengthOfPeriod(date.period, time, p, length);
       const double key = seconds(time);
       if (found.size() >= ICalendarReader::maxOccurrencesPerEvent) {
         document_.expansionCapped = true;
         break;
       }
-      if (overlapsWindow(key, endOf(time, length))) found.emplace(key, time);
+      if (overlapsWindow(key, endOf(time, ownLength)))
+        found.emplace(key, Occurrence{time, ownLength});
     }
     for (icalproperty* p = icalcomponent_get_first_property(event, ICAL_EXDATE_PROPERTY);
          p != nullptr; p = icalcomponent_get_next_property(event, ICAL_EXDATE_PROPERTY)) {
@@ -387,18 +414,31 @@ class CalendarReader {
     return found;
   }
 
+  // The moment `at` on the wall clock `start` is written in, labelled as `start` is: the rule's
+  // iterator reads a start in the series' own zone, so a time labelled UTC would be shifted by
+  // the zone's offset.
+  icaltimetype wallClockLike(icaltimetype start, double at) const {
+    icaltimetype time =
+        icaltime_from_timet_with_zone(static_cast<time_t>(at), 0, icaltimezone_get_utc_timezone());
+    time = icaltime_convert_to_zone(
+        time, const_cast<icaltimezone*>((start.zone != nullptr) ? start.zone : local_));
+    if (start.zone == nullptr) time.zone = nullptr;
+    if (start.is_date != 0) {
+      time.is_date = 1;
+      time.hour = time.minute = time.second = 0;
+    }
+    return time;
+  }
+
   void expandRule(const icalrecurrencetype& rule, icaltimetype start, const Length& length,
-                  double earliest, std::map<double, icaltimetype>& found) {
+                  double earliest, std::map<double, Occurrence>& found) {
     if (rule.freq == ICAL_NO_RECURRENCE) return;
     const std::unique_ptr<icalrecur_iterator, IteratorFree> iterator(
         icalrecur_iterator_new(rule, start));
     if (!iterator) return;
     // A rule without a count can start near the window instead of at its first occurrence.
     if (rule.count == 0 && earliest > seconds(start)) {
-      const icaltimetype from = icaltime_from_timet_with_zone(
-          static_cast<time_t>(earliest), start.is_date,
-          const_cast<icaltimezone*>((start.zone != nullptr) ? start.zone : local_));
-      icalrecur_iterator_set_start(iterator.get(), from);
+      icalrecur_iterator_set_start(iterator.get(), wallClockLike(start, earliest));
     }
     for (std::size_t steps = 0;; ++steps) {
       if (steps == ICalendarReader::maxStepsPerRule ||
@@ -414,7 +454,7 @@ class CalendarReader {
       const double key = seconds(next);
       if (key >= options_.windowEnd) return;
       if (!overlapsWindow(key, endOf(next, length))) continue;
-      found.emplace(key, next);
+      found.emplace(key, Occurrence{next, length});
     }
   }
 
@@ -457,7 +497,7 @@ class CalendarReader {
   std::size_t stepsUsed_ = 0;
 };
 
-// The document without white space at its end, for the checks of its first and last line.
+// The document without white space at its end, for the check of its first line.
 std::string_view trimmedEnd(std::string_view text) {
   while (!text.empty() && (text.back() == '\r' || text.back() == '\n' || text.back() == ' ' ||
                            text.back() == '\t')) {
@@ -466,11 +506,62 @@ std::string_view trimmedEnd(std::string_view text) {
   return text;
 }
 
-bool endsWithLine(std::string_view text, std::string_view line) {
-  if (text.size() < line.size()) return false;
-  const std::string_view last = text.substr(text.size() - line.size());
-  if (!asciiEqualsIgnoringCase(last, line)) return false;
-  return text.size() == line.size() || text[text.size() - line.size() - 1] == '\n';
+std::optional<std::string_view> valueAfter(std::string_view line, std::string_view name) {
+  if (line.size() < name.size() || !asciiEqualsIgnoringCase(line.substr(0, name.size()), name))
+    return std::nullopt;
+  return line.substr(name.size());
+}
+
+// How far the document's calendars reach: the end of the line that closes the last of them,
+// which may be followed by lines that belong to none (a proxy's or a server's note), or why
+// there is no such line. A document that stops with its components open was cut short; one
+// whose last line closes a component that is not open is broken.
+std::expected<std::size_t, ICalendarError> calendarsEnd(std::string_view text) {
+  std::vector<std::string_view> open;
+  std::optional<std::size_t> end;
+  std::string_view lastLine;
+  bool lastClosedNothing = false;
+  for (std::size_t at = 0; at < text.size();) {
+    const std::size_t newline = std::min(text.find('\n', at), text.size());
+    const std::string_view line = trimmedEnd(text.substr(at, newline - at));
+    const std::size_t next = std::min(newline + 1, text.size());
+    if (line.empty()) {
+      at = next;
+      continue;
+    }
+    if (open.empty() && end) {
+      // Only another calendar may follow a complete one; anything else is left unread.
+      if (!valueAfter(line, "BEGIN:VCALENDAR")) break;
+    }
+    lastLine = line;
+    lastClosedNothing = false;
+    if (const auto begun = valueAfter(line, "BEGIN:")) {
+      open.push_back(*begun);
+    } else if (const auto ended = valueAfter(line, "END:")) {
+      const auto match = std::ranges::find_if(open.rbegin(), open.rend(), [&](auto name) {
+        return asciiEqualsIgnoringCase(name, *ended);
+      });
+      if (match == open.rend()) {
+        lastClosedNothing = true;
+      } else {
+        open.erase(std::prev(match.base()), open.end());
+        if (open.empty()) end = next;
+      }
+    }
+    at = next;
+  }
+  if (open.empty() && end) return *end;
+  if (lastClosedNothing) {
+    // "END:VCALEND" is a line cut short; "END:VCALENDR" closes nothing anyone opened.
+    const bool cut = std::ranges::any_of(open, [&](std::string_view name) {
+      const std::string closing = "END:" + std::string(name);
+      return lastLine.size() < closing.size() &&
+             asciiEqualsIgnoringCase(lastLine,
+                                     std::string_view(closing).substr(0, lastLine.size()));
+    });
+    if (!cut) return std::unexpected(ICalendarError::malformed);
+  }
+  return std::unexpected(ICalendarError::truncated);
 }
 
 }  // namespace
@@ -483,10 +574,13 @@ std::expected<ICalendarDocument, ICalendarError> ICalendarReader::read(
   if (body.size() < 15 || !asciiEqualsIgnoringCase(body.substr(0, 15), "BEGIN:VCALENDAR")) {
     return std::unexpected(ICalendarError::notICalendar);
   }
-  if (!endsWithLine(body, "END:VCALENDAR")) return std::unexpected(ICalendarError::truncated);
+  const std::expected<std::size_t, ICalendarError> end = calendarsEnd(utf8);
+  if (!end) return std::unexpected(end.error());
 
   keepLibicalFromAborting();
-  const std::unique_ptr<icalcomponent, ComponentFree> root(icalparser_parse_string(utf8.c_str()));
+  const std::string calendars = utf8.substr(0, *end);
+  const std::unique_ptr<icalcomponent, ComponentFree> root(
+      icalparser_parse_string(calendars.c_str()));
   if (!root) return std::unexpected(ICalendarError::malformed);
 
   ICalendarDocument document;

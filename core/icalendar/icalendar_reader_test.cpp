@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <chrono>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace tindra {
 namespace {
@@ -183,6 +185,23 @@ TEST(ICalendarReaderTest, RefusesWhatIsNotAWholeCalendar) {
   EXPECT_EQ(error(huge), ICalendarError::tooLarge);
   huge.erase(huge.find('\n', 200), 1);
   EXPECT_EQ(error(huge), std::nullopt) << "exactly the limit is read";
+  // A misspelt closing line is a broken document, not one that was cut short.
+  std::string misspelt = weekly;
+  misspelt.replace(misspelt.rfind("END:VCALENDAR"), 13, "END:VCALENDR");
+  EXPECT_EQ(error(misspelt), ICalendarError::malformed);
+  EXPECT_EQ(error(weekly.substr(0, weekly.rfind("END:VCALENDAR"))), ICalendarError::truncated)
+      << "cut right after the last event";
+}
+
+TEST(ICalendarReaderTest, ReadsACompleteCalendarFollowedByStrayLines) {
+  // A caching proxy's note after the calendar, and two calendars in one file with one after them.
+  const ICalendarDocument proxied = read(weekly + "<!-- served from cache by proxy-7 -->\r\n");
+  EXPECT_EQ(proxied.events.size(), 5U);
+  const std::string second =
+      calendar("BEGIN:VEVENT\r\nUID:other\r\nDTSTART:20261026T090000Z\r\nEND:VEVENT\r\n");
+  const ICalendarDocument both = read(weekly + second + "END:VEVENT\r\nBEGIN:VEVENT\r\n");
+  EXPECT_EQ(both.events.size(), 6U);
+  EXPECT_NE(withID(both, "work:other"), nullptr);
 }
 
 TEST(ICalendarReaderTest, ReadsOtherEncodingsAsText) {
@@ -206,6 +225,60 @@ TEST(ICalendarReaderTest, ReadsOtherEncodingsAsText) {
     utf16 += '\0';
   }
   EXPECT_EQ(read(utf16).events.at(0).title, "M\xC3\xB8te");
+}
+
+ICalendarReadOptions dayFrom(double start) {
+  ICalendarReadOptions options = autumn("UTC");
+  options.windowStart = start;
+  options.windowEnd = start + 86400;
+  return options;
+}
+
+std::vector<std::pair<double, double>> spans(ICalendarDocument document) {
+  std::ranges::sort(document.events, {}, &CalendarEventInfo::start);
+  std::vector<std::pair<double, double>> found;
+  for (const CalendarEventInfo& event : document.events) found.emplace_back(event.start, event.end);
+  return found;
+}
+
+TEST(ICalendarReaderTest, ExtraDatesKeepTheFirstOccurrenceAndTheirOwnPeriods) {
+  const std::string text = calendar(
+      "BEGIN:VEVENT\r\nUID:extra\r\nDTSTART:20250101T100000Z\r\nDTEND:20250101T110000Z\r\n"
+      "RDATE:20250102T100000Z\r\n"
+      "RDATE;VALUE=PERIOD:20250105T100000Z/PT3H,20250106T100000Z/20250106T120000Z\r\n"
+      "END:VEVENT\r\n");
+  ICalendarReadOptions options = autumn("UTC");
+  options.windowStart = utc(2025, 1, 1);
+  options.windowEnd = utc(2025, 1, 8);
+  using Span = std::pair<double, double>;
+  EXPECT_THAT(spans(read(text, options)),
+              ElementsAre(Span{utc(2025, 1, 1, 10), utc(2025, 1, 1, 11)},
+                          Span{utc(2025, 1, 2, 10), utc(2025, 1, 2, 11)},
+                          Span{utc(2025, 1, 5, 10), utc(2025, 1, 5, 13)},
+                          Span{utc(2025, 1, 6, 10), utc(2025, 1, 6, 12)}));
+  // Excluding the first occurrence still works.
+  std::string excluded = text;
+  excluded.insert(excluded.find("END:VEVENT"), "EXDATE:20250101T100000Z\r\n");
+  EXPECT_EQ(spans(read(excluded, options)).size(), 3U);
+}
+
+TEST(ICalendarReaderTest, SeriesInZonesAwayFromUTCKeepTheWindowsFirstHours) {
+  // Daily series that began years before the window: half past two in Tokyo is 05:00 UTC, and
+  // eight in the evening in Los Angeles in summer time is 03:00 UTC the next day.
+  const std::string text = calendar(
+      "BEGIN:VEVENT\r\nUID:tokyo\r\nDTSTART;TZID=Asia/Tokyo:20161028T140000\r\n"
+      "DTEND;TZID=Asia/Tokyo:20161028T143000\r\nRRULE:FREQ=DAILY\r\nEND:VEVENT\r\n"
+      "BEGIN:VEVENT\r\nUID:la\r\nDTSTART;TZID=America/Los_Angeles:20161028T200000\r\n"
+      "DTEND;TZID=America/Los_Angeles:20161028T203000\r\nRRULE:FREQ=DAILY\r\nEND:VEVENT\r\n");
+  using Span = std::pair<double, double>;
+  EXPECT_THAT(spans(read(text, dayFrom(utc(2019, 7, 25)))),
+              ElementsAre(Span{utc(2019, 7, 25, 3), utc(2019, 7, 25, 3, 30)},
+                          Span{utc(2019, 7, 25, 5), utc(2019, 7, 25, 5, 30)}));
+  // A window opening inside an occurrence keeps it.
+  EXPECT_THAT(spans(read(text, dayFrom(utc(2019, 7, 25, 5, 15)))),
+              ElementsAre(Span{utc(2019, 7, 25, 5), utc(2019, 7, 25, 5, 30)},
+                          Span{utc(2019, 7, 26, 3), utc(2019, 7, 26, 3, 30)},
+                          Span{utc(2019, 7, 26, 5), utc(2019, 7, 26, 5, 30)}));
 }
 
 TEST(ICalendarReaderTest, CapsRulesThatNeverEnd) {

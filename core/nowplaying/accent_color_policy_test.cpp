@@ -48,6 +48,25 @@ TEST(ArtworkURLPolicyTest, OnlyCatalogueHostsAreFetchedAndOverHTTPS) {
   }
 }
 
+TEST(ArtworkURLPolicyTest, SpotifyPageImagesGoToTheImageHostAndNothingElseOfThePageHostDoes) {
+  EXPECT_EQ(ArtworkURLPolicy::downloadURL("https://open.spotify.com/image/ab67616d0000b273"),
+            "https://i.scdn.co/image/ab67616d0000b273");
+  EXPECT_EQ(ArtworkURLPolicy::downloadURL("http://OPEN.spotify.com/image/AB67"),
+            "https://i.scdn.co/image/AB67");
+  EXPECT_EQ(ArtworkURLPolicy::imageHost("https://open.spotify.com/image/ab67"),
+            ArtworkURLPolicy::ImageHost::spotify);
+  // The page host's other paths, and ids that would carry anything past the image host.
+  for (std::string_view refused :
+       {"https://open.spotify.com/track/ab67", "https://open.spotify.com/image/",
+        "https://open.spotify.com/image/ab67/more", "https://open.spotify.com/image/a%2Fb",
+        "https://open.spotify.com/image/ab67?x=1", "https://open.spotify.com:8443/image/ab67",
+        "https://open.spotify.com.evil.com/image/ab67", "https://evil.com/open.spotify.com/image/a",
+        "ftp://open.spotify.com/image/ab67"}) {
+    EXPECT_EQ(ArtworkURLPolicy::downloadURL(refused), std::nullopt) << refused;
+    EXPECT_EQ(ArtworkURLPolicy::imageHost(refused), std::nullopt) << refused;
+  }
+}
+
 TEST(ArtworkCacheKeyTest, AlbumFirstThenTitleAndNeverWithoutArtist) {
   NowPlayingSnapshot snapshot;
   snapshot.title = "Song";

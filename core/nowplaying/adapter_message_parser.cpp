@@ -49,6 +49,17 @@ std::optional<double> timestampOf(const AdapterStateFields& fields) {
   return parsed ? std::optional<double>(*parsed) : std::nullopt;
 }
 
+// Every command, unless the adapter names the ones its player takes: a raw value of the six
+// bits. The macOS adapter never sends one, so its players keep everything.
+NowPlayingCapabilities capabilitiesOf(const JSONValue* value) {
+  const auto raw = finiteNumber(value);
+  const NowPlayingCapabilities all = NowPlayingCapabilities::all();
+  if (!raw || *raw < 0 || *raw > static_cast<double>(all.rawValue) || std::trunc(*raw) != *raw) {
+    return all;
+  }
+  return {static_cast<std::int64_t>(*raw) & all.rawValue};
+}
+
 }  // namespace
 
 // The cover's bytes when `text` is strict Base64; no zero-filling of megabytes first.
@@ -181,7 +192,8 @@ AdapterMessageParser::Result AdapterMessageParser::accept(AdapterEnvelope& envel
   if (!envelope.payloadIsObject) return Result(std::unexpect, ParseError::missingPayload());
 
   ++messageCount_;
-  const bool coverMentioned = envelope.member("artworkData") != nullptr;
+  const bool coverMentioned =
+      envelope.member("artworkData") != nullptr || envelope.member("artworkURL") != nullptr;
   merge(envelope);
   if (!envelope.diff || coverMentioned) recomputeArtwork(std::move(decodedArtwork));
   return snapshot();
@@ -221,9 +233,16 @@ void AdapterMessageParser::recomputeArtwork(std::optional<Cover> decodedArtwork)
   const std::string* cover = text == state_.end() ? nullptr : text->second.asString();
   std::optional<Cover> bytes;
   if (cover) bytes = decodedArtwork ? std::move(decodedArtwork) : decodeArtwork(*cover);
-  artwork_ = bytes ? std::optional(
-                         NowPlayingSnapshot::Artwork::embedded(std::move(bytes->data), bytes->size))
-                   : std::nullopt;
+  if (bytes) {
+    artwork_ = NowPlayingSnapshot::Artwork::embedded(std::move(bytes->data), bytes->size);
+    return;
+  }
+  // Covers the adapter could not send as bytes come as an address, for the app to fetch or not.
+  auto address = state_.find("artworkURL");
+  const std::string* url = address == state_.end() ? nullptr : address->second.asString();
+  artwork_ = url && !url->empty() && url->size() <= maxArtworkURLLength
+                 ? std::optional(NowPlayingSnapshot::Artwork::remote(*url))
+                 : std::nullopt;
 }
 
 // Built in place inside the result: a snapshot is large enough that every move shows.
@@ -265,7 +284,7 @@ AdapterMessageParser::Result AdapterMessageParser::snapshot() const {
     snapshot.repeatMode = repeatModeFromAdapterCode(*code);
   }
   snapshot.artwork = artwork_;
-  snapshot.capabilities = NowPlayingCapabilities::all();
+  snapshot.capabilities = capabilitiesOf(fields.capabilities);
   return result;
 }
 

@@ -2,6 +2,9 @@
 // replace or merge into the accumulated state; each complete line yields a snapshot (none when
 // nothing plays) or a ParseError, and no input stops the parser. Memory stays bounded by the
 // line limit. One parser serves one child process; a restarted child gets a fresh one.
+// Two optional payload members are read only when present, so an adapter that never sends them
+// keeps its meaning: "capabilities" (the raw bits of the commands the player takes; every
+// command without it) and "artworkURL" (a cover address, used when "artworkData" gives none).
 #pragma once
 
 #include <cstddef>
@@ -26,6 +29,7 @@ class AdapterMessageParser {
   static constexpr std::size_t maxLineLength = 16'777'216;     // bytes, without the newline
   static constexpr std::size_t artworkTextLimit = 11'184'812;  // a cover's text is shorter
   static constexpr std::size_t defaultDirectArtworkThreshold = 65'536;
+  static constexpr std::size_t maxArtworkURLLength = 8192;  // longer is no cover address
 
   struct ParseError {
     enum class Kind { unexpectedType, notJSONObject, missingPayload, lineTooLong };

@@ -164,6 +164,49 @@ TEST(AdapterMessageParserTest, ArtworkIsRecomputedOnlyWhenItsKeyArrives) {
   }
 }
 
+TEST(AdapterMessageParserTest, CapabilitiesNarrowOnlyWhenTheAdapterNamesThem) {
+  Parser parser;
+  EXPECT_EQ(snapshotOf(parser.parse(playingLine)).capabilities.rawValue, 63)
+      << "an adapter that says nothing grants every command";
+  const NowPlayingCapabilities skipOnly{NowPlayingCapabilities::nextTrackBit |
+                                        NowPlayingCapabilities::playPauseBit};
+  EXPECT_EQ(snapshotOf(parser.parse(message(R"({"capabilities":3})", true))).capabilities,
+            skipOnly);
+  EXPECT_EQ(snapshotOf(parser.parse(message(R"({"capabilities":0})", true))).capabilities.rawValue,
+            0)
+      << "a player that takes no command";
+  EXPECT_EQ(snapshotOf(parser.parse(message(R"({"capabilities":null})", true))).capabilities,
+            NowPlayingCapabilities::all());
+  // Nonsense is not a narrowing: fractions, negatives, unknown bits, text.
+  for (const char* raw : {"2.5", "-1", "64", "1e300", R"("3")", "true"}) {
+    const std::string payload =
+        std::string(R"({"title":"A","playing":true,"capabilities":)") + raw + "}";
+    EXPECT_EQ(parsed(payload).capabilities, NowPlayingCapabilities::all()) << raw;
+  }
+}
+
+TEST(AdapterMessageParserTest, ACoverAddressStandsInOnlyForMissingBytes) {
+  Parser parser;
+  const std::string image = cover(5);
+  const std::string both =
+      R"({"title":"A","playing":true,"artworkURL":"https://i.scdn.co/image/x",)"
+      R"("artworkData":")" +
+      image + "\"}";
+  EXPECT_TRUE(snapshotOf(parser.parse(message(both))).artwork->embeddedBytes());
+  const NowPlayingSnapshot addressOnly =
+      snapshotOf(parser.parse(message(R"({"artworkData":null})", true)));
+  ASSERT_TRUE(addressOnly.artwork);
+  EXPECT_EQ(*addressOnly.artwork->remoteURL(), "https://i.scdn.co/image/x");
+  EXPECT_EQ(
+      *snapshotOf(parser.parse(message(R"({"artworkURL":"https://i.scdn.co/image/y"})", true)))
+           .artwork->remoteURL(),
+      "https://i.scdn.co/image/y");
+  EXPECT_FALSE(snapshotOf(parser.parse(message(R"({"artworkURL":""})", true))).artwork);
+  const std::string huge = R"({"artworkURL":"https://i.scdn.co/)" +
+                           std::string(Parser::maxArtworkURLLength, 'a') + "\"}";
+  EXPECT_FALSE(snapshotOf(parser.parse(message(huge, true))).artwork);
+}
+
 TEST(AdapterMessageParserTest, CoverTextMustBeShorterThanTheLimit) {
   const std::size_t limit = Parser::artworkTextLimit;
   ASSERT_EQ(limit % 4, 0u);

@@ -37,7 +37,7 @@ JSONValue** AdapterStateFields::slotFor(std::string_view name) {
     case 11:
       return name[0] == 'e' ? is("elapsedTime", elapsedTime) : is("shuffleMode", shuffleMode);
     case 12:
-      return is("playbackRate", playbackRate);
+      return name[0] == 'p' ? is("playbackRate", playbackRate) : is("capabilities", capabilities);
     case 14:
       return is("durationMicros", durationMicros);
     case 16:

@@ -26,6 +26,7 @@ struct AdapterStateFields {
   JSONValue* timestamp = nullptr;
   JSONValue* shuffleMode = nullptr;
   JSONValue* repeatMode = nullptr;
+  JSONValue* capabilities = nullptr;
 
   // Points every field at its member of `state`, or at nothing.
   void rebuild(JSONValue::Object& state);

@@ -44,6 +44,14 @@ std::optional<double> micros(const QVariant& value) {
   return static_cast<double>(number);
 }
 
+bool isWebAddress(const QString& address) {
+  if (address.size() > static_cast<qsizetype>(maxCoverAddressLength)) return false;
+  const QUrl url(address, QUrl::StrictMode);
+  const QString scheme = url.scheme().toLower();
+  return url.isValid() && !url.host().isEmpty() &&
+         (scheme == QLatin1String("https") || scheme == QLatin1String("http"));
+}
+
 }  // namespace
 
 std::optional<std::string> coverBytes(const QString& artUrl, const ReadFile& readFile) {
@@ -86,11 +94,15 @@ JSONValue::Object make(const std::optional<MprisPlayerState>& player, bool inclu
   if (player->loopStatus == QLatin1String("None")) payload.insert_or_assign("repeatMode", 1.0);
   if (player->loopStatus == QLatin1String("Track")) payload.insert_or_assign("repeatMode", 2.0);
   if (player->loopStatus == QLatin1String("Playlist")) payload.insert_or_assign("repeatMode", 3.0);
+  payload.insert_or_assign("capabilities", static_cast<double>(player->capabilities()));
   if (includeArtwork) {
     const QString artUrl = player->text(QStringLiteral("mpris:artUrl"));
     if (const auto bytes = coverBytes(artUrl, readFile)) {
       const auto* data = reinterpret_cast<const std::uint8_t*>(bytes->data());
       payload.insert_or_assign("artworkData", encodeBase64(std::span(data, bytes->size())));
+    } else if (isWebAddress(artUrl)) {
+      // Not fetched here: the app decides which hosts it may contact.
+      payload.insert_or_assign("artworkURL", artUrl.toStdString());
     }
   }
   return payload;

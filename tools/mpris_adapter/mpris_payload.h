@@ -3,7 +3,8 @@
 // "timestampEpochMicros", "playbackRate", "shuffleMode", "repeatMode", "bundleIdentifier",
 // "artworkData", ...). Values of the wrong type, empty strings and impossible numbers are left out
 // rather than sent. Covers given as file:// or data: addresses travel as Base64 within the
-// protocol's limit; other addresses are not fetched here.
+// protocol's limit; http(s) addresses travel as they are ("artworkURL") and are not fetched
+// here. "capabilities" names the commands the player takes.
 #pragma once
 
 #include <functional>
@@ -17,6 +18,8 @@ namespace tindra::MprisPayload {
 
 // The largest cover sent: its Base64 text stays below the protocol's limit.
 inline constexpr std::size_t maxCoverBytes = 8'000'000;
+// The longest cover address passed on; the app's parser takes no longer one.
+inline constexpr std::size_t maxCoverAddressLength = 8192;
 
 using ReadFile = std::function<std::optional<std::string>(const QString& path, std::size_t limit)>;
 

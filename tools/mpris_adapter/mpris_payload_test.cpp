@@ -5,6 +5,7 @@
 #include <QDBusObjectPath>
 
 #include "mpris_session.h"
+#include "nowplaying/now_playing_capabilities.h"
 #include "payload_stream.h"
 
 namespace tindra {
@@ -71,6 +72,45 @@ TEST(MprisPayloadTest, CoversFromFilesAndDataAddressesOnly) {
   state.metadata["mpris:artUrl"] = QStringLiteral("file:///covers/a.png");
   EXPECT_EQ(MprisPayload::make(state, true, files).at("artworkData"), JSONValue("UE5HIQ=="));
   EXPECT_FALSE(MprisPayload::make(state, false, files).contains("artworkData"));
+
+  // Web addresses go on as they are, for the app to judge; anything else is dropped.
+  state.metadata["mpris:artUrl"] = QStringLiteral("https://covers.example.net/a.jpg");
+  JSONValue::Object payload = MprisPayload::make(state, true, files);
+  EXPECT_EQ(payload.at("artworkURL"), JSONValue("https://covers.example.net/a.jpg"));
+  EXPECT_FALSE(payload.contains("artworkData"));
+  EXPECT_FALSE(MprisPayload::make(state, false, files).contains("artworkURL"));
+  for (const char* address :
+       {"ftp://i.scdn.co/a", "https://", "https://i.scdn.co/a b", "cover.png"}) {
+    state.metadata["mpris:artUrl"] = QString::fromLatin1(address);
+    EXPECT_FALSE(MprisPayload::make(state, true, files).contains("artworkURL")) << address;
+  }
+  state.metadata["mpris:artUrl"] =
+      "https://i.scdn.co/" + QString(int(MprisPayload::maxCoverAddressLength), u'a');
+  EXPECT_FALSE(MprisPayload::make(state, true, files).contains("artworkURL"));
+}
+
+TEST(MprisPayloadTest, CapabilitiesFollowTheCanPropertiesAndTheModesAPlayerShows) {
+  using C = NowPlayingCapabilities;
+  const auto capabilities = [](const MprisPlayerState& state) {
+    return MprisPayload::make(state, false, noFiles).at("capabilities");
+  };
+  MprisPlayerState state = player("Song", "Playing");
+  EXPECT_EQ(capabilities(state),
+            JSONValue(double(C::playPauseBit | C::nextTrackBit | C::previousTrackBit | C::seekBit)))
+      << "no Shuffle or LoopStatus: no mode buttons";
+  state.shuffle = true;
+  state.loopStatus = "None";
+  state.controls.next = false;
+  state.controls.seek = false;
+  state.controls.play = false;  // pausing alone still makes the button useful
+  EXPECT_EQ(capabilities(state), JSONValue(double(C::playPauseBit | C::previousTrackBit |
+                                                  C::shuffleBit | C::repeatBit)));
+  state.controls.pause = false;
+  EXPECT_EQ(capabilities(state),
+            JSONValue(double(C::previousTrackBit | C::shuffleBit | C::repeatBit)));
+  state.controls = {};
+  state.controls.control = false;
+  EXPECT_EQ(capabilities(state), JSONValue(0.0)) << "CanControl false outranks everything";
 }
 
 TEST(MprisSessionTest, TheLatestToStartPlayingWinsElseTheLatestActive) {

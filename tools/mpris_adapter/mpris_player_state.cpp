@@ -3,6 +3,8 @@
 #include <QDBusObjectPath>
 #include <QRegularExpression>
 
+#include "nowplaying/now_playing_capabilities.h"
+
 namespace tindra {
 
 QString MprisPlayerState::text(const QString& key) const {
@@ -29,6 +31,19 @@ QString MprisPlayerState::bundleIdentifier() const {
   static const QRegularExpression instance(QStringLiteral("\\.instance_?\\d+(_\\d+)?$"));
   name.remove(instance);
   return name;
+}
+
+std::int64_t MprisPlayerState::capabilities() const {
+  using C = NowPlayingCapabilities;
+  if (!controls.control) return 0;
+  std::int64_t bits = 0;
+  if (controls.play || controls.pause) bits |= C::playPauseBit;
+  if (controls.next) bits |= C::nextTrackBit;
+  if (controls.previous) bits |= C::previousTrackBit;
+  if (controls.seek) bits |= C::seekBit;
+  if (shuffle) bits |= C::shuffleBit;
+  if (!loopStatus.isEmpty()) bits |= C::repeatBit;
+  return bits;
 }
 
 }  // namespace tindra

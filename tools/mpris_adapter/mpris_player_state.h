@@ -24,6 +24,16 @@ struct MprisPlayerState {
   std::int64_t sampledAtMicros = 0;            // microseconds since 1970
   std::int64_t lastActiveMicros = 0;           // when it last changed anything
   std::int64_t startedPlayingMicros = 0;       // when it last changed to Playing
+  // The player's CanControl, CanPlay, CanPause, CanGoNext, CanGoPrevious and CanSeek. One it
+  // never gave counts as yes: that is how every player was treated before they were read.
+  struct Controls {
+    bool control = true;
+    bool play = true;
+    bool pause = true;
+    bool next = true;
+    bool previous = true;
+    bool seek = true;
+  } controls;
 
   bool isPlaying() const { return playbackStatus == QLatin1String("Playing"); }
   // The metadata entry `key` when it is a string; empty otherwise.
@@ -35,6 +45,9 @@ struct MprisPlayerState {
   // The bundle identifier the notch names the player by: the desktop entry, else the bus name's
   // last part without a browser's ".instanceNNNN".
   QString bundleIdentifier() const;
+  // The commands the notch may offer, as raw NowPlayingCapabilities bits: none without control;
+  // shuffle and repeat only for a player that shows those modes at all.
+  std::int64_t capabilities() const;
 };
 
 }  // namespace tindra

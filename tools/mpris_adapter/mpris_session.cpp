@@ -28,6 +28,17 @@ QVariant unwrapped(const QVariant& value) {
   return value.canConvert<QDBusVariant>() ? value.value<QDBusVariant>().variant() : value;
 }
 
+// Where the player's Can* property `name` is kept; nullptr for any other property.
+bool* controlNamed(MprisPlayerState::Controls& controls, const QString& name) {
+  if (name == QLatin1String("CanControl")) return &controls.control;
+  if (name == QLatin1String("CanPlay")) return &controls.play;
+  if (name == QLatin1String("CanPause")) return &controls.pause;
+  if (name == QLatin1String("CanGoNext")) return &controls.next;
+  if (name == QLatin1String("CanGoPrevious")) return &controls.previous;
+  if (name == QLatin1String("CanSeek")) return &controls.seek;
+  return nullptr;
+}
+
 }  // namespace
 
 MprisSession::MprisSession(QDBusConnection bus, Clock now, QObject* parent)
@@ -190,6 +201,9 @@ bool MprisSession::apply(MprisPlayerState& player, const QVariantMap& properties
       player.shuffle = value.toBool();
     } else if (it.key() == QLatin1String("LoopStatus")) {
       player.loopStatus = value.toString();
+    } else if (bool* control = controlNamed(player.controls, it.key());
+               control != nullptr && value.userType() == QMetaType::Bool) {
+      *control = value.toBool();
     }
   }
   player.lastActiveMicros = now_();
