@@ -10,6 +10,7 @@ Reads one JSON object per line on stdin and answers one JSON object per line on 
   add_many   calendar, ics (a list): adds them in one call
   modify     calendar, ics, mod ("this" or "all"): changes a component (or one occurrence)
   delete     calendar, uid, rid, mod: removes a component (or one occurrence)
+  reconnect  (nothing): a new registry client, after the registry was restarted
 Run with Debian's interpreter (/usr/bin/python3), on the bus the services are on.
 """
 import json
@@ -20,10 +21,13 @@ import gi
 gi.require_version("ECal", "2.0")
 gi.require_version("EDataServer", "1.2")
 gi.require_version("ICalGLib", "3.0")
-from gi.repository import ECal, EDataServer, ICalGLib  # noqa: E402
+from gi.repository import ECal, EDataServer, GLib, ICalGLib  # noqa: E402
 
 registry = EDataServer.SourceRegistry.new_sync(None)
 clients = {}
+
+# Local calendars are connected at once; not waiting spares the timeout where the status lags.
+NO_WAIT = 0xFFFFFFFF
 
 MODS = {"this": ECal.ObjModType.THIS, "all": ECal.ObjModType.ALL}
 
@@ -36,7 +40,7 @@ def client_for(uid):
         kind = (ECal.ClientSourceType.TASKS
                 if source.has_extension(EDataServer.SOURCE_EXTENSION_TASK_LIST)
                 else ECal.ClientSourceType.EVENTS)
-        clients[uid] = ECal.Client.connect_sync(source, kind, 30, None)
+        clients[uid] = ECal.Client.connect_sync(source, kind, NO_WAIT, None)
     return clients[uid]
 
 
@@ -100,8 +104,15 @@ def delete(request):
     return {}
 
 
+def reconnect(_request):
+    global registry
+    clients.clear()
+    registry = EDataServer.SourceRegistry.new_sync(None)
+    return {}
+
+
 COMMANDS = {"source": add_source, "enable": enable, "forget": forget, "add": add,
-            "add_many": add_many, "modify": modify, "delete": delete}
+            "add_many": add_many, "modify": modify, "delete": delete, "reconnect": reconnect}
 
 
 def main():
@@ -109,6 +120,9 @@ def main():
     for line in sys.stdin:
         if not line.strip():
             continue
+        # What the registry told meanwhile (sources added, owners changed), before acting.
+        while GLib.MainContext.default().iteration(False):
+            pass
         try:
             request = json.loads(line)
             answer = COMMANDS[request["do"]](request)

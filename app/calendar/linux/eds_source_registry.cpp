@@ -24,6 +24,7 @@ const QString objectManager = QStringLiteral("org.freedesktop.DBus.ObjectManager
 
 EdsSourceRegistry::EdsSourceRegistry(QDBusConnection bus, QObject* parent)
     : QObject(parent),
+      bus_(bus),
       registry_(std::move(bus), registryService, {}, DBusServiceFollower::Activation::start),
       languages_(EdsSource::userLanguages()) {
   qDBusRegisterMetaType<InterfaceMap>();
@@ -38,6 +39,11 @@ EdsSourceRegistry::EdsSourceRegistry(QDBusConnection bus, QObject* parent)
 }
 
 void EdsSourceRegistry::start() {
+  if (!bus_.isConnected()) {  // no session bus at all: no call would ever be answered
+    error_ = bus_.lastError().isValid() ? bus_.lastError().name() : QStringLiteral("no bus");
+    setState(State::missing);
+    return;
+  }
   registry_.followSignal(managerPath, objectManager, QStringLiteral("InterfacesAdded"));
   registry_.followSignal(managerPath, objectManager, QStringLiteral("InterfacesRemoved"));
   // Every source's: one match instead of one per source.

@@ -49,6 +49,7 @@ class EdsSourceRegistry final : public QObject {
   bool update();  // whether the calendars changed
   void setState(State state);
 
+  QDBusConnection bus_;
   DBusServiceFollower registry_;
   QStringList languages_;
   std::map<QString, QString> uids_;       // object path -> uid
