@@ -104,14 +104,22 @@ bool EvolutionDataServer::startService(QProcess& process, const QString& program
 // The factory and the client ask for the registry again at once, and the bus may start it
 // anew before the test does: gone, or under a new owner, is gone.
 bool EvolutionDataServer::killRegistry() {
-  const QString owner = ownerOf(registryName);
-  if (registry_.state() != QProcess::NotRunning) {
-    registry_.kill();
-    registry_.waitForFinished(5000);
+  return kill(registry_, registryName);
+}
+
+bool EvolutionDataServer::killFactory() {
+  return kill(factory_, factoryName);
+}
+
+bool EvolutionDataServer::kill(QProcess& process, const QString& name) {
+  const QString owner = ownerOf(name);
+  if (process.state() != QProcess::NotRunning && process.processId() == processOf(owner)) {
+    process.kill();
+    process.waitForFinished(5000);
   } else if (const qint64 pid = processOf(owner); pid > 0) {
-    ::kill(static_cast<pid_t>(pid), SIGKILL);  // one the bus started, which Tindra never does
+    ::kill(static_cast<pid_t>(pid), SIGKILL);  // one the bus started on someone's call
   }
-  return QTest::qWaitFor([&] { return ownerOf(registryName) != owner; }, 5000);
+  return QTest::qWaitFor([&] { return ownerOf(name) != owner; }, 5000);
 }
 
 bool EvolutionDataServer::startRegistry(QString* error) {

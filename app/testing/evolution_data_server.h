@@ -23,6 +23,8 @@ class EvolutionDataServer {
   bool killRegistry();
   // Starts the registry again, unless something started it meanwhile through the bus.
   bool startRegistry(QString* error);
+  // Kills the calendar factory, and waits until its name has left the bus or has a new owner.
+  bool killFactory();
 
   // One command of evolution_calendars.py; its answer, with "error" when it failed.
   QJsonObject command(const QJsonObject& request);
@@ -30,6 +32,7 @@ class EvolutionDataServer {
   QString dataHome() const { return dir_.filePath(QStringLiteral("data")); }
 
  private:
+  bool kill(QProcess& process, const QString& name);
   bool startService(QProcess& process, const QString& program, const QString& name, QString* error);
   bool nameOnBus(const QString& name) const;
   QString ownerOf(const QString& name) const;

@@ -69,7 +69,26 @@ EdsCalendarFeed::EdsCalendarFeed(const EdsCalendar& calendar, ICalendarReadOptio
     lost(Sentence(QT_TR_NOOP("Evolution Data Server's calendar factory went away: the events "
                              "last read are kept until it returns"),
                   tr));
+    restartFactoryLater();
   });
+  restart_.setSingleShot(true);
+  restart_.setInterval(firstRestart * 1000);
+  connect(&restart_, &QTimer::timeout, this, [this] {
+    if (factory_.present()) return;
+    // Any call to its name starts it; its appearance is what the follower hears.
+    factory_.call(QDBusMessage::createMethodCall(factoryService, factoryPath,
+                                                 QStringLiteral("org.freedesktop.DBus.Peer"),
+                                                 QStringLiteral("Ping")),
+                  [](const QDBusMessage&) {});
+  });
+}
+
+// Nothing else may ask for it (a desktop without a calendar of its own); a factory that keeps
+// crashing is tried less and less often.
+void EdsCalendarFeed::restartFactoryLater() {
+  if (restart_.isActive()) return;
+  restart_.start();
+  restart_.setInterval(std::min(restart_.interval() * 2, maxRestart * 1000));
 }
 
 EdsCalendarFeed::~EdsCalendarFeed() {
@@ -239,6 +258,7 @@ void EdsCalendarFeed::onViewSignal(const QDBusMessage& message) {
     removeComponents(dbus::argument<QStringList>(message).value_or(QStringList()));
   } else if (member == QLatin1String("Complete")) {
     complete_ = true;
+    restart_.setInterval(firstRestart * 1000);  // it works again
     const QString error = dbus::argument<QString>(message, 1).value_or(QString());
     if (!dbus::argument<QString>(message).value_or(QString()).isEmpty()) {
       setProblem(DiagnosticsLog::Outcome::degraded,

@@ -6,7 +6,8 @@
 // and moved occurrences are expanded as in any iCalendar file. Nothing is read until the view
 // has sent what it holds, so a large calendar is read once at the start, not once per batch.
 // When the factory or the calendar's backend leaves, the events last read stay shown and the
-// calendar is opened again when the factory is back. Every call is asynchronous.
+// calendar is opened again when the factory is back; a factory that crashed is started again
+// through the bus after a pause that doubles while it keeps failing. Every call is asynchronous.
 #pragma once
 
 #include <QDBusConnection>
@@ -40,6 +41,9 @@ class EdsCalendarFeed final : public CalendarFeed {
   static QString query(EdsSource::Kind kind, double start, double end);
   // The time zones `component` names in its TZID parameters.
   static QStringList zonesNamed(const QByteArray& component);
+  // Seconds before the factory is started again after it left, the first time and at most.
+  static constexpr int firstRestart = 1;
+  static constexpr int maxRestart = 300;
   // The key of a component ("<UID>" or "<UID>\n<RECURRENCE-ID>"), as the view names it when
   // it is removed; empty when it has no UID.
   static QString keyOf(const QByteArray& component);
@@ -60,6 +64,7 @@ class EdsCalendarFeed final : public CalendarFeed {
   void read();
   void lost(const Sentence& why);
   void retireBackend();
+  void restartFactoryLater();
   void send(const QString& path, const QString& interface, const QString& method) const;
   QDBusMessage calendarCall(const QString& method) const;
 
@@ -79,6 +84,7 @@ class EdsCalendarFeed final : public CalendarFeed {
   int zonesAsked_ = 0;
   bool complete_ = false;  // the view has sent all it held
   QTimer readSoon_;        // one reading for the signals of one turn of the event loop
+  QTimer restart_;         // starts the factory again after it left
   std::shared_ptr<std::atomic<quint64>> readings_ = std::make_shared<std::atomic<quint64>>(0);
 };
 

@@ -217,7 +217,7 @@ TEST_F(EdsCalendarFeedTest, ANewWindowAsksForItsEvents) {
   EXPECT_TRUE(waitFor([] { return events("eds:work", "october").size() == 1; }));
 }
 
-TEST_F(EdsCalendarFeedTest, ComesBackAfterTheRegistryIsKilled) {
+TEST_F(EdsCalendarFeedTest, ComesBackAfterTheRegistryOrTheFactoryIsKilled) {
   ASSERT_TRUE(waitFor([] { return listed("eds:work"); }));
   add("work", event("survivor", "DTSTART:20261029T090000Z"));
   ASSERT_TRUE(waitFor([] { return events("eds:work", "survivor").size() == 1; }));
@@ -233,6 +233,18 @@ TEST_F(EdsCalendarFeedTest, ComesBackAfterTheRegistryIsKilled) {
       << backend_->check().text.english().toStdString();
   add("work", event("later", "DTSTART:20261030T090000Z"));
   EXPECT_TRUE(waitFor([] { return events("eds:work", "later").size() == 1; }));
+
+  // The factory crashing: the events stay, and it is started again and read anew.
+  ASSERT_TRUE(eds_->killFactory());
+  EXPECT_EQ(events("eds:work", "later").size(), 1u);
+  EXPECT_TRUE(waitFor([] {
+    const auto work = calendar("eds:work");
+    return work && work->source.state.outcome == DiagnosticsLog::Outcome::ok &&
+           backend_->check().outcome == DiagnosticsLog::Outcome::ok;
+  }));
+  do_({{"do", "reconnect"}});
+  remove("work", "later");
+  EXPECT_TRUE(waitFor([] { return events("eds:work", "later").empty(); }));
 }
 
 TEST(EdsCalendarFeedTexts, ReadsKeysZonesAndQueriesFromComponents) {
