@@ -271,11 +271,11 @@ void EdsCalendarFeed::onViewSignal(const QDBusMessage& message) {
 
 void EdsCalendarFeed::addComponents(const QStringList& components) {
   for (const QString& text : components) {
-    QByteArray component = text.toUtf8();
+    const QByteArray component = text.toUtf8();
     const QString key = keyOf(component);
     if (key.isEmpty()) continue;
     askZones(component);
-    components_.insert(key, std::move(component));
+    components_.insert(key, component);
   }
 }
 

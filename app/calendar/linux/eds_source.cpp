@@ -109,12 +109,12 @@ EdsSource EdsSource::parse(const QString& uid, const QString& data, const QStrin
     source.name = value(dataSource, QStringLiteral("DisplayName")).value_or(uid);
   source.parent = value(dataSource, QStringLiteral("Parent")).value_or(QString());
   source.enabled = !isFalse(value(dataSource, QStringLiteral("Enabled")).value_or(QString()));
-  const QString group = groups.contains(calendarGroup)   ? calendarGroup
-                        : groups.contains(taskListGroup) ? taskListGroup
-                                                         : QString();
-  if (!group.isEmpty()) {
-    source.kind = group == calendarGroup ? Kind::events : Kind::tasks;
+  for (const auto& [group, kind] :
+       {std::pair{calendarGroup, Kind::events}, std::pair{taskListGroup, Kind::tasks}}) {
+    if (!groups.contains(group)) continue;
+    source.kind = kind;
     source.color = colorOf(value(group, QStringLiteral("Color")).value_or(QString()));
+    break;
   }
   source.calendarsOff =
       isFalse(value(collectionGroup, QStringLiteral("CalendarEnabled")).value_or(QString()));
