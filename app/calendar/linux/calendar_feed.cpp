@@ -20,20 +20,29 @@ CalendarFeed::CalendarFeed(CalendarSource source, ICalendarReadOptions options, 
     : QObject(parent),
       reader_(reader()),
       defaultName_(source.name),
+      ownColor_(source.color),
       options_(std::move(options)),
       documents_(std::make_shared<const std::vector<std::string>>()) {
   contents_.source = std::move(source);
   options_.idPrefix = contents_.source.id.toStdString();
+  if (ownColor_) options_.color = ownColor_;
   contents_.source.state = {DiagnosticsLog::Outcome::degraded,
                             Sentence(QT_TR_NOOP("not read yet"), tr)};
 }
 
 void CalendarFeed::setReadOptions(ICalendarReadOptions options) {
   options.idPrefix = options_.idPrefix;
+  if (ownColor_) options.color = ownColor_;
+  const bool newWindow =
+      options.windowStart != options_.windowStart || options.windowEnd != options_.windowEnd;
   options_ = std::move(options);
   // A reading on its way is asked again with the new options; else the documents the feed has.
-  if (pending_) return post(*pending_);
-  post({[documents = documents_] { return std::optional(*documents); }, {}, true});
+  if (pending_) {
+    post(*pending_);
+  } else {
+    post({[documents = documents_] { return std::optional(*documents); }, {}, true});
+  }
+  if (newWindow) windowChanged();
 }
 
 void CalendarFeed::accept(Gather gather, std::function<void(Outcome)> done) {

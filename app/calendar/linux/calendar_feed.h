@@ -3,7 +3,8 @@
 // reading went. Documents are got and read on the one thread every calendar is read on, so a
 // large calendar never holds up the notch; a newer reading replaces one not yet done. A new
 // reading in which no document can be read keeps the last good one, so a failed fetch or a bad
-// save never empties the calendar. Used from the main thread only.
+// save never empties the calendar. A calendar whose service gives it a colour keeps that colour.
+// Used from the main thread only.
 #pragma once
 
 #include <QObject>
@@ -33,6 +34,7 @@ class CalendarFeed : public QObject {
   const CalendarContents& contents() const { return contents_; }
   // Reads the documents again for a new window or new owner addresses.
   void setReadOptions(ICalendarReadOptions options);
+  const ICalendarReadOptions& readOptions() const { return options_; }
   // The seconds the publisher asks to wait between fetches, when a document says.
   std::optional<double> refreshInterval() const { return refreshInterval_; }
 
@@ -52,6 +54,9 @@ class CalendarFeed : public QObject {
   // the feed from its documents is over. `done` hears how it went, unless a newer reading came
   // first.
   void accept(Gather gather, std::function<void(Outcome)> done = {});
+  // The window changed (after the documents were asked to be read again for it): a feed that
+  // asks its service for the window's events asks again.
+  virtual void windowChanged() {}
   // A problem in getting the documents at all (a failed fetch); the last good ones stay shown.
   void setProblem(DiagnosticsLog::Outcome outcome, const Sentence& text);
   const QString& location() const { return contents_.source.location; }
@@ -78,6 +83,7 @@ class CalendarFeed : public QObject {
 
   std::shared_ptr<SerialWorker> reader_;
   QString defaultName_;
+  std::optional<CalendarEventInfo::Color> ownColor_;  // the service's, over the palette's
   ICalendarReadOptions options_;
   std::shared_ptr<const std::vector<std::string>> documents_;
   std::optional<Request> pending_;  // the newest reading asked for, until it is done

@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QStandardPaths>
 #include <QTimeZone>
+#include <algorithm>
 #include <array>
 #include <cstring>
 
@@ -62,7 +63,8 @@ ICalendarBackend::Places ICalendarBackend::defaultPlaces() {
   return {SettingsStore::defaultFile().parent_path() / "calendars.json",
           data + QStringLiteral("/tindra/calendars"),
           {data + QStringLiteral("/evolution/calendar/system/calendar.ics"),
-           data + QStringLiteral("/evolution/tasks/system/tasks.ics")}};
+           data + QStringLiteral("/evolution/tasks/system/tasks.ics")},
+          QDBusConnection::sessionBus()};
 }
 
 ICalendarBackend::ICalendarBackend(Places places, RemoteCalendarFeed::Clock now, QObject* parent)
@@ -72,6 +74,11 @@ ICalendarBackend::ICalendarBackend(Places places, RemoteCalendarFeed::Clock now,
       list_(places_.list) {
   options_.timeZone = QTimeZone::systemTimeZoneId().toStdString();
   loadList();
+  if (places_.evolution) {
+    registry_ = std::make_unique<EdsSourceRegistry>(*places_.evolution);
+    connect(registry_.get(), &EdsSourceRegistry::changed, this,
+            &ICalendarBackend::onRegistryChanged);
+  }
 }
 
 ICalendarBackend::~ICalendarBackend() = default;
@@ -84,7 +91,50 @@ QString ICalendarBackend::idFor(const QString& location) {
 void ICalendarBackend::start() {
   if (started_) return;
   started_ = true;
+  if (registry_) registry_->start();
   makeFeeds();
+}
+
+// Evolution's files are what Evolution Data Server serves: read only while it does not answer,
+// and not before it has said whether it runs, so that its calendars are not shown twice.
+bool ICalendarBackend::readsFound() const {
+  return !registry_ || registry_->state() == EdsSourceRegistry::State::missing;
+}
+
+void ICalendarBackend::onRegistryChanged() {
+  if (!started_) return;
+  if (readsFound() != foundRead_) return makeFeeds();
+  followEvolution();
+  updateCheck();
+  emit changed();
+}
+
+// A calendar listed as before keeps its feed, open and read; a changed one (renamed, recoloured)
+// is opened anew. While the registry is away, the calendars stay as they were.
+void ICalendarBackend::followEvolution() {
+  if (!registry_ || registry_->state() != EdsSourceRegistry::State::present) return;
+  std::vector<std::unique_ptr<EdsCalendarFeed>> feeds;
+  for (const EdsCalendar& calendar : registry_->calendars()) {
+    const auto kept = std::ranges::find_if(
+        evolutionFeeds_, [&](const auto& feed) { return feed && feed->calendar() == calendar; });
+    if (kept != evolutionFeeds_.end()) {
+      feeds.push_back(std::move(*kept));
+      continue;
+    }
+    auto feed = std::make_unique<EdsCalendarFeed>(
+        calendar, optionsFor(feeds_.size() + feeds.size()), *places_.evolution);
+    watch(*feed);
+    feed->start();
+    feeds.push_back(std::move(feed));
+  }
+  evolutionFeeds_ = std::move(feeds);
+}
+
+void ICalendarBackend::watch(CalendarFeed& feed) {
+  connect(&feed, &CalendarFeed::changed, this, [this] {
+    updateCheck();
+    emit changed();
+  });
 }
 
 void ICalendarBackend::loadList() {
@@ -132,7 +182,7 @@ std::vector<CalendarSource> ICalendarBackend::listed() const {
     sources.push_back(std::move(source));
   };
   for (const QString& found : places_.found) {
-    if (QFileInfo::exists(found)) list(found, false);
+    if (readsFound() && QFileInfo::exists(found)) list(found, false);
   }
   for (const QString& location : added_) list(location, true);
   return sources;
@@ -161,13 +211,12 @@ void ICalendarBackend::makeFeeds() {
     feeds.push_back(makeFeed(std::move(source), optionsFor(feeds.size())));
   }
   feeds_ = std::move(feeds);
+  foundRead_ = readsFound();
   for (const auto& feed : feeds_) {
-    connect(feed.get(), &CalendarFeed::changed, this, [this] {
-      updateCheck();
-      emit changed();
-    });
+    watch(*feed);
     feed->start();
   }
+  followEvolution();
   updateCheck();
   emit changed();
 }
@@ -197,13 +246,17 @@ void ICalendarBackend::setOwnerAddresses(const QStringList& addresses) {
 
 void ICalendarBackend::readOptionsChanged() {
   for (std::size_t i = 0; i < feeds_.size(); ++i) feeds_[i]->setReadOptions(optionsFor(i));
+  for (std::size_t i = 0; i < evolutionFeeds_.size(); ++i) {
+    evolutionFeeds_[i]->setReadOptions(optionsFor(feeds_.size() + i));
+  }
 }
 
 std::vector<CalendarContents> ICalendarBackend::calendars() const {
   if (!started_) return listedOnly();
   std::vector<CalendarContents> all;
-  all.reserve(feeds_.size());
+  all.reserve(feeds_.size() + evolutionFeeds_.size());
   for (const auto& feed : feeds_) all.push_back(feed->contents());
+  for (const auto& feed : evolutionFeeds_) all.push_back(feed->contents());
   return all;
 }
 
@@ -262,16 +315,23 @@ void ICalendarBackend::updateCheck() {
   ServiceCheck check{DiagnosticsLog::Outcome::ok,
                      Sentence(QT_TR_N_NOOP("reading %n iCalendar calendar(s)"), tr,
                               static_cast<int>(feeds_.size()))};
-  if (feeds_.empty()) {
+  if (feeds_.empty() && evolutionFeeds_.empty()) {
     check = {
         DiagnosticsLog::Outcome::degraded,
         Sentence(QT_TR_NOOP("no calendars: add an iCalendar file, folder or address in Settings"),
                  tr)};
   }
+  if (registry_) {
+    const ServiceCheck evolution = registry_->check();
+    check = {std::max(check.outcome, evolution.outcome), check.text.followedBy(evolution.text)};
+  }
   if (!listProblem_.isEmpty()) {
     check = {DiagnosticsLog::Outcome::degraded, check.text.followedBy(listProblem_)};
   }
-  for (const auto& feed : feeds_) {
+  std::vector<const CalendarFeed*> all;
+  for (const auto& feed : feeds_) all.push_back(feed.get());
+  for (const auto& feed : evolutionFeeds_) all.push_back(feed.get());
+  for (const CalendarFeed* feed : all) {
     const CalendarSource& source = feed->contents().source;
     if (source.state.outcome == DiagnosticsLog::Outcome::ok) continue;
     const Sentence problem =

@@ -63,7 +63,8 @@ class ICalendarBackendTest : public ::testing::Test {
   ICalendarBackend::Places places() const {
     return {dir_.filePath("config/calendars.json").toStdString(),
             dir_.filePath("kept"),
-            {dir_.filePath("evolution.ics")}};
+            {dir_.filePath("evolution.ics")},
+            std::nullopt};
   }
   std::unique_ptr<ICalendarBackend> started() {
     auto backend = std::make_unique<ICalendarBackend>(places(), [] { return monday; });
@@ -110,6 +111,28 @@ TEST_F(ICalendarBackendTest, FollowsFilesAndFoldersAndKeepsTheLastGoodCopyOfABad
   EXPECT_EQ(events(*backend, 1), 2U);
   EXPECT_TRUE(backend->calendars()[1].source.state.text.english().contains("1 document"));
   EXPECT_TRUE(backend->calendars()[1].source.removable);
+}
+
+// Without Evolution Data Server, Evolution's own file is read; the colour of a calendar whose
+// documents name none is the palette's, kept when the window moves.
+TEST_F(ICalendarBackendTest, ReadsEvolutionsFileWhereEvolutionDataServerDoesNotAnswer) {
+  write(dir_.filePath("evolution.ics"), feed(event("standup")));
+  ICalendarBackend::Places nowhere = places();
+  nowhere.evolution = QDBusConnection(QStringLiteral("tindra-no-such-bus"));
+  ICalendarBackend backend(nowhere, [] { return monday; });
+  EXPECT_TRUE(backend.calendars().empty()) << "not known yet whether Evolution Data Server has it";
+  backend.start();
+  backend.setWindow(monday - 86400, monday + 7 * 86400);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return backend.calendars().size() == 1U; }, 5000));
+  waitForReadings();
+  EXPECT_EQ(events(backend, 0), 1U);
+  EXPECT_TRUE(backend.check().text.english().contains("Evolution Data Server is not running"))
+      << backend.check().text.english().toStdString();
+  EXPECT_EQ(backend.check().outcome, DiagnosticsLog::Outcome::ok);
+  const auto color = backend.calendars()[0].source.color;
+  backend.setWindow(monday, monday + 86400);
+  waitForReadings();
+  EXPECT_EQ(backend.calendars()[0].source.color, color);
 }
 
 TEST_F(ICalendarBackendTest, TheUsersListIsKeptRefusesWhatCannotBeReadAndIsSetAsideWhenBroken) {
