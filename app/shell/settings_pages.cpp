@@ -172,7 +172,8 @@ std::optional<SettingsNote> settingsNoteHere(std::string_view key) {
         false}},
       {"mouseDragGestures",
        {QT_TRANSLATE_NOOP("SettingsNotes",
-                          "Drag the closed notch down to open it, or sideways to skip tracks."),
+                          "Drag the closed notch down to open it, or sideways to skip tracks; "
+                          "drag the opened one up from an empty spot to close it."),
         false}},
       {"glassBackground",
        {QT_TRANSLATE_NOOP("SettingsNotes",
