@@ -228,10 +228,12 @@ bool NotchWindow::event(QEvent* event) {
       sample();
       break;
     case QEvent::MouseButtonPress: {
+      // A press that closes the menu drawn inside does only that.
+      const bool menuWasOpen = !menuActions_.isEmpty();
       if (handleMouse(event)) return true;
       // Whether a control takes the press is known only once the view has delivered it.
       const bool delivered = QQuickView::event(event);
-      pressTaken_ = takenByItem(*static_cast<QMouseEvent*>(event));
+      pressTaken_ = menuWasOpen || takenByItem(*static_cast<QMouseEvent*>(event));
       return delivered;
     }
     case QEvent::MouseMove:

@@ -175,7 +175,7 @@ class NotchWindow : public QQuickView {
   QPointF pressPoint_;
   bool pressInside_ = false;
   bool pressOnOpened_ = false;  // the press began on the opened notch
-  bool pressTaken_ = false;     // an item of the view (a control, a row) took the press
+  bool pressTaken_ = false;     // a control, a row or the open menu took the press
   bool shownExpanded_ = false;
   std::function<bool(const QList<QUrl>& urls)> fileDrop_;
 
