@@ -1,12 +1,10 @@
 // SettingsFileWatcher: notices when another process (or a person with an editor) changes the
 // preferences file and has the store reload it, so observers hear of the change within a second.
-// Atomic saves replace the file, which drops it from a plain file watch, so the folder is
-// watched too and the file is watched again after every change.
 #pragma once
 
-#include <QFileSystemWatcher>
 #include <QObject>
-#include <QTimer>
+
+#include "base/watched_file.h"
 
 namespace tindra {
 
@@ -23,12 +21,10 @@ class SettingsFileWatcher : public QObject {
   void reloaded();
 
  private:
-  void watch();
   void reload();
 
   SettingsStore& store_;
-  QFileSystemWatcher watcher_;
-  QTimer settle_;
+  WatchedFile file_;
 };
 
 }  // namespace tindra

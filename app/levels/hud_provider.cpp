@@ -1,6 +1,7 @@
 #include "levels/hud_provider.h"
 #include "base/backend_selection.h"
 #include "levels/fake_backlight_backend.h"
+#include "levels/fake_volume_sound_preference.h"
 
 #include <QStringList>
 #include <array>
@@ -49,6 +50,10 @@ HudProvider::HudProvider(ProviderContext context, HudBackends backends, QObject*
       commands_(backends.commands ? std::move(backends.commands)
                                   : std::make_unique<LevelCommandSource::Null>(
                                         Sentence::verbatim("no level commands"))),
+      volumeSound_(backends.volumeSound ? std::move(backends.volumeSound)
+                                        : std::make_unique<VolumeSoundPreference::Null>(
+                                              Sentence::verbatim("no desktop volume sound setting"),
+                                              DiagnosticsLog::Outcome::ok)),
       display_{HUDKind::brightness, std::move(backends.display), {}, {}},
       keyboard_{HUDKind::keyboardBacklight, std::move(backends.keyboard), {}, {}} {
   VolumeBackend* volume = volumeBackend_.get();
@@ -72,6 +77,8 @@ HudProvider::HudProvider(ProviderContext context, HudBackends backends, QObject*
   });
   connect(commands_.get(), &LevelCommandSource::checkChanged, this,
           [this] { record(QStringLiteral("level commands"), commands_->check()); });
+  connect(volumeSound_.get(), &VolumeSoundPreference::checkChanged, this,
+          [this] { record(QStringLiteral("volume sound"), volumeSound_->check()); });
   observation_ = settings().observe({std::string(settings::volumeHUDEnabled.name),
                                      std::string(settings::brightnessHUDEnabled.name),
                                      std::string(settings::experimentalKeyboardBacklight.name)},
@@ -92,6 +99,8 @@ void HudProvider::start() {
   keys_->start();
   commands_->start();
   record(QStringLiteral("level commands"), commands_->check());
+  volumeSound_->start();
+  record(QStringLiteral("volume sound"), volumeSound_->check());
   started_ = true;
   updateRouting();
 }
@@ -171,7 +180,7 @@ void HudProvider::stepVolume(VolumeAction action, KeyModifiers modifiers) {
   if (next.isMuted != read.muted) volumeBackend_->setMuted(next.isMuted);
   show(state);
   if (settings().read(settings::playSounds) &&
-      VolumeFeedbackPolicy::shouldPlay(action, next, std::nullopt,
+      VolumeFeedbackPolicy::shouldPlay(action, next, volumeSound_->systemSetting(),
                                        settings().read(settings::volumeFeedbackFallback), modifiers,
                                        false)) {
     volumeBackend_->playFeedback();
@@ -343,7 +352,11 @@ std::unique_ptr<HudProvider> HudProvider::make(ProviderContext& context) {
             return std::make_unique<FakeBacklightBackend>(QStringLiteral("invented-keyboard"), 0.4);
           },
           [&] { return BacklightBackend::keyboardForPlatform(shared); }),
-      MediaKeySource::forPlatform(shared), LevelCommandSource::forPlatform(shared)};
+      MediaKeySource::forPlatform(shared),
+      LevelCommandSource::forPlatform(shared),
+      chooseBackend(
+          id, shared, [] { return std::make_unique<FakeVolumeSoundPreference>(); },
+          [&] { return VolumeSoundPreference::forPlatform(shared); })};
   return std::make_unique<HudProvider>(context, std::move(backends));
 }
 

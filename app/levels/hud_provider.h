@@ -22,6 +22,7 @@
 #include "levels/media_key_source.h"
 #include "levels/own_writes.h"
 #include "levels/volume_backend.h"
+#include "levels/volume_sound_preference.h"
 #include "settings/settings_store.h"
 
 namespace tindra {
@@ -33,6 +34,8 @@ struct HudBackends {
   std::unique_ptr<MediaKeySource> keys;
   // `tindra level …` commands; none, none taken.
   std::unique_ptr<LevelCommandSource> commands = nullptr;
+  // Whether the desktop plays a sound for a volume change; none, Tindra's setting decides.
+  std::unique_ptr<VolumeSoundPreference> volumeSound = nullptr;
 };
 
 class HudProvider final : public Provider {
@@ -82,6 +85,7 @@ class HudProvider final : public Provider {
   std::shared_ptr<VolumeBackend> volumeBackend_;
   std::unique_ptr<MediaKeySource> keys_;
   std::unique_ptr<LevelCommandSource> commands_;
+  std::unique_ptr<VolumeSoundPreference> volumeSound_;
   Light display_;
   Light keyboard_;
   bool keyboardStarted_ = false;

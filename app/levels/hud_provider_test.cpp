@@ -10,6 +10,7 @@
 #include "levels/fake_backlight_backend.h"
 #include "levels/fake_media_key_source.h"
 #include "levels/fake_volume_backend.h"
+#include "levels/fake_volume_sound_preference.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/manual_one_shot_scheduler.h"
@@ -31,13 +32,16 @@ class HudProviderTest : public ::testing::Test {
     auto display = std::make_unique<FakeBacklightBackend>("panel", 0.5);
     auto keyboard = std::make_unique<FakeBacklightBackend>("keyboard", 0.5);
     auto keys = std::make_unique<FakeMediaKeySource>();
+    auto volumeSound = std::make_unique<FakeVolumeSoundPreference>();
     volume_ = volume.get();
+    volumeSound_ = volumeSound.get();
     display_ = display.get();
     keyboard_ = keyboard.get();
     keys_ = keys.get();
     provider_ = std::make_unique<HudProvider>(
         ProviderContext{activities_, settings_, diagnostics_},
-        HudBackends{std::move(volume), std::move(display), std::move(keyboard), std::move(keys)});
+        HudBackends{std::move(volume), std::move(display), std::move(keyboard), std::move(keys),
+                    nullptr, std::move(volumeSound)});
   }
 
   HudViewModel& view() { return *provider_->viewModel(); }
@@ -58,6 +62,7 @@ class HudProviderTest : public ::testing::Test {
   FakeBacklightBackend* display_;
   FakeBacklightBackend* keyboard_;
   FakeMediaKeySource* keys_;
+  FakeVolumeSoundPreference* volumeSound_;
   std::unique_ptr<HudProvider> provider_;
 };
 
@@ -99,6 +104,34 @@ TEST_F(HudProviderTest, VolumeKeysStepFromWhatWasWrittenAndShowItOnce) {
   ASSERT_TRUE(settings_.write(settings::volumeFeedbackFallback, true));
   keys_->tap(Key::soundUp);
   EXPECT_EQ(volume_->feedbackPlayed, 2);
+}
+
+// The desktop's own choice decides over Tindra's fallback from the moment it changes; Shift
+// inverts whichever decides; without a choice the fallback is back.
+TEST_F(HudProviderTest, TheDesktopsVolumeSoundChoiceWinsOverTheFallback) {
+  provider_->start();
+  const auto plays = [&](KeyModifiers modifiers) {
+    const int before = volume_->feedbackPlayed;
+    now_ += 5;
+    keys_->tap(Key::soundDown, modifiers);
+    return volume_->feedbackPlayed > before;
+  };
+  ASSERT_TRUE(settings_.write(settings::volumeFeedbackFallback, true));
+  volumeSound_->publish(false);
+  EXPECT_FALSE(plays({}));
+  EXPECT_TRUE(plays(KeyModifiers::shift()));
+  ASSERT_TRUE(settings_.write(settings::volumeFeedbackFallback, false));
+  volumeSound_->publish(true);
+  EXPECT_TRUE(plays({}));
+  EXPECT_FALSE(plays(KeyModifiers::shift()));
+  volumeSound_->publish(std::nullopt);
+  EXPECT_FALSE(plays({}));
+  EXPECT_TRUE(plays(KeyModifiers::shift()));
+  // The app-wide sounds switch silences it whatever the desktop says.
+  volumeSound_->publish(true);
+  ASSERT_TRUE(settings_.write(settings::playSounds, false));
+  EXPECT_FALSE(plays({}));
+  EXPECT_TRUE(lastDiagnostic("volume sound").contains("invented volume sound setting"));
 }
 
 TEST_F(HudProviderTest, ChangesMadeElsewhereShowUnlessTheyComeWithANewOutput) {

@@ -10,6 +10,7 @@
 #include <QScreen>
 #include <QSurfaceFormat>
 #include <algorithm>
+#include <utility>
 
 #include "base/activity_center.h"
 #include "notch/display_platform.h"
@@ -29,6 +30,13 @@ constexpr double fullPullDistance = 80;
 
 double lerp(double from, double to, double t) {
   return from + (to - from) * t;
+}
+
+// Whether an item of the view grabbed the point pressed: a control, a row, a cover.
+bool takenByItem(const QMouseEvent& press) {
+  if (press.points().isEmpty()) return false;
+  const QEventPoint& point = press.points().front();
+  return press.exclusiveGrabber(point) != nullptr || !press.passiveGrabbers(point).isEmpty();
 }
 
 }  // namespace
@@ -203,6 +211,11 @@ void NotchWindow::close() {
   showPresentation();
 }
 
+void NotchWindow::dismiss() {
+  machine_.dismiss();
+  showPresentation();
+}
+
 bool NotchWindow::event(QEvent* event) {
   switch (event->type()) {
     case QEvent::Enter:
@@ -214,8 +227,16 @@ bool NotchWindow::event(QEvent* event) {
       closeMenu();
       sample();
       break;
+    case QEvent::MouseButtonPress: {
+      // A press that closes the menu drawn inside does only that.
+      const bool menuWasOpen = !menuActions_.isEmpty();
+      if (handleMouse(event)) return true;
+      // Whether a control takes the press is known only once the view has delivered it.
+      const bool delivered = QQuickView::event(event);
+      pressTaken_ = menuWasOpen || takenByItem(*static_cast<QMouseEvent*>(event));
+      return delivered;
+    }
     case QEvent::MouseMove:
-    case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
       if (handleMouse(event)) return true;
       break;
@@ -252,26 +273,37 @@ bool NotchWindow::handleMouse(QEvent* event) {
   if (buttonDown_ && !wasDown) {
     pressPoint_ = pointer_;
     pressInside_ = shape_.contains(pointer_);
+    pressOnOpened_ = machine_.isExpanded();
   }
   if (buttonDown_ && pressInside_ && !machine_.isExpanded()) pull(pointer_);
-  if (!buttonDown_ && wasDown) {
-    // Drags count only on the closed notch: on the opened one they belong to its controls.
-    const QPointF travel = pointer_ - pressPoint_;
-    const std::optional<SwipeDirection> dragged =
-        mouseDragGestures_ && pressInside_ && !machine_.isExpanded()
-            ? SwipeRecognizer::classify(travel.x(), travel.y())
-            : std::nullopt;
-    const bool clicked = pressInside_ && shape_.contains(pointer_) && !dragged;
-    releasePull();
-    pressInside_ = false;
-    if (dragged) swipe(*dragged);
-    if (clicked && !machine_.isExpanded() &&
-        machine_.timing().openingMode == NotchOpeningMode::click) {
-      machine_.open();
-    }
-  }
+  if (!buttonDown_ && wasDown) releaseButton();
   sample();
   return false;
+}
+
+void NotchWindow::releaseButton() {
+  const QPointF travel = pointer_ - pressPoint_;
+  const std::optional<SwipeDirection> moved = SwipeRecognizer::classify(travel.x(), travel.y());
+  const bool expanded = machine_.isExpanded();
+  releasePull();
+  const bool pressedInside = std::exchange(pressInside_, false);
+  if (!pressedInside) return;
+  if (!expanded) {
+    const std::optional<SwipeDirection> dragged = mouseDragGestures_ ? moved : std::nullopt;
+    if (dragged) {
+      swipe(*dragged);
+    } else if (shape_.contains(pointer_) &&
+               machine_.timing().openingMode == NotchOpeningMode::click) {
+      machine_.open();
+    }
+    return;
+  }
+  // On the opened notch a drag or click belongs to the control under it; only where none took
+  // the press does a click, or a drag up, put the notch away. A press that opened the notch (held
+  // in press-and-hold mode) is not a click on it.
+  if (!pressOnOpened_ || pressTaken_) return;
+  const bool draggedUp = mouseDragGestures_ && moved == SwipeDirection::up;
+  if (!moved || draggedUp) dismiss();
 }
 
 // Touchpads report pixels; a mouse wheel only angles, 120 eighths of a degree a notch, taken as
@@ -290,7 +322,7 @@ void NotchWindow::handleWheel(const QWheelEvent& wheel) {
 
 void NotchWindow::swipe(SwipeDirection direction) {
   if (direction == SwipeDirection::down) open();
-  if (direction == SwipeDirection::up) close();
+  if (direction == SwipeDirection::up) dismiss();
   emit swiped(direction);
 }
 

@@ -2,8 +2,10 @@
 // from the display's top edge; only the notch outline is drawn and hit, the rest is cut away.
 // It samples pointer, button and file-drag state into the NotchHoverStateMachine, animates
 // between closed and opened and stretches while the pointer pulls. Two-finger swipes (and, when
-// asked, mouse drags) down open it and up close it; sideways ones go out as swiped(). What it shows
-// comes from the shared NotchContent; the window keeps geometry, input and animation only.
+// asked, mouse drags) down open it and up put it away; sideways ones go out as swiped(). Putting
+// it away, like a click on the opened notch where no control takes it, dismisses it: it stays
+// closed under the pointer until the pointer has left. What it shows comes from the shared
+// NotchContent; the window keeps geometry, input and animation only.
 #pragma once
 
 #include <functional>
@@ -96,6 +98,8 @@ class NotchWindow : public QQuickView {
   // Opens or closes on purpose, as a click in click mode does.
   void open();
   void close();
+  // Closes and stays closed while the pointer stays on the notch.
+  void dismiss();
 
   QRectF shapeRect() const { return shape_.body; }
   double bottomRadius() const { return shape_.bottomRadius; }
@@ -138,6 +142,7 @@ class NotchWindow : public QQuickView {
   void releasePull();
   void updateShape();
   bool handleMouse(QEvent* event);
+  void releaseButton();
   void openMenuInside(const QPointF& at);
   bool handleDrag(QEvent* event);
   void handleWheel(const QWheelEvent& wheel);
@@ -169,6 +174,8 @@ class NotchWindow : public QQuickView {
   QPointF pointer_;
   QPointF pressPoint_;
   bool pressInside_ = false;
+  bool pressOnOpened_ = false;  // the press began on the opened notch
+  bool pressTaken_ = false;     // a control, a row or the open menu took the press
   bool shownExpanded_ = false;
   std::function<bool(const QList<QUrl>& urls)> fileDrop_;
 

@@ -26,6 +26,7 @@
 #include "testing/notch_displays.h"
 #include "testing/sample_view_models.h"
 #include "testing/view_shot.h"
+#include "testing/xdotool.h"
 #include "views/notch_content.h"
 
 namespace tindra {
@@ -177,6 +178,100 @@ TEST(NotchWindowOnDisplayTest, OpensWhenThePointerRestsAndClosesWhenItLeaves) {
   QTest::mousePress(&window, Qt::LeftButton, {}, local);
   QTest::mouseRelease(&window, Qt::LeftButton, {}, local);
   EXPECT_TRUE(QTest::qWaitFor([&] { return window.isExpanded(); }, 1000));
+}
+
+// The first enabled mouse area of the opened panel below the camera area: a control. Loaded
+// views are the visual children of their loaders, not their QObject children.
+QQuickItem* controlIn(NotchWindow& window, QQuickItem* item = nullptr) {
+  if (item == nullptr) item = window.rootObject();
+  if (!item->isVisible() || !item->isEnabled()) return nullptr;
+  const QPointF centre = item->mapToScene(item->boundingRect().center());
+  // A mouse area's own `enabled` is not the item's.
+  if (item->inherits("QQuickMouseArea") && item->property("enabled").toBool() &&
+      window.shapeRect().contains(centre) && centre.y() > window.notchRect().bottom()) {
+    return item;
+  }
+  for (QQuickItem* child : item->childItems()) {
+    if (QQuickItem* found = controlIn(window, child)) return found;
+  }
+  return nullptr;
+}
+
+// Put away by a swipe up, a click where no control is or (when asked) a drag up, the opened
+// notch stays closed under the pointer and opens again only once the pointer has left and come
+// back. Controls keep their clicks and drags.
+TEST(NotchWindowOnDisplayTest, PutAwayItStaysClosedUntilThePointerLeavesAndComesBack) {
+  SampleViewModels samples;  // outlives the views that show it
+  NowPlayingSnapshot track;
+  track.title = "Invented Track";
+  track.isPlaying = true;
+  track.capabilities = NowPlayingCapabilities::playPause();  // a button to press
+  samples.media.setSnapshot(track);
+  Displays displays;
+  displays.views_.setModel(QStringLiteral("media"), &samples.media);
+  displays.content_.refresh();
+  displays.activities_.offer(ActivityEvent::began(ActivityKind::nowPlaying));
+  NotchWindow& window = *displays.manager_->windows().front();
+  const QPoint camera = window.notchRect().center().toPoint();  // empty once opened
+  const QPoint notch = window.geometry().topLeft() + camera;
+  const auto opens = [&] { return QTest::qWaitFor([&] { return window.isExpanded(); }, 3000); };
+  const auto staysClosed = [&] {
+    QTest::qWait(400);                                       // well past the opening delay
+    QCursor::setPos(window.screen(), notch + QPoint(3, 0));  // still on the notch
+    QTest::qWait(400);
+    return !window.isExpanded();
+  };
+  const auto leaveAndReturn = [&] {
+    QCursor::setPos(window.screen(), notch + QPoint(0, 400));
+    QTest::qWait(200);
+    QCursor::setPos(window.screen(), notch);
+  };
+  leaveAndReturn();  // from wherever an earlier test left the pointer
+  ASSERT_TRUE(opens());
+
+  ASSERT_TRUE(QTest::qWaitFor([&] { return window.openProgress() == 1; }, 3000));
+  QQuickItem* control = controlIn(window);
+  ASSERT_NE(control, nullptr) << drawnSections(window).join(' ').toStdString();
+  const QPoint onControl = control->mapToScene(control->boundingRect().center()).toPoint();
+  QCursor::setPos(window.screen(), window.geometry().topLeft() + onControl);
+  QTest::mouseClick(&window, Qt::LeftButton, {}, onControl);
+  QTest::qWait(400);
+  EXPECT_TRUE(window.isExpanded()) << "a click on a control";
+
+  QCursor::setPos(window.screen(), notch);
+  QTest::mouseClick(&window, Qt::LeftButton, {}, camera);
+  EXPECT_TRUE(staysClosed()) << "a click on the empty area";
+  leaveAndReturn();
+  EXPECT_TRUE(opens());
+
+  // The wheel down is a swipe up on a touchpad.
+  xdotool({"mousemove", QString::number(notch.x()), QString::number(notch.y()), "click", "5"});
+  EXPECT_TRUE(staysClosed()) << "a swipe up";
+  leaveAndReturn();
+  EXPECT_TRUE(opens());
+
+  // A drag up from the empty edge below the sections is a click gone astray unless mouse drags
+  // are gestures; then it puts the notch away.
+  const QPoint edge(camera.x(), static_cast<int>(window.shapeRect().bottom()) - 6);
+  const auto dragUp = [&] {
+    QTest::mousePress(&window, Qt::LeftButton, {}, edge);
+    QTest::mouseMove(&window, edge - QPoint(0, 40));
+    QTest::mouseRelease(&window, Qt::LeftButton, {}, edge - QPoint(0, 80));
+  };
+  dragUp();
+  QTest::qWait(200);
+  EXPECT_TRUE(window.isExpanded()) << "a drag up with mouse drags off";
+  ASSERT_TRUE(displays.store_.write(settings::mouseDragGestures, true));
+  dragUp();
+  EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isExpanded(); }, 1000)) << "a drag up";
+
+  // The press held until the notch opens is no click on the opened notch.
+  ASSERT_TRUE(displays.store_.write(settings::notchOpeningMode, NotchOpeningMode::pressAndHold));
+  QTest::mousePress(&window, Qt::LeftButton, {}, camera);
+  EXPECT_TRUE(opens());
+  QTest::mouseRelease(&window, Qt::LeftButton, {}, camera);
+  QTest::qWait(300);
+  EXPECT_TRUE(window.isExpanded()) << "released after pressing and holding";
 }
 
 TEST(NotchWindowOnDisplayTest, StretchesWhilePulledAndOpensForAFileDragInAnyMode) {

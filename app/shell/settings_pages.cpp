@@ -100,8 +100,9 @@ const char* settingsDescriptionHere(std::string_view key) {
                          "output or display cannot be controlled.")},
       {"volumeFeedbackFallback",
        QT_TRANSLATE_NOOP("SettingsKeys",
-                         "Play the volume feedback sound where the desktop does not. Hold Shift "
-                         "while pressing a volume key to do the opposite.")},
+                         "Play the volume feedback sound on a desktop without a setting of its "
+                         "own for it (GNOME's event sounds and Plasma's audio feedback decide "
+                         "there). Hold Shift while pressing a volume key to do the opposite.")},
       {"focusFilterState",
        QT_TRANSLATE_NOOP("SettingsKeys",
                          "The Focus filter's last state, as `tindra focus` wrote it.")},
@@ -171,7 +172,8 @@ std::optional<SettingsNote> settingsNoteHere(std::string_view key) {
         false}},
       {"mouseDragGestures",
        {QT_TRANSLATE_NOOP("SettingsNotes",
-                          "Drag the closed notch down to open it, or sideways to skip tracks."),
+                          "Drag the closed notch down to open it, or sideways to skip tracks; "
+                          "drag the opened one up from an empty spot to close it."),
         false}},
       {"glassBackground",
        {QT_TRANSLATE_NOOP("SettingsNotes",
