@@ -24,8 +24,9 @@ TEST(CalendarListEditorTest, ListsTheCalendarsWithASwitchEachAndAddsFilesAndAddr
       "DTSTART:20261026T090000Z\r\nEND:VEVENT\r\nEND:VCALENDAR\r\n");
   file.close();
   SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ICalendarBackend backend({dir.filePath("calendars.json").toStdString(), dir.filePath("kept"), {}},
-                           [] { return 1792972800.0; });
+  ICalendarBackend backend(
+      {dir.filePath("calendars.json").toStdString(), dir.filePath("kept"), {}, std::nullopt},
+      [] { return 1792972800.0; });
   backend.start();
   CalendarListEditor editor(backend, settings);
 
