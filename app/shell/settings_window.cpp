@@ -19,6 +19,7 @@
 #include "base/json_writer.h"
 #include "base/qt_text.h"
 #include "settings/settings_keys.h"
+#include "shell/game_list_editor.h"
 #include "shell/pinned_sections_editor.h"
 #include "shell/settings_key_texts.h"
 #include "shell/settings_pages.h"
@@ -217,6 +218,18 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
       break;
     }
     case Type::string:
+      if (key.name == settings::gameBundleIdentifiers.name) {
+        auto* games = new GameListEditor;
+        connect(games, &GameListEditor::edited, this,
+                [this, games, name] { write(name, games->stored().toStdString()); });
+        row.editor = games;
+        row.show = [games](const JSONValue& v) {
+          games->setStored(v.asString() != nullptr ? QString::fromStdString(*v.asString())
+                                                   : QString());
+        };
+        break;
+      }
+      [[fallthrough]];
     case Type::optionalString: {
       auto* edit = new QLineEdit;
       if (key.type == Type::optionalString) edit->setPlaceholderText(tr("(none)"));
