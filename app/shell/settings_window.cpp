@@ -319,10 +319,15 @@ void SettingsWindow::setExtra(std::string_view name, QWidget* extra) {
     delete extra;
     return;
   }
-  delete row->second.extra;
-  row->second.extra = extra;
-  pages_[static_cast<std::size_t>(row->second.page)].grid->addWidget(extra, row->second.line + 1, 0,
-                                                                     1, 3);
+  // Several extras stand one below the other, in the order they were put there.
+  if (row->second.extra == nullptr) {
+    row->second.extra = new QWidget;
+    auto* stack = new QVBoxLayout(row->second.extra);
+    stack->setContentsMargins(0, 0, 0, 0);
+    pages_[static_cast<std::size_t>(row->second.page)].grid->addWidget(
+        row->second.extra, row->second.line + 1, 0, 1, 3);
+  }
+  row->second.extra->layout()->addWidget(extra);
   filter(search_.text());
 }
 

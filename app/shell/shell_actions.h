@@ -17,7 +17,9 @@ namespace tindra {
 
 class ViewRegistry;
 
+class BatteryViewModel;
 class DiagnosticsLog;
+class HudProvider;
 class WeatherProvider;
 class SettingsStore;
 
@@ -55,6 +57,10 @@ class ShellActions : public QObject {
   }
   // The weather's own settings, under weatherEnabled.
   void setWeather(WeatherProvider* weather) { weather_ = weather; }
+  // Said in Settings as it changes: a keyboard light that cannot be used (under its setting),
+  // and a computer without a battery (on the battery page).
+  void setKeyboardLight(const HudProvider* hud) { hud_ = hud; }
+  void setBattery(const BatteryViewModel* battery) { battery_ = battery; }
   SettingsWindow* settingsWindow() const { return settingsWindow_.get(); }
   // A check the Diagnostics window offers as a button; add before it is first opened.
   void addCheck(DiagnosticsWindow::Check check) { checks_.push_back(std::move(check)); }
@@ -70,6 +76,7 @@ class ShellActions : public QObject {
     notes_.push_back({std::move(name), std::move(text), unavailable});
   }
   QWidget* diagnosticsPanel();
+  void addFollowedNotes();
 
   SettingsStore& settings_;
   const ViewRegistry& views_;
@@ -93,6 +100,8 @@ class ShellActions : public QObject {
   };
   std::vector<Note> notes_;
   WeatherProvider* weather_ = nullptr;
+  const HudProvider* hud_ = nullptr;
+  const BatteryViewModel* battery_ = nullptr;
 };
 
 }  // namespace tindra
