@@ -14,6 +14,7 @@
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -113,6 +114,33 @@ TEST(TrayUnavailableTest, SettingsAndQuitStayReachableFromTheNotch) {
   EXPECT_TRUE(window.editorFor(settings::lockScreenStyle.name)->isHidden());
   EXPECT_TRUE(window.editorFor(settings::lockWidgetOffset.name)->isHidden());
   EXPECT_TRUE(window.editorFor(settings::experimentalCallNotices.name)->isEnabled());
+}
+
+// Without a system bus there is no battery and no keyboard light to be found: Settings says so
+// where the user looks for them, and says it as soon as the light is looked for.
+TEST(SettingsHereTest, SaysWhatThisComputerLacks) {
+  TindraApp app({.animated = false});
+  ASSERT_TRUE(app.settings().write(settings::experimentalKeyboardBacklight, false));
+  app.shell().openSettings();
+  SettingsWindow& window = *app.shell().settingsWindow();
+  const auto shown = [&](const QString& text) {
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+      if (label->text() == text && !label->isHidden()) return true;
+    }
+    return false;
+  };
+  const QString noBattery =
+      QStringLiteral("This computer has no battery, so there is nothing to show here.");
+  const QString noLight =
+      QStringLiteral("No keyboard backlight that Tindra can control was found on this computer.");
+  EXPECT_TRUE(shown(noBattery));
+  EXPECT_FALSE(shown(noLight));  // not looked for while off
+  ASSERT_TRUE(app.settings().write(settings::experimentalKeyboardBacklight, true));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown(noLight); }, 3000));
+  EXPECT_TRUE(app.settings().read(settings::experimentalKeyboardBacklight));
+  window.showPage(settingsPageOf(settings::experimentalKeyboardBacklight.name));
+  keepScreenshot(window.grab().toImage(), QStringLiteral("settings-keyboard-light"));
+  ASSERT_TRUE(app.settings().write(settings::experimentalKeyboardBacklight, false));
 }
 
 TEST(OnboardingTest, ShowsOnTheFirstStartWithWhatWasFoundAndNeverAgain) {

@@ -70,7 +70,8 @@ QList<OnboardingFeatures::Line> OnboardingFeatures::describe(const DiagnosticsLo
            tr("Calendar: off. Turn it on in Settings… and add your calendars (.ics files or web "
               "addresses)."),
            tr("Calendar: your next meeting with its Join button, and today's agenda."),
-           tr("Calendar: a calendar could not be read; Settings… says which, and why."));
+           tr("Calendar: nothing to show yet. Add your calendars (.ics files or web addresses) "
+              "in Settings…, which says of each whether it could be read."));
   switched(settings.read(settings::weatherEnabled), "weather",
            tr("Weather: off. Turn it on in Settings… to see the forecast from MET Norway."),
            tr("Weather: the forecast for where you are, from MET Norway."),

@@ -85,7 +85,7 @@ TEST_F(OnboardingFeaturesTest, SwitchedOffFeaturesSayWhereToTurnThemOn) {
   EXPECT_TRUE(line(QStringLiteral("Weather:")).contains(QStringLiteral("Turn it on")));
   ASSERT_TRUE(store_.write(settings::calendarEnabled, true));
   ASSERT_TRUE(store_.write(settings::weatherEnabled, true));
-  EXPECT_TRUE(line(QStringLiteral("Calendar:")).contains(QStringLiteral("could not be read")));
+  EXPECT_TRUE(line(QStringLiteral("Calendar:")).contains(QStringLiteral("Add your calendars")));
   EXPECT_TRUE(line(QStringLiteral("Weather:")).contains(QStringLiteral("choose your place")));
   check("calendar", Outcome::ok, "2 calendars");
   EXPECT_TRUE(line(QStringLiteral("Calendar:")).contains(QStringLiteral("Join")));

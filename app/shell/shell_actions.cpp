@@ -87,7 +87,9 @@ void ShellActions::addFollowedNotes() {
       label->setVisible(!label->text().isEmpty());
     };
     connect(source, changed, label, update);
-    update();
+    // Not shown yet: a label without a parent would become a window of its own.
+    label->setText(text());
+    if (label->text().isEmpty()) label->hide();
     return label;
   };
   if (hud_ != nullptr) {
