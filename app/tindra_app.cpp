@@ -72,7 +72,8 @@ void TindraApp::startProviders() {
 }
 
 // What Settings and Diagnostics offer of the providers: the adapter's check, the calendars, the
-// weather's place, and no battery settings on a machine without a battery (a desktop).
+// weather's place, what keeps the keyboard light from use, and no battery settings on a machine
+// without a battery (a desktop), with a word that says so.
 void TindraApp::offerProvidersToShell() {
   if (const AdapterLaunch* adapter = providers_->get<NowPlayingProvider>().adapter()) {
     adapterCheck_ = std::make_unique<AdapterCheck>(*adapter, *diagnostics_);
@@ -84,7 +85,9 @@ void TindraApp::offerProvidersToShell() {
                                                 ? QString()
                                                 : calendar.travel().unavailableReason());
   shell_->setWeather(&providers_->get<WeatherProvider>());
+  shell_->setKeyboardLight(&providers_->get<HudProvider>());
   const BatteryViewModel* battery = providers_->get<BatteryProvider>().viewModel();
+  shell_->setBattery(battery);
   shell_->setHiddenSettings([battery](std::string_view name) {
     return !battery->available() && name.starts_with("battery");
   });

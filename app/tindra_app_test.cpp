@@ -14,6 +14,7 @@
 #include <QDoubleSpinBox>
 #include <QFile>
 #include <QGuiApplication>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -115,16 +116,46 @@ TEST(TrayUnavailableTest, SettingsAndQuitStayReachableFromTheNotch) {
   EXPECT_TRUE(window.editorFor(settings::experimentalCallNotices.name)->isEnabled());
 }
 
+// Without a system bus there is no battery and no keyboard light to be found: Settings says so
+// where the user looks for them, and says it as soon as the light is looked for.
+TEST(SettingsHereTest, SaysWhatThisComputerLacks) {
+  TindraApp app({.animated = false});
+  ASSERT_TRUE(app.settings().write(settings::experimentalKeyboardBacklight, false));
+  app.shell().openSettings();
+  SettingsWindow& window = *app.shell().settingsWindow();
+  const auto shown = [&](const QString& text) {
+    for (const QLabel* label : window.findChildren<QLabel*>()) {
+      if (label->text() == text && !label->isHidden()) return true;
+    }
+    return false;
+  };
+  const QString noBattery =
+      QStringLiteral("This computer has no battery, so there is nothing to show here.");
+  const QString noLight =
+      QStringLiteral("No keyboard backlight that Tindra can control was found on this computer.");
+  EXPECT_TRUE(shown(noBattery));
+  EXPECT_FALSE(shown(noLight));  // not looked for while off
+  ASSERT_TRUE(app.settings().write(settings::experimentalKeyboardBacklight, true));
+  EXPECT_TRUE(QTest::qWaitFor([&] { return shown(noLight); }, 3000));
+  EXPECT_TRUE(app.settings().read(settings::experimentalKeyboardBacklight));
+  window.showPage(settingsPageOf(settings::experimentalKeyboardBacklight.name));
+  keepScreenshot(window.grab().toImage(), QStringLiteral("settings-keyboard-light"));
+  ASSERT_TRUE(app.settings().write(settings::experimentalKeyboardBacklight, false));
+}
+
 TEST(OnboardingTest, ShowsOnTheFirstStartWithWhatWasFoundAndNeverAgain) {
   {
     TindraApp app({.animated = false, .welcome = true});
     OnboardingWindow* welcome = app.onboarding();
     ASSERT_NE(welcome, nullptr);
     EXPECT_TRUE(welcome->isVisible());
-    // This session has no system bus: what that means for the battery is said.
-    EXPECT_TRUE(welcome->services().contains(QStringLiteral("✗  battery: no system bus")))
+    // This session has no system bus: what that means for the battery is said in a user's
+    // words, the bus's own error left to Diagnostics.
+    EXPECT_TRUE(welcome->services().contains(
+        QStringLiteral("✗  Battery and Bluetooth need the system bus (D-Bus)")))
         << welcome->services().toStdString();
-    EXPECT_TRUE(welcome->services().contains(QStringLiteral("media")));
+    EXPECT_FALSE(welcome->services().contains(QStringLiteral("system_bus_socket")));
+    EXPECT_TRUE(welcome->services().contains(QStringLiteral("Now Playing:")));
     for (QRadioButton* choice : welcome->findChildren<QRadioButton*>()) {
       if (choice->text() == QLatin1String("when you click it")) choice->setChecked(true);
     }

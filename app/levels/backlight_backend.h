@@ -34,6 +34,8 @@ class BacklightBackend : public Backend {
 
   // Asks for `level`; writeFinished reports what the light read afterwards.
   virtual void setLevel(double level) = 0;
+  // Reads the light again after its level could not be read.
+  virtual void readAgain() {}
 
   // None while there is no such light or no service to ask.
   const std::optional<BacklightReading>& reading() const { return reading_; }
@@ -46,6 +48,9 @@ class BacklightBackend : public Backend {
   // A write has been answered; `after` is the level read back once it was (for verifying
   // that the hardware really moved).
   void writeFinished(double requested, double after);
+  // The light's level could not be read (no answer, or a value out of range): the reading is
+  // dropped, and the light cannot be used until it is read again.
+  void levelUnreadable();
 
  protected:
   void publish(const BacklightReading& reading) {
@@ -57,6 +62,12 @@ class BacklightBackend : public Backend {
     if (!reading_) return;
     reading_.reset();
     emit readingChanged();
+  }
+  // Said before the reading goes, so that whoever listens knows why it went.
+  void reportUnreadable(const Sentence& why) {
+    emit levelUnreadable();
+    forgetReading();
+    setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded, why);
   }
   void setAccess(BrightnessAccess access, DiagnosticsLog::Outcome outcome, const Sentence& text) {
     if (assignIfChanged(access_, access) && check() == ServiceCheck{outcome, text}) {

@@ -13,23 +13,34 @@ class FakeBacklightBackend final : public BacklightBackend {
   FakeBacklightBackend(QString device, double level, QObject* parent = nullptr)
       : BacklightBackend(parent), device_(std::move(device)), level_(level) {}
 
-  void start() override {
-    setAccess(BrightnessAccess::readWrite, DiagnosticsLog::Outcome::degraded,
-              Sentence(QT_TR_NOOP("invented readings (TINDRA_FAKE asks for them)"), tr));
-    change(level_);
-  }
+  void start() override { read(level_); }
   void setLevel(double level) override {
     if (!ignoresWrites) change(level);
     emit writeFinished(level, reading() ? reading()->level : 0);
   }
 
+  // The light is read again where it was last.
+  void readAgain() override {
+    ++readAgainCount;
+    read(reading() ? reading()->level : level_);
+  }
+
   // What the system or another program does to the light.
   void change(double level) { publish(BacklightReading{device_, level, false}); }
+  using BacklightBackend::reportUnreadable;
   using BacklightBackend::setAccess;
+
+  int readAgainCount = 0;
 
   bool ignoresWrites = false;
 
  private:
+  void read(double level) {
+    setAccess(BrightnessAccess::readWrite, DiagnosticsLog::Outcome::degraded,
+              Sentence(QT_TR_NOOP("invented readings (TINDRA_FAKE asks for them)"), tr));
+    change(level);
+  }
+
   QString device_;
   double level_;
 };

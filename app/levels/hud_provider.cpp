@@ -70,6 +70,12 @@ HudProvider::HudProvider(ProviderContext context, HudBackends backends, QObject*
   }
   connect(keyboard_.backend.get(), &BacklightBackend::writeFinished, this,
           &HudProvider::onKeyboardWrite);
+  connect(keyboard_.backend.get(), &BacklightBackend::levelUnreadable, this,
+          &HudProvider::onKeyboardUnreadable);
+  connect(keyboard_.backend.get(), &BacklightBackend::checkChanged, this,
+          &HudProvider::updateKeyboardTrouble);
+  connect(keyboard_.backend.get(), &BacklightBackend::readingChanged, this,
+          &HudProvider::updateKeyboardTrouble);
   connect(keys_.get(), &MediaKeySource::pressed, this, &HudProvider::handleKey);
   connect(keys_.get(), &MediaKeySource::checkChanged, this, &HudProvider::recordKeys);
   commands_->setHandler([this](const LevelCommand& command) {
@@ -83,7 +89,7 @@ HudProvider::HudProvider(ProviderContext context, HudBackends backends, QObject*
                                      std::string(settings::brightnessHUDEnabled.name),
                                      std::string(settings::experimentalKeyboardBacklight.name)},
                                     [this](std::string_view) {
-                                      startKeyboardIfWanted();
+                                      onKeyboardSetting();
                                       updateRouting();
                                     });
   connect(&activities(), &ActivityCenter::currentChanged, this,
@@ -123,6 +129,38 @@ void HudProvider::startKeyboardIfWanted() {
   keyboardStarted_ = true;
   keyboard_.backend->start();
   record(sourceName(keyboard_), keyboard_.backend->check());
+  updateKeyboardTrouble();
+}
+
+void HudProvider::onKeyboardSetting() {
+  if (!settings().read(settings::experimentalKeyboardBacklight)) return;
+  startKeyboardIfWanted();
+  // Turned on again after the level could not be read: another try.
+  if (keyboardTrouble_ == KeyboardTrouble::unreadable) {
+    setKeyboardTrouble(KeyboardTrouble::none);
+    keyboard_.backend->readAgain();
+  }
+}
+
+// A level that cannot be read (a closed lid, a light between states) cannot be stepped; the
+// setting goes off, so that the keys go back to the desktop and Settings says why.
+void HudProvider::onKeyboardUnreadable() {
+  setKeyboardTrouble(KeyboardTrouble::unreadable);
+  if (settings().read(settings::experimentalKeyboardBacklight)) {
+    (void)settings().write(settings::experimentalKeyboardBacklight, false);
+  }
+}
+
+void HudProvider::updateKeyboardTrouble() {
+  // An unreadable level is said until the setting is turned on again.
+  if (keyboardTrouble_ == KeyboardTrouble::unreadable) return;
+  const bool missing = keyboardStarted_ && !keyboard_.backend->reading() &&
+                       keyboard_.backend->check().outcome != DiagnosticsLog::Outcome::ok;
+  setKeyboardTrouble(missing ? KeyboardTrouble::notFound : KeyboardTrouble::none);
+}
+
+void HudProvider::setKeyboardTrouble(KeyboardTrouble trouble) {
+  if (assignIfChanged(keyboardTrouble_, trouble)) emit keyboardTroubleChanged();
 }
 
 // Keys ------------------------------------------------------------------------------------------

@@ -52,12 +52,21 @@ class HudProvider final : public Provider {
   void start() override;
   HudViewModel* viewModel() override { return &viewModel_; }
 
+  // What keeps the keyboard light from being used, for Settings: none found (no light, or no
+  // service that has one), or a level that could not be read, which turns its setting off until
+  // the user turns it on again and it is read anew.
+  enum class KeyboardTrouble { none, notFound, unreadable };
+  KeyboardTrouble keyboardTrouble() const { return keyboardTrouble_; }
+
   const MediaKeyContext& keyContext() const { return keyContext_; }
   // A key press, routed as the key source's are (the demo tour presses keys this way); true
   // when Tindra took it and stepped a level.
   bool handleKey(const MediaKeyPress& press);
   // The key and modifier combinations the router would swallow in `context`: the ones to hold.
   static std::vector<KeyGrab> grabsFor(const MediaKeyContext& context);
+
+ signals:
+  void keyboardTroubleChanged();
 
  private:
   // A light the keys step: the display's backlight or the keyboard's.
@@ -80,6 +89,10 @@ class HudProvider final : public Provider {
   void recordKeys();
   KeyboardBacklightAccess keyboardAccess() const;
   void startKeyboardIfWanted();
+  void onKeyboardSetting();
+  void onKeyboardUnreadable();
+  void updateKeyboardTrouble();
+  void setKeyboardTrouble(KeyboardTrouble trouble);
   void updateRouting();
 
   std::shared_ptr<VolumeBackend> volumeBackend_;
@@ -90,6 +103,7 @@ class HudProvider final : public Provider {
   Light keyboard_;
   bool keyboardStarted_ = false;
   bool keyboardWritesIgnored_ = false;
+  KeyboardTrouble keyboardTrouble_ = KeyboardTrouble::none;
   double keyboardBefore_ = 0;
   KeyboardBacklightWriteMonitor keyboardMonitor_;
   PendingLevelStepper volumePending_;

@@ -197,5 +197,51 @@ TEST_F(HudProviderTest, LightKeysStepTheLightAndIgnoredKeyboardWritesGiveTheKeys
   EXPECT_TRUE(lastDiagnostic("keyboard light").contains("ignores Tindra's changes"));
 }
 
+// A level that cannot be read turns the keyboard light's setting off and gives its keys back;
+// only turning it on again reads the light anew. A light that is not there is said as such.
+TEST_F(HudProviderTest, AnUnreadableKeyboardLightTurnsItsSettingOffUntilTurnedOnAgain) {
+  using Trouble = HudProvider::KeyboardTrouble;
+  QSignalSpy troubles(provider_.get(), &HudProvider::keyboardTroubleChanged);
+  ASSERT_TRUE(settings_.write(settings::experimentalKeyboardBacklight, true));
+  provider_->start();
+  EXPECT_EQ(provider_->keyboardTrouble(), Trouble::none);
+  ASSERT_TRUE(keys_->holds(Key::illuminationUp));
+
+  keyboard_->reportUnreadable(Sentence::verbatim("lid closed"));
+  EXPECT_EQ(provider_->keyboardTrouble(), Trouble::unreadable);
+  EXPECT_FALSE(settings_.read(settings::experimentalKeyboardBacklight));
+  EXPECT_FALSE(keys_->holds(Key::illuminationUp));
+  // The light answering on its own does not undo what Settings says.
+  keyboard_->change(0.3);
+  EXPECT_EQ(provider_->keyboardTrouble(), Trouble::unreadable);
+  EXPECT_EQ(keyboard_->readAgainCount, 0);
+
+  ASSERT_TRUE(settings_.write(settings::experimentalKeyboardBacklight, true));
+  EXPECT_EQ(keyboard_->readAgainCount, 1);
+  EXPECT_EQ(provider_->keyboardTrouble(), Trouble::none);
+  EXPECT_TRUE(keys_->holds(Key::illuminationUp));
+  // Unreadable again: off again, said once more.
+  const auto before = troubles.count();
+  keyboard_->reportUnreadable(Sentence::verbatim("lid closed"));
+  EXPECT_FALSE(settings_.read(settings::experimentalKeyboardBacklight));
+  EXPECT_EQ(troubles.count(), before + 1);
+}
+
+TEST_F(HudProviderTest, AKeyboardLightThatIsNotThereIsNotFoundOnlyOnceLookedFor) {
+  HudProvider provider(
+      ProviderContext{activities_, settings_, diagnostics_},
+      HudBackends{std::make_unique<FakeVolumeBackend>(),
+                  std::make_unique<FakeBacklightBackend>("panel", 0.5),
+                  std::make_unique<BacklightBackend::Null>(Sentence::verbatim("no system bus")),
+                  std::make_unique<FakeMediaKeySource>()});
+  provider.start();
+  // Not looked for while its setting is off.
+  EXPECT_EQ(provider.keyboardTrouble(), HudProvider::KeyboardTrouble::none);
+  ASSERT_TRUE(settings_.write(settings::experimentalKeyboardBacklight, true));
+  EXPECT_EQ(provider.keyboardTrouble(), HudProvider::KeyboardTrouble::notFound);
+  // Not turned off: nothing was read that could be wrong, and a light may come with a dock.
+  EXPECT_TRUE(settings_.read(settings::experimentalKeyboardBacklight));
+}
+
 }  // namespace
 }  // namespace tindra

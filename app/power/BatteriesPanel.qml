@@ -1,13 +1,15 @@
 import QtQuick
 import Tindra
 
-// The batteries section: the internal battery with its state and time left. Accessories join
-// it when their provider arrives.
+// The batteries section: the internal battery with its state and time left, beside the
+// accessories. The idle layout already shows the battery's percentage, so alone it is drawn
+// only when pinned; pinned on a computer without a battery, it says so.
 Column {
     id: root
 
     property var model
     readonly property bool hasContent: root.model !== undefined && root.model.available
+    readonly property bool onlyBesideOthers: true
 
     width: 90
     spacing: 6
@@ -18,7 +20,16 @@ Column {
         font.pixelSize: 12
         font.weight: Font.DemiBold
     }
+    Text {
+        visible: !root.hasContent
+        width: root.width
+        wrapMode: Text.WordWrap
+        text: qsTr("This computer has no battery.")
+        color: "#a1a1a6"
+        font.pixelSize: 12
+    }
     BatteryGlyph {
+        visible: root.hasContent
         width: 52
         height: 24
         percent: root.model ? root.model.percent : 0
@@ -26,12 +37,14 @@ Column {
         pluggedIn: root.model ? root.model.pluggedIn : false
     }
     Text {
+        visible: root.hasContent
         text: root.model ? root.model.percent + " %" : ""
         color: "white"
         font.pixelSize: 22
         font.weight: Font.Light
     }
     Text {
+        visible: root.hasContent
         text: {
             if (!root.model) return "";
             if (root.model.charged) return qsTr("Charged");
@@ -45,7 +58,9 @@ Column {
         font.pixelSize: 12
     }
     Text {
-        visible: root.model !== undefined && root.model.lowPowerMode
+        visible: root.hasContent && root.model.lowPowerMode
+        width: root.width
+        wrapMode: Text.WordWrap
         text: qsTr("Low Power Mode is on")
         color: "#ffd60a"
         font.pixelSize: 11

@@ -12,6 +12,8 @@ Column {
     spacing: 2
 
     Text {
+        width: root.width
+        wrapMode: Text.WordWrap
         text: root.content.activityLabel !== "" ? root.content.activityLabel : " "
         color: Appearance.tint(root.content.activityAccent)
         font.pixelSize: 12
@@ -23,9 +25,10 @@ Column {
         font.pixelSize: 40
         font.weight: Font.Light
     }
+    // A long date ("Wednesday 30 September") takes a second line rather than losing its end.
     Text {
         width: root.width
-        elide: Text.ElideRight
+        wrapMode: Text.WordWrap
         text: root.content.clock.dateText
         color: "#a1a1a6"
         font.pixelSize: 12

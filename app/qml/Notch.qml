@@ -85,7 +85,8 @@ Item {
         readonly property bool transientShown: root.content.sections.some(
             section => section.transient && section.model.showing)
         // Which sections are drawn: the one of the activity on show first, if it fits, then
-        // the others in their order while there is room.
+        // the others in their order while there is room, and last the views that are drawn
+        // only beside others of their section, when those are.
         readonly property var fitting: {
             let room = row.width - idle.width
             const need = []
@@ -100,9 +101,15 @@ Item {
             }
             const current = root.content.sections.findIndex(
                 section => section.model === root.content.compactModel)
-            if (current >= 0 && current < need.length) take(current)
+            const besideOthersOnly = i => sections.itemAt(i)?.besideOthersOnly === true
+            const othersFit = i => fits.some((fit, j) => fit && j !== i
+                && root.content.sections[j].name === root.content.sections[i].name)
+            if (current >= 0 && current < need.length && !besideOthersOnly(current)) take(current)
             for (let i = 0; i < need.length; ++i) {
-                if (i !== current) take(i)
+                if (i !== current && need[i] > 0 && !besideOthersOnly(i)) take(i)
+            }
+            for (let i = 0; i < need.length; ++i) {
+                if (need[i] > 0 && besideOthersOnly(i) && othersFit(i)) take(i)
             }
             return fits
         }
@@ -137,6 +144,10 @@ Item {
                     readonly property bool wanted: item !== null && (modelData.transient
                         ? item.hasContent
                         : (modelData.pinned || item.hasContent) && !panel.transientShown)
+                    // A view that repeats what the idle layout says (the machine's battery) is
+                    // drawn only beside the others of its section (the accessories), or pinned.
+                    readonly property bool besideOthersOnly: item !== null && !modelData.pinned
+                        && item.onlyBesideOthers === true
                     height: parent.height
                     visible: panel.fitting[index] === true
                     Component.onCompleted: setSource(modelData.source, { model: modelData.model })

@@ -1,13 +1,14 @@
 #include "shell/onboarding_window.h"
 
 #include <QCloseEvent>
+#include <QDBusConnection>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QVBoxLayout>
-#include <map>
 
 #include "base/logging_categories.h"
 #include "settings/settings_keys.h"
+#include "shell/onboarding_features.h"
 
 namespace tindra {
 
@@ -29,7 +30,11 @@ QString mark(DiagnosticsLog::Outcome outcome) {
 
 OnboardingWindow::OnboardingWindow(SettingsStore& settings, DiagnosticsLog& log,
                                    AutostartEntry autostart, QWidget* parent)
-    : QWidget(parent), settings_(settings), log_(log), autostart_(std::move(autostart)) {
+    : QWidget(parent),
+      settings_(settings),
+      log_(log),
+      autostart_(std::move(autostart)),
+      systemBus_(QDBusConnection::systemBus().isConnected()) {
   setWindowTitle(tr("Welcome to Tindra"));
   resize(640, 560);
   auto* layout = new QVBoxLayout(this);
@@ -40,16 +45,24 @@ OnboardingWindow::OnboardingWindow(SettingsStore& settings, DiagnosticsLog& log,
          "headphone notice, the next meeting, a call or a message. Rest the pointer on it and it "
          "opens into a panel with the controls, your calendar, the weather, your batteries and a "
          "file tray. Everything stays on this computer.</p>"
-         "<p><b>What Tindra found here</b> (✓ in use, – waiting or limited, ✗ not available, and "
-         "what that means):</p>"));
+         "<p><b>What Tindra found here</b> (✓ works, – off or waiting, ✗ missing), and what you "
+         "can do:</p>"));
   about->setWordWrap(true);
   layout->addWidget(about);
   services_.setWordWrap(true);
   services_.setTextFormat(Qt::PlainText);
   services_.setTextInteractionFlags(Qt::TextSelectableByMouse);
   layout->addWidget(&services_);
+  // The checks keep coming in after the window opens (a player helper's self-test, a bus
+  // service that starts late); each updates the list.
   connect(&log_, &DiagnosticsLog::recorded, this, &OnboardingWindow::listServices);
   listServices();
+  auto* details =
+      new QLabel(tr("Each service's own report is in Diagnostics… on Tindra's menu, "
+                    "for a bug report."));
+  details->setWordWrap(true);
+  details->setStyleSheet(QStringLiteral("color: gray"));
+  layout->addWidget(details);
 
   layout->addWidget(new QLabel(tr("<b>The notch opens</b>")));
   const NotchOpeningMode current = settings_.read(settings::notchOpeningMode);
@@ -74,17 +87,10 @@ OnboardingWindow::OnboardingWindow(SettingsStore& settings, DiagnosticsLog& log,
 }
 
 void OnboardingWindow::listServices() {
-  // Each source's latest word, in the order the sources first spoke.
-  std::vector<QString> order;
-  std::map<QString, const DiagnosticsLog::Entry*> latest;
-  for (const DiagnosticsLog::Entry& entry : log_.entries()) {
-    if (!latest.contains(entry.source)) order.push_back(entry.source);
-    latest[entry.source] = &entry;
-  }
   QStringList lines;
-  for (const QString& source : order) {
-    const DiagnosticsLog::Entry& entry = *latest[source];
-    lines << QStringLiteral("%1  %2: %3").arg(mark(entry.outcome), source, entry.text.translated());
+  for (const OnboardingFeatures::Line& line :
+       OnboardingFeatures::describe(log_, settings_, systemBus_)) {
+    lines << QStringLiteral("%1  %2").arg(mark(line.outcome), line.text);
   }
   services_.setText(lines.join(u'\n'));
 }

@@ -1,5 +1,5 @@
-// OnboardingWindow: the first start's introduction. It says what Tindra shows, lists the
-// services it found and those it did not with what that means (each provider's latest check,
+// OnboardingWindow: the first start's introduction. It says what Tindra shows, what of it works
+// on this desktop and, where something is missing, what the user can do (OnboardingFeatures,
 // following the diagnostics log as the checks come in), offers the way the notch opens and
 // starting at login, and marks `onboardingCompleted` when closed, so it never shows again.
 #pragma once
@@ -22,7 +22,7 @@ class OnboardingWindow : public QWidget {
   OnboardingWindow(SettingsStore& settings, DiagnosticsLog& log, AutostartEntry autostart,
                    QWidget* parent = nullptr);
 
-  // The services as listed now, a line each.
+  // The features as listed now, a line each.
   QString services() const { return services_.text(); }
   // Applies the choices and marks the introduction seen.
   void finish();
@@ -36,6 +36,7 @@ class OnboardingWindow : public QWidget {
   SettingsStore& settings_;
   DiagnosticsLog& log_;
   AutostartEntry autostart_;
+  bool systemBus_;
   QLabel services_;
   QButtonGroup opening_;
   QCheckBox startAtLogin_;

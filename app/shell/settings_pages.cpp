@@ -128,7 +128,12 @@ bool settingsHiddenHere(std::string_view key) {
                                                               "keyboardBacklightMissingOn",
                                                               "hideFromScreenRecordings",
                                                               "swipeFeedback"};
-  return key.starts_with("lockScreen") || hidden.contains(key);
+  // What Tindra keeps for itself is no preference: whether the introduction was seen, which
+  // events have sounded, the Focus filter's state as `tindra focus` left it. It stays in the
+  // settings file and the diagnostics report.
+  static const std::set<std::string_view, std::less<>> ownState{
+      "onboardingCompleted", "calendarEventSoundLog", "focusFilterState"};
+  return key.starts_with("lockScreen") || hidden.contains(key) || ownState.contains(key);
 }
 
 std::optional<SettingsNote> settingsNoteHere(std::string_view key) {

@@ -24,7 +24,8 @@ int settingsPageOf(std::string_view key);
 // (marked for translation in "SettingsKeys"); nullptr where the table's own fits.
 const char* settingsDescriptionHere(std::string_view key);
 
-// Whether `key` means nothing on this desktop, so Settings does not list it.
+// Whether Settings leaves `key` out: it means nothing on this desktop, or it is state Tindra
+// keeps for itself rather than a preference.
 bool settingsHiddenHere(std::string_view key);
 
 // Words Settings puts under a key on this desktop (marked for translation in "SettingsNotes"):

@@ -19,6 +19,7 @@
 #include "base/json_writer.h"
 #include "base/qt_text.h"
 #include "settings/settings_keys.h"
+#include "shell/game_list_editor.h"
 #include "shell/pinned_sections_editor.h"
 #include "shell/settings_key_texts.h"
 #include "shell/settings_pages.h"
@@ -217,6 +218,18 @@ SettingsWindow::Row SettingsWindow::makeEditor(const settings::SettingsKeyDescri
       break;
     }
     case Type::string:
+      if (key.name == settings::gameBundleIdentifiers.name) {
+        auto* games = new GameListEditor;
+        connect(games, &GameListEditor::edited, this,
+                [this, games, name] { write(name, games->stored().toStdString()); });
+        row.editor = games;
+        row.show = [games](const JSONValue& v) {
+          games->setStored(v.asString() != nullptr ? QString::fromStdString(*v.asString())
+                                                   : QString());
+        };
+        break;
+      }
+      [[fallthrough]];
     case Type::optionalString: {
       auto* edit = new QLineEdit;
       if (key.type == Type::optionalString) edit->setPlaceholderText(tr("(none)"));
@@ -306,10 +319,15 @@ void SettingsWindow::setExtra(std::string_view name, QWidget* extra) {
     delete extra;
     return;
   }
-  delete row->second.extra;
-  row->second.extra = extra;
-  pages_[static_cast<std::size_t>(row->second.page)].grid->addWidget(extra, row->second.line + 1, 0,
-                                                                     1, 3);
+  // Several extras stand one below the other, in the order they were put there.
+  if (row->second.extra == nullptr) {
+    row->second.extra = new QWidget;
+    auto* stack = new QVBoxLayout(row->second.extra);
+    stack->setContentsMargins(0, 0, 0, 0);
+    pages_[static_cast<std::size_t>(row->second.page)].grid->addWidget(
+        row->second.extra, row->second.line + 1, 0, 1, 3);
+  }
+  row->second.extra->layout()->addWidget(extra);
   filter(search_.text());
 }
 

@@ -37,8 +37,8 @@ class SettingsWindow : public QWidget {
   QWidget* editorFor(std::string_view name) const;
   // The line that reports a failed write; empty while all is well.
   QString problem() const { return problem_.text(); }
-  // Puts `extra` (owned from now on) under the key's row, shown and hidden with it: a note, or a
-  // richer editor than the key's own (the list of calendars).
+  // Puts `extra` (owned from now on) under the key's row, below any put there before, shown and
+  // hidden with it: a note, or a richer editor than the key's own (the list of calendars).
   void setExtra(std::string_view name, QWidget* extra);
   // Puts `editor` (owned from now on) in place of the key's own, for a key whose values only the
   // running program knows (the attached displays): `show` puts a value in it; it hands its edits

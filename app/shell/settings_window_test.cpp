@@ -182,6 +182,24 @@ TEST_F(SettingsWindowTest, KeysThatDoNotApplyHereAreNotListed) {
   EXPECT_FALSE(window.editorFor(settings::batteryLowThreshold.name)->isHidden());
 }
 
+// What Tindra keeps for itself is not offered as a preference, and so Reset Page leaves it: a
+// reset General page would otherwise bring the introduction back.
+TEST_F(SettingsWindowTest, ProgramStateIsNeitherListedNorReset) {
+  SettingsWindow window(store_, views_);
+  window.setHidden(settingsHiddenHere);
+  for (const std::string_view state :
+       {settings::onboardingCompleted.name, settings::calendarEventSoundLog.name,
+        settings::focusFilterState.name}) {
+    EXPECT_FALSE(window.isListed(state)) << state;
+  }
+  EXPECT_TRUE(window.isListed(settings::gameBundleIdentifiers.name));
+  ASSERT_TRUE(store_.write(settings::onboardingCompleted, true));
+  ASSERT_TRUE(store_.write(settings::playSounds, false));
+  window.resetPage(settingsPageOf(settings::onboardingCompleted.name));
+  EXPECT_TRUE(store_.read(settings::onboardingCompleted));
+  EXPECT_TRUE(store_.read(settings::playSounds));
+}
+
 TEST_F(SettingsWindowTest, EditsGoThroughTheStoreAndOutsideChangesShow) {
   SettingsWindow window(store_, views_);
   // Opening the window writes nothing: defaults stay unstored.

@@ -7,6 +7,8 @@
 #include <QVBoxLayout>
 
 #include "base/logging_categories.h"
+#include "levels/hud_provider.h"
+#include "power/battery_view_model.h"
 #include "settings/settings_keys.h"
 #include "shell/calendar_list_editor.h"
 #include "shell/diagnostics_window.h"
@@ -75,6 +77,53 @@ void ShellActions::startAtLogin(bool on) {
   }
 }
 
+// Notes that follow what a provider finds while Settings is open.
+void ShellActions::addFollowedNotes() {
+  const auto followed = [](const auto* source, auto changed, auto text) {
+    auto* label = new QLabel;
+    label->setWordWrap(true);
+    label->setStyleSheet(QStringLiteral("color: #b25000"));
+    const auto update = [label, text] {
+      label->setText(text());
+      label->setVisible(!label->text().isEmpty());
+    };
+    connect(source, changed, label, update);
+    // Not shown yet: a label without a parent would become a window of its own.
+    label->setText(text());
+    if (label->text().isEmpty()) label->hide();
+    return label;
+  };
+  if (hud_ != nullptr) {
+    settingsWindow_->setExtra(
+        settings::experimentalKeyboardBacklight.name,
+        followed(hud_, &HudProvider::keyboardTroubleChanged, [hud = hud_] {
+          switch (hud->keyboardTrouble()) {
+            case HudProvider::KeyboardTrouble::none:
+              return QString();
+            case HudProvider::KeyboardTrouble::notFound:
+              return tr(
+                  "No keyboard backlight that Tindra can control was found on this "
+                  "computer.");
+            case HudProvider::KeyboardTrouble::unreadable:
+              return tr(
+                  "Tindra could not read the keyboard backlight just now, so this was "
+                  "turned off. Try again with the lid open.");
+          }
+          return QString();
+        }));
+  }
+  if (battery_ != nullptr) {
+    const int page = settingsPageOf(settings::batteryLowAlert.name);
+    settingsWindow_->addToPage(
+        settingsPages()[static_cast<std::size_t>(page)].title,
+        followed(battery_, &BatteryViewModel::changed, [battery = battery_] {
+          return battery->available()
+                     ? QString()
+                     : tr("This computer has no battery, so there is nothing to show here.");
+        }));
+  }
+}
+
 ShellActions::~ShellActions() = default;
 
 void ShellActions::openDiagnostics() {
@@ -119,6 +168,7 @@ void ShellActions::openSettings() {
                          here->unavailable});
       }
     }
+    addFollowedNotes();
     for (const Note& note : notes) {
       auto* label = new QLabel(note.text);
       label->setWordWrap(true);

@@ -17,7 +17,9 @@ namespace tindra {
 
 class ViewRegistry;
 
+class BatteryViewModel;
 class DiagnosticsLog;
+class HudProvider;
 class ScreenSource;
 class WeatherProvider;
 class SettingsStore;
@@ -58,6 +60,10 @@ class ShellActions : public QObject {
   void setWeather(WeatherProvider* weather) { weather_ = weather; }
   // The attached displays, offered as the choice of displaySelection.
   void setDisplays(ScreenSource* screens) { screens_ = screens; }
+  // Said in Settings as it changes: a keyboard light that cannot be used (under its setting),
+  // and a computer without a battery (on the battery page).
+  void setKeyboardLight(const HudProvider* hud) { hud_ = hud; }
+  void setBattery(const BatteryViewModel* battery) { battery_ = battery; }
   SettingsWindow* settingsWindow() const { return settingsWindow_.get(); }
   // A check the Diagnostics window offers as a button; add before it is first opened.
   void addCheck(DiagnosticsWindow::Check check) { checks_.push_back(std::move(check)); }
@@ -74,6 +80,7 @@ class ShellActions : public QObject {
   }
   QWidget* diagnosticsPanel();
   void offerDisplays();
+  void addFollowedNotes();
 
   SettingsStore& settings_;
   const ViewRegistry& views_;
@@ -98,6 +105,8 @@ class ShellActions : public QObject {
   std::vector<Note> notes_;
   WeatherProvider* weather_ = nullptr;
   ScreenSource* screens_ = nullptr;
+  const HudProvider* hud_ = nullptr;
+  const BatteryViewModel* battery_ = nullptr;
 };
 
 }  // namespace tindra

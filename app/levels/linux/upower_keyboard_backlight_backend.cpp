@@ -71,11 +71,23 @@ void UPowerKeyboardBacklightBackend::readMaximum() {
 }
 
 void UPowerKeyboardBacklightBackend::readLevel(std::function<void()> then) {
-  upower_.call(lightCall(QStringLiteral("GetBrightness")),
-               [this, then = std::move(then)](const QDBusMessage& answer) {
-                 if (const auto value = dbus::argument<int>(answer)) onBrightnessChanged(*value);
-                 if (then) then();
-               });
+  upower_.call(lightCall(QStringLiteral("GetBrightness")), [this, then = std::move(then)](
+                                                               const QDBusMessage& answer) {
+    const auto value = dbus::argument<int>(answer);
+    if (!value) {
+      reportUnreadable(Sentence(QT_TR_NOOP("the keyboard backlight level cannot be read (%1)"), tr)
+                           .arg(Sentence::verbatim(answer.type() == QDBusMessage::ErrorMessage
+                                                       ? answer.errorName()
+                                                       : QStringLiteral("no level"))));
+      return;
+    }
+    onBrightnessChanged(*value);
+    if (then && reading()) then();
+  });
+}
+
+void UPowerKeyboardBacklightBackend::readAgain() {
+  readMaximum();
 }
 
 void UPowerKeyboardBacklightBackend::onBrightnessChanged(int value) {
@@ -83,11 +95,10 @@ void UPowerKeyboardBacklightBackend::onBrightnessChanged(int value) {
   const double ratio = static_cast<double>(value) / maximum_;
   // The policy judges the reading; the level keeps double precision.
   if (!KeyboardBacklightPolicy::level(static_cast<float>(ratio)) || ratio < 0) {
-    forgetReading();
-    setAccess(BrightnessAccess::unavailable, DiagnosticsLog::Outcome::degraded,
-              Sentence(QT_TR_NOOP("the keyboard backlight level cannot be read (%1 of %2)"), tr)
-                  .arg(value)
-                  .arg(maximum_));
+    reportUnreadable(
+        Sentence(QT_TR_NOOP("the keyboard backlight level cannot be read (%1 of %2)"), tr)
+            .arg(value)
+            .arg(maximum_));
     return;
   }
   publish(BacklightReading{device, std::min(ratio, 1.0), false});

@@ -19,6 +19,7 @@ class UPowerKeyboardBacklightBackend final : public BacklightBackend {
 
   void start() override;
   void setLevel(double level) override;
+  void readAgain() override;
 
  private:
   void readMaximum();

@@ -76,5 +76,25 @@ TEST_F(UPowerKeyboardBacklightBackendTest, LosesTheLightWithUPowerAndFindsItAgai
   EXPECT_TRUE(backend.reading());
 }
 
+// A level beyond the light's own maximum is no reading: it is dropped and said once, and the
+// light is only used again once read anew.
+TEST_F(UPowerKeyboardBacklightBackendTest, ALevelOutOfRangeIsUnreadableUntilReadAgain) {
+  UPowerKeyboardBacklightBackend backend(QDBusConnection::systemBus());
+  QSignalSpy unreadable(&backend, &BacklightBackend::levelUnreadable);
+  backend.start();
+  ASSERT_TRUE(waitFor([&] { return backend.access() == BrightnessAccess::readWrite; }));
+  hardware("SetHardwareBrightness", 9);
+  ASSERT_TRUE(waitFor([&] { return unreadable.count() == 1; }));
+  EXPECT_FALSE(backend.reading());
+  EXPECT_EQ(backend.access(), BrightnessAccess::unavailable);
+  EXPECT_TRUE(backend.check().text.english().contains("cannot be read (9 of 3)"));
+
+  hardware("SetHardwareBrightness", 2);
+  backend.readAgain();
+  ASSERT_TRUE(waitFor([&] { return backend.access() == BrightnessAccess::readWrite; }));
+  EXPECT_DOUBLE_EQ(backend.reading()->level, 2.0 / 3);
+  EXPECT_EQ(unreadable.count(), 1);
+}
+
 }  // namespace
 }  // namespace tindra

@@ -1,0 +1,100 @@
+// Runs in: private-session --xvfb
+// The opened notch of the whole program with every backend invented, as the demo shows it: no
+// text in it loses its end to an ellipsis, and none reaches past the panel's edge.
+
+#include <gtest/gtest.h>
+
+#include <QQuickItem>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include "base/activity_center.h"
+#include "notch/notch_screen_manager.h"
+#include "notch/notch_window.h"
+#include "settings/settings_keys.h"
+#include "testing/notch_displays.h"
+#include "testing/view_shot.h"
+#include "tindra_app.h"
+
+namespace tindra {
+namespace {
+
+// A program of its own: invented backends and a settings file no other test sees.
+class OpenedNotchTest : public ::testing::Test {
+ protected:
+  OpenedNotchTest() {
+    qputenv("TINDRA_FAKE", "all");
+    qputenv("XDG_CONFIG_HOME", config_.path().toUtf8());
+  }
+  ~OpenedNotchTest() override {
+    qunsetenv("TINDRA_FAKE");
+    qputenv("XDG_CONFIG_HOME", savedConfig_);
+  }
+
+  QByteArray savedConfig_ = qgetenv("XDG_CONFIG_HOME");
+  QTemporaryDir config_;
+};
+
+struct DrawnText {
+  QString text;
+  QRectF bounds;  // in the section row's coordinates
+  bool truncated;
+};
+
+// Every visible text under `item`.
+void collectTexts(QQuickItem* item, QQuickItem* row, std::vector<DrawnText>& texts) {
+  if (!item->isVisible()) return;
+  if (item->inherits("QQuickText") && !item->property("text").toString().trimmed().isEmpty()) {
+    texts.push_back({item->property("text").toString(),
+                     item->mapRectToItem(row, QRectF(0, 0, item->width(), item->height())),
+                     item->property("truncated").toBool()});
+  }
+  for (QQuickItem* child : item->childItems()) collectTexts(child, row, texts);
+}
+
+// Checks the opened panel's texts and returns them.
+QStringList expectWholeTexts(NotchWindow& window, const char* what) {
+  SCOPED_TRACE(what);
+  auto* row = window.rootObject()->findChild<QQuickItem*>(QStringLiteral("sectionRow"));
+  std::vector<DrawnText> texts;
+  collectTexts(row, row, texts);
+  // The panel clips at its edge; half a pixel is rounding.
+  const QRectF room = QRectF(0, 0, row->width(), row->height()).adjusted(-0.5, -0.5, 0.5, 0.5);
+  QStringList seen;
+  for (const DrawnText& text : texts) {
+    EXPECT_FALSE(text.truncated) << text.text.toStdString();
+    EXPECT_TRUE(room.contains(text.bounds))
+        << text.text.toStdString() << " at " << text.bounds.x() << "," << text.bounds.y() << " "
+        << text.bounds.width() << "x" << text.bounds.height();
+    seen << text.text;
+  }
+  return seen;
+}
+
+TEST_F(OpenedNotchTest, NoTextIsCutWithTheInventedTrackMeetingAndWeather) {
+  TindraApp app({.animated = false});
+  NotchWindow& window = *app.notches().windows().front();
+  window.open();
+  QTest::qWait(300);
+  const QStringList playing = expectWholeTexts(window, "playing");
+  EXPECT_TRUE(playing.contains(QStringLiteral("Invented Track 1")))
+      << playing.join(" | ").toStdString();
+  // The idle layout has the battery; the section does not say it again without accessories
+  // beside it.
+  EXPECT_FALSE(playing.contains(QStringLiteral("Battery"))) << playing.join(" | ").toStdString();
+  keepScreenshot(grabDisplay().copy(window.geometry()), QStringLiteral("opened-playing"));
+
+  ASSERT_TRUE(app.settings().write(settings::calendarEnabled, true));
+  ASSERT_TRUE(app.settings().write(settings::weatherEnabled, true));
+  ASSERT_TRUE(app.settings().write(settings::remindersEnabled, true));
+  ASSERT_TRUE(QTest::qWaitFor(
+      [&] { return app.activities().current() == ActivityKind::upcomingEvent; }, 3000));
+  QTest::qWait(300);
+  const QStringList meeting = expectWholeTexts(window, "meeting");
+  EXPECT_TRUE(meeting.contains(QStringLiteral("Design review")))
+      << meeting.join(" | ").toStdString();
+  keepScreenshot(grabDisplay().copy(window.geometry()), QStringLiteral("opened-meeting"));
+}
+
+}  // namespace
+}  // namespace tindra
