@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "base/termination_signals.h"
 #include "demo_tour.h"
 #include "diagnostics/first_frame_report.h"
 #include "diagnostics/frame_swap_report.h"
@@ -69,6 +70,10 @@ int main(int argc, char* argv[]) {
   QApplication::setApplicationName(QStringLiteral("Tindra"));
   QApplication::setOrganizationName(QStringLiteral("Brenvik"));
   QApplication::setQuitOnLastWindowClosed(false);
+  // A logout sends SIGTERM: Tindra goes the same way as when quit, its helpers with it.
+  tindra::TerminationSignals terminationSignals;
+  QObject::connect(&terminationSignals, &tindra::TerminationSignals::received, &app,
+                   [] { QCoreApplication::quit(); });
   // The desktop's language, where Tindra has it; English otherwise.
   QTranslator translator;
   if (translator.load(QLocale(), QStringLiteral("tindra"), QStringLiteral("_"),

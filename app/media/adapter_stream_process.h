@@ -24,13 +24,16 @@ class AdapterStreamProcess : public QObject {
   using Update = std::optional<NowPlayingSnapshot>;
   static constexpr std::size_t maxPendingUpdates = 4;
   static constexpr int maxLoggedParseErrors = 20;
+  // How long the child has to end once asked before it is killed.
+  static constexpr int terminateMilliseconds = 500;
 
   AdapterStreamProcess(QString program, QStringList arguments, QObject* parent = nullptr);
-  // Kills the child if it still runs and waits for the reading thread.
+  // Ends the child if it still runs (asked, then killed after terminateMilliseconds) and waits
+  // for the reading thread.
   ~AdapterStreamProcess() override;
 
   void start();
-  // Asks the child to end; it is killed if it has not within a second.
+  // Asks the child to end; it is killed if it has not within terminateMilliseconds.
   void terminate();
 
   int parseErrors() const;
