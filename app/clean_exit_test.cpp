@@ -1,0 +1,192 @@
+// Runs in: private-session --xvfb --sound-server
+// Tindra and its now-playing helper end together, however Tindra ends: killed outright, its
+// helper still goes within moments; sent SIGTERM (a logout), it quits with status 0, taking the
+// helper with it and leaving what it last wrote on disk and no temporary file behind. The helper
+// alone ends when its standard input closes and when its bus goes away.
+// Helpers are told apart from any other Tindra's on this machine by their program (this build's)
+// and their bus (this session's, or the test's own).
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <QDBusConnection>
+#include <QDBusConnectionInterface>
+#include <QDir>
+#include <QDirIterator>
+#include <QFile>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTest>
+#include <memory>
+
+#include "testing/mpv_player.h"
+#include "testing/skip_or_fail_on_ci.h"
+
+namespace tindra {
+namespace {
+
+const QString adapter = QFileInfo(QFileInfo(QStringLiteral(TINDRA_BINARY)).dir(),
+                                  QStringLiteral("../tools/tindra-mpris-adapter"))
+                            .canonicalFilePath();
+
+QByteArray sessionBus() {
+  return qgetenv("DBUS_SESSION_BUS_ADDRESS");
+}
+
+// The running streams of this build's helper on the bus at `address`.
+QList<qint64> adapterStreams(const QByteArray& address) {
+  QList<qint64> found;
+  const QByteArray wanted = "DBUS_SESSION_BUS_ADDRESS=" + address;
+  for (const QString& entry : QDir(QStringLiteral("/proc")).entryList(QDir::Dirs)) {
+    bool number = false;
+    const qint64 id = entry.toLongLong(&number);
+    if (!number) continue;
+    QFile commandLine(QStringLiteral("/proc/%1/cmdline").arg(id));
+    QFile environment(QStringLiteral("/proc/%1/environ").arg(id));
+    // A zombie has an empty command line: it has ended, only its parent has not looked yet.
+    if (!commandLine.open(QIODevice::ReadOnly) || !environment.open(QIODevice::ReadOnly)) continue;
+    const QList<QByteArray> words = commandLine.readAll().split('\0');
+    if (words.size() < 2 || QString::fromLocal8Bit(words[0]) != adapter || words[1] != "stream") {
+      continue;
+    }
+    if (environment.readAll().split('\0').contains(wanted)) found << id;
+  }
+  return found;
+}
+
+// Waits for them to end; whatever is left is killed, so that one case's failure is not the
+// next one's.
+bool adapterStreamsEnd(const QByteArray& address, int milliseconds) {
+  if (QTest::qWaitFor([&] { return adapterStreams(address).isEmpty(); }, milliseconds)) {
+    return true;
+  }
+  for (const qint64 id : adapterStreams(address)) ::kill(static_cast<pid_t>(id), SIGKILL);
+  return false;
+}
+
+class CleanExitTest : public ::testing::Test {
+ protected:
+  static void SetUpTestSuite() {
+    if (MpvPlayer::missing().isEmpty()) player_ = new MpvPlayer({QStringLiteral("tone")});
+  }
+  static void TearDownTestSuite() {
+    delete player_;
+    player_ = nullptr;
+  }
+
+  void SetUp() override {
+    ASSERT_FALSE(adapter.isEmpty()) << "the helper is not built beside " << TINDRA_BINARY;
+    if (player_ == nullptr || !player_->onBus()) {
+      SKIP_OR_FAIL_ON_CI(MpvPlayer::missing().toStdString() + " (or mpv did not start)");
+    }
+    ASSERT_TRUE(adapterStreams(sessionBus()).isEmpty()) << "a helper left by an earlier case";
+  }
+
+  // Tindra on this session, once its helper streams.
+  void startTindra() {
+    tindra_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    tindra_.start(QStringLiteral(TINDRA_BINARY), {});
+    ASSERT_TRUE(tindra_.waitForStarted());
+    ASSERT_TRUE(QTest::qWaitFor([] { return !adapterStreams(sessionBus()).isEmpty(); }, 20000))
+        << "Tindra started no helper";
+  }
+
+  static MpvPlayer* player_;
+  QProcess tindra_;
+};
+
+MpvPlayer* CleanExitTest::player_ = nullptr;
+
+TEST_F(CleanExitTest, KilledTindraTakesItsHelperAlong) {
+  startTindra();
+  ::kill(static_cast<pid_t>(tindra_.processId()), SIGKILL);
+  EXPECT_TRUE(adapterStreamsEnd(sessionBus(), 2000));
+}
+
+// Temporary files of interrupted saves under `folder`.
+QStringList temporaryFiles(const QString& folder) {
+  QStringList found;
+  QDirIterator files(folder, {QStringLiteral("*.tmp")}, QDir::Files | QDir::Hidden,
+                     QDirIterator::Subdirectories);
+  while (files.hasNext()) found << files.next();
+  return found;
+}
+
+TEST_F(CleanExitTest, LogoutQuitsCleanlyKeepingTheLastChange) {
+  startTindra();
+  // What a shortcut writes a moment before the session ends must survive Tindra's way out.
+  ASSERT_EQ(QProcess::execute(QStringLiteral(TINDRA_BINARY),
+                              {QStringLiteral("focus"), QStringLiteral("on"),
+                               QStringLiteral("--name"), QStringLiteral("Reading")}),
+            0);
+  ::kill(static_cast<pid_t>(tindra_.processId()), SIGTERM);
+  ASSERT_TRUE(tindra_.waitForFinished(3000)) << "Tindra did not quit on SIGTERM";
+  EXPECT_EQ(tindra_.exitStatus(), QProcess::NormalExit);
+  EXPECT_EQ(tindra_.exitCode(), 0);
+  EXPECT_TRUE(adapterStreams(sessionBus()).isEmpty()) << "Tindra quit before its helper";
+
+  const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+  QFile settings(config + QStringLiteral("/tindra/settings.json"));
+  ASSERT_TRUE(settings.open(QIODevice::ReadOnly));
+  EXPECT_TRUE(settings.readAll().contains("Reading"));
+  EXPECT_EQ(temporaryFiles(config), QStringList());
+  EXPECT_EQ(temporaryFiles(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)),
+            QStringList());
+}
+
+// The helper on its own, as any program might start it.
+class AdapterAloneTest : public ::testing::Test {
+ protected:
+  // Starts a stream on the bus `address` and waits for its first message.
+  static void startStream(QProcess& stream, const QByteArray& address) {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("DBUS_SESSION_BUS_ADDRESS"), QString::fromUtf8(address));
+    stream.setProcessEnvironment(environment);
+    stream.start(adapter, {QStringLiteral("stream"), QStringLiteral("--micros")});
+    ASSERT_TRUE(stream.waitForReadyRead(10000)) << "the stream said nothing";
+  }
+};
+
+TEST_F(AdapterAloneTest, EndsWhenItsInputOrItsBusEnds) {
+  {
+    QProcess stream;
+    startStream(stream, sessionBus());
+    stream.closeWriteChannel();
+    ASSERT_TRUE(stream.waitForFinished(2000)) << "it outlived its standard input";
+    EXPECT_EQ(stream.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(stream.exitCode(), 0);
+  }
+  {
+    // A bus of its own, to take away from it.
+    QProcess daemon;
+    daemon.start(QStringLiteral("dbus-daemon"),
+                 {QStringLiteral("--session"), QStringLiteral("--nofork"),
+                  QStringLiteral("--print-address")});
+    ASSERT_TRUE(daemon.waitForReadyRead(10000)) << "dbus-daemon did not start";
+    const QByteArray address = daemon.readLine().trimmed();
+    QProcess stream;
+    startStream(stream, address);
+    daemon.kill();
+    daemon.waitForFinished(2000);
+    ASSERT_TRUE(stream.waitForFinished(2000)) << "it outlived its bus";
+    EXPECT_EQ(stream.exitStatus(), QProcess::NormalExit);
+  }
+}
+
+TEST_F(AdapterAloneTest, EndsWithItsParentWithoutAnInputToWatch) {
+  ASSERT_TRUE(adapterStreams(sessionBus()).isEmpty());
+  // A shell starts the stream with standard input closed and is killed, so only the kernel's
+  // parent-death signal is left to end it. The shell's own output pipes stay with us.
+  QProcess shell;
+  shell.start(
+      QStringLiteral("sh"),
+      {QStringLiteral("-c"), QStringLiteral("\"$0\" stream --micros 0<&- & wait"), adapter});
+  ASSERT_TRUE(shell.waitForReadyRead(10000)) << "the stream said nothing";
+  ASSERT_EQ(adapterStreams(sessionBus()).size(), 1);
+  ::kill(static_cast<pid_t>(shell.processId()), SIGKILL);
+  shell.waitForFinished(2000);
+  EXPECT_TRUE(adapterStreamsEnd(sessionBus(), 2000)) << "it outlived its parent";
+}
+
+}  // namespace
+}  // namespace tindra
