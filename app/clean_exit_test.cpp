@@ -1,7 +1,8 @@
 // Runs in: private-session --xvfb
 // Tindra and its now-playing helper end together, however Tindra ends: killed outright, its
 // helper still goes within moments; sent SIGTERM (a logout), it quits with status 0, taking the
-// helper with it and leaving what it last wrote on disk and no temporary file behind. The helper
+// helper with it, leaving what was last written on disk and no temporary file behind, and
+// without taking the logout for the user dismissing its introduction. The helper
 // alone ends when its standard input closes and when its bus goes away.
 // Helpers are told apart from any other Tindra's on this machine by their program (this build's)
 // and their bus (this session's, or the test's own).
@@ -15,7 +16,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QProcess>
-#include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QTest>
 #include <memory>
 
@@ -61,6 +62,15 @@ bool adapterStreamsEnd(const QByteArray& address, int milliseconds) {
   return false;
 }
 
+// Temporary files of interrupted saves under `folder`.
+QStringList temporaryFiles(const QString& folder) {
+  QStringList found;
+  QDirIterator files(folder, {QStringLiteral("*.tmp")}, QDir::Files | QDir::Hidden,
+                     QDirIterator::Subdirectories);
+  while (files.hasNext()) found << files.next();
+  return found;
+}
+
 bool onTheBus(qint64 process) {
   QDBusConnectionInterface& bus = *QDBusConnection::sessionBus().interface();
   for (const QString& name : bus.registeredServiceNames().value()) {
@@ -82,6 +92,7 @@ class CleanExitTest : public ::testing::Test {
   // it mostly does: it writes nothing, and no broken pipe would end it for the watches it has.
   void startTindra() {
     tindra_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    tindra_.setProcessEnvironment(environment());
     tindra_.start(QStringLiteral(TINDRA_BINARY), {});
     ASSERT_TRUE(tindra_.waitForStarted());
     ASSERT_TRUE(QTest::qWaitFor([] { return !adapterStreams(sessionBus()).isEmpty(); }, 20000))
@@ -93,6 +104,18 @@ class CleanExitTest : public ::testing::Test {
     QTest::qWait(settleMilliseconds);
   }
 
+  // Folders of its own, so that what this Tindra writes (and its first start) is not the
+  // other tests'.
+  QProcessEnvironment environment() const {
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), config());
+    environment.insert(QStringLiteral("XDG_DATA_HOME"), data());
+    return environment;
+  }
+  QString config() const { return home_.filePath(QStringLiteral("config")); }
+  QString data() const { return home_.filePath(QStringLiteral("data")); }
+
+  QTemporaryDir home_;
   QProcess tindra_;
 };
 
@@ -102,35 +125,29 @@ TEST_F(CleanExitTest, KilledTindraTakesItsHelperAlong) {
   EXPECT_TRUE(adapterStreamsEnd(sessionBus(), 2000)) << "the helper outlived Tindra";
 }
 
-// Temporary files of interrupted saves under `folder`.
-QStringList temporaryFiles(const QString& folder) {
-  QStringList found;
-  QDirIterator files(folder, {QStringLiteral("*.tmp")}, QDir::Files | QDir::Hidden,
-                     QDirIterator::Subdirectories);
-  while (files.hasNext()) found << files.next();
-  return found;
-}
-
 TEST_F(CleanExitTest, LogoutQuitsCleanlyKeepingTheLastChange) {
   startTindra();
   // What a shortcut writes a moment before the session ends must survive Tindra's way out.
-  ASSERT_EQ(QProcess::execute(QStringLiteral(TINDRA_BINARY),
-                              {QStringLiteral("focus"), QStringLiteral("on"),
-                               QStringLiteral("--name"), QStringLiteral("Reading")}),
-            0);
+  QProcess focus;
+  focus.setProcessEnvironment(environment());
+  focus.start(QStringLiteral(TINDRA_BINARY), {QStringLiteral("focus"), QStringLiteral("on"),
+                                              QStringLiteral("--name"), QStringLiteral("Reading")});
+  ASSERT_TRUE(focus.waitForFinished(10000));
+  ASSERT_EQ(focus.exitCode(), 0);
   ::kill(static_cast<pid_t>(tindra_.processId()), SIGTERM);
   ASSERT_TRUE(tindra_.waitForFinished(3000)) << "Tindra did not quit on SIGTERM";
   EXPECT_EQ(tindra_.exitStatus(), QProcess::NormalExit);
   EXPECT_EQ(tindra_.exitCode(), 0);
   EXPECT_TRUE(adapterStreams(sessionBus()).isEmpty()) << "Tindra quit before its helper";
 
-  const QString config = QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-  QFile settings(config + QStringLiteral("/tindra/settings.json"));
+  QFile settings(config() + QStringLiteral("/tindra/settings.json"));
   ASSERT_TRUE(settings.open(QIODevice::ReadOnly));
-  EXPECT_TRUE(settings.readAll().contains("Reading"));
-  EXPECT_EQ(temporaryFiles(config), QStringList());
-  EXPECT_EQ(temporaryFiles(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation)),
-            QStringList());
+  const QByteArray saved = settings.readAll();
+  EXPECT_TRUE(saved.contains("Reading")) << saved.toStdString();
+  // A logout is nobody dismissing the first start's introduction: it shows again next time.
+  EXPECT_FALSE(saved.contains("onboardingCompleted")) << saved.toStdString();
+  EXPECT_EQ(temporaryFiles(config()), QStringList());
+  EXPECT_EQ(temporaryFiles(data()), QStringList());
 }
 
 // The helper on its own, as any program might start it.
