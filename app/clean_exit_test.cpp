@@ -3,7 +3,8 @@
 // helper still goes within moments; sent SIGTERM (a logout), it quits with status 0, taking the
 // helper with it, leaving what was last written on disk and no temporary file behind, and
 // without taking the logout for the user dismissing its introduction. The helper
-// alone ends when its standard input closes and when its bus goes away.
+// alone ends when its standard input closes, when its bus goes away, and when its parent dies
+// while it has no input to watch.
 // Helpers are told apart from any other Tindra's on this machine by their program (this build's)
 // and their bus (this session's, or the test's own).
 #include <gtest/gtest.h>

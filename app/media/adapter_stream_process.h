@@ -1,7 +1,9 @@
 // AdapterStreamProcess: one run of the adapter's stream. The child's output is read and parsed
 // on a thread of its own under a lock, so a large cover never stalls the notch; a snapshot that
 // differs from the last one delivered is queued for the main thread, which keeps only the newest
-// four waiting. A restarted stream is a new AdapterStreamProcess with a fresh parser.
+// four waiting. A restarted stream is a new AdapterStreamProcess with a fresh parser. The child
+// is started on the reading thread, which the kernel then counts as its parent for the child's
+// parent-death signal: the thread must outlive the child, as the destructor sees to.
 #pragma once
 
 #include <QObject>
