@@ -19,7 +19,6 @@
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QTest>
-#include <memory>
 
 namespace tindra {
 namespace {
