@@ -14,6 +14,7 @@
 #include <cstdlib>
 #include <string_view>
 
+#include "base/termination_signals.h"
 #include "demo_tour.h"
 #include "diagnostics/first_frame_report.h"
 #include "diagnostics/frame_swap_report.h"
@@ -69,6 +70,12 @@ int main(int argc, char* argv[]) {
   QApplication::setApplicationName(QStringLiteral("Tindra"));
   QApplication::setOrganizationName(QStringLiteral("Brenvik"));
   QApplication::setQuitOnLastWindowClosed(false);
+  // A logout sends SIGTERM: Tindra is taken down in order, its helpers with it. It leaves the
+  // event loop without asking its windows to close first, as quit() would: a logout is nobody
+  // dismissing the first start's introduction, and no window may hold it up.
+  tindra::TerminationSignals terminationSignals;
+  QObject::connect(&terminationSignals, &tindra::TerminationSignals::received, &app,
+                   [] { QCoreApplication::exit(0); });
   // The desktop's language, where Tindra has it; English otherwise.
   QTranslator translator;
   if (translator.load(QLocale(), QStringLiteral("tindra"), QStringLiteral("_"),

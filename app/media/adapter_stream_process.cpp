@@ -24,6 +24,9 @@ AdapterStreamProcess::~AdapterStreamProcess() {
       [this] {
         if (!process_) return;
         process_->disconnect();
+        // Asked first, so it ends the way it means to; a child that does not is killed.
+        process_->terminate();
+        if (process_->waitForFinished(terminateMilliseconds)) return;
         process_->kill();
         process_->waitForFinished(1000);
       },
@@ -40,7 +43,7 @@ void AdapterStreamProcess::terminate() {
   QMetaObject::invokeMethod(readingContext_, [this] {
     if (!process_ || process_->state() == QProcess::NotRunning) return;
     process_->terminate();
-    QTimer::singleShot(1000, process_, [process = process_] { process->kill(); });
+    QTimer::singleShot(terminateMilliseconds, process_, [process = process_] { process->kill(); });
   });
 }
 
@@ -71,7 +74,9 @@ void AdapterStreamProcess::launch() {
             const int exitStatus = status == QProcess::CrashExit ? -1 : exitCode;
             QMetaObject::invokeMethod(this, [this, exitStatus] { emit exited(exitStatus); });
           });
-  process_->start(program_, arguments_, QIODevice::ReadOnly);
+  // The child's standard input stays open, unwritten, for as long as we run: its end tells the
+  // child we are gone, however we went.
+  process_->start(program_, arguments_, QIODevice::ReadWrite);
 }
 
 void AdapterStreamProcess::readOutput() {

@@ -1,7 +1,9 @@
 // AdapterStreamProcess: one run of the adapter's stream. The child's output is read and parsed
 // on a thread of its own under a lock, so a large cover never stalls the notch; a snapshot that
 // differs from the last one delivered is queued for the main thread, which keeps only the newest
-// four waiting. A restarted stream is a new AdapterStreamProcess with a fresh parser.
+// four waiting. A restarted stream is a new AdapterStreamProcess with a fresh parser. The child
+// is started on the reading thread, which the kernel then counts as its parent for the child's
+// parent-death signal: the thread must outlive the child, as the destructor sees to.
 #pragma once
 
 #include <QObject>
@@ -24,13 +26,16 @@ class AdapterStreamProcess : public QObject {
   using Update = std::optional<NowPlayingSnapshot>;
   static constexpr std::size_t maxPendingUpdates = 4;
   static constexpr int maxLoggedParseErrors = 20;
+  // How long the child has to end once asked before it is killed.
+  static constexpr int terminateMilliseconds = 500;
 
   AdapterStreamProcess(QString program, QStringList arguments, QObject* parent = nullptr);
-  // Kills the child if it still runs and waits for the reading thread.
+  // Ends the child if it still runs (asked, then killed after terminateMilliseconds) and waits
+  // for the reading thread.
   ~AdapterStreamProcess() override;
 
   void start();
-  // Asks the child to end; it is killed if it has not within a second.
+  // Asks the child to end; it is killed if it has not within terminateMilliseconds.
   void terminate();
 
   int parseErrors() const;

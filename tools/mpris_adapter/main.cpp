@@ -3,6 +3,10 @@
 //   stream --micros --debounce=N [--no-artwork]   the chosen player's state, full then diffs
 //   send 0|1|2|4|5, seek MICROS, shuffle 1|2|3, repeat 1|2|3   a command to that player
 //   test                                          0 when the session bus answers
+// The stream runs until its parent, its standard input or its bus ends (see StreamLifetime).
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QDBusConnection>
 #include <QDateTime>
@@ -13,6 +17,7 @@
 #include "mpris_payload.h"
 #include "mpris_session.h"
 #include "payload_stream.h"
+#include "stream_lifetime.h"
 
 namespace {
 
@@ -28,18 +33,32 @@ std::optional<std::string> readFile(const QString& path, std::size_t limit) {
   return file.readAll().toStdString();
 }
 
-int stream(const QStringList& words) {
+// Taken before anything else runs, so that a parent gone in between is seen, and before Qt
+// opens a descriptor that could take the number of a closed standard input.
+struct Start {
+  pid_t parent = ::getppid();
+  bool inputOpen = ::fcntl(STDIN_FILENO, F_GETFD) != -1;
+};
+
+int stream(const QStringList& words, const Start& start) {
   int debounce = 100;
   bool artwork = true;
   for (const QString& word : words.mid(1)) {
     if (word.startsWith(QLatin1String("--debounce="))) debounce = word.mid(11).toInt();
     if (word == QLatin1String("--no-artwork")) artwork = false;
   }
+  if (!tindra::StreamLifetime::tieToParent(start.parent)) return 0;  // nobody left to read it
   QDBusConnection bus = QDBusConnection::sessionBus();
   if (!bus.isConnected()) {
     std::fprintf(stderr, "tindra-mpris-adapter: no session bus\n");
     return tindra::MprisCommands::noSessionBus;
   }
+  // Without a standard input there is nothing to watch; the parent and the bus still count.
+  tindra::StreamLifetime lifetime(bus, start.inputOpen ? STDIN_FILENO : -1);
+  QObject::connect(&lifetime, &tindra::StreamLifetime::ended, [](const QString& reason) {
+    std::fprintf(stderr, "tindra-mpris-adapter: stream ends: %s\n", qPrintable(reason));
+    QCoreApplication::quit();
+  });
   tindra::MprisSession session(bus, nowMicros);
   tindra::PayloadStream output(
       debounce, [&] { return tindra::MprisPayload::make(session.chosen(), artwork, readFile); },
@@ -58,10 +77,11 @@ int stream(const QStringList& words) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  const Start start;
   QCoreApplication app(argc, argv);
   const QStringList words = QCoreApplication::arguments().mid(1);
   if (words.isEmpty()) return tindra::MprisCommands::badArguments;
-  if (words[0] == QLatin1String("stream")) return stream(words);
+  if (words[0] == QLatin1String("stream")) return stream(words, start);
   if (words[0] == QLatin1String("test")) {
     return tindra::MprisCommands::selfTest(QDBusConnection::sessionBus());
   }
