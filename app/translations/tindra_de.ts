@@ -135,6 +135,10 @@
         <source>no system bus (%1): GeoClue cannot be asked</source>
         <translation>kein Systembus (%1): GeoClue kann nicht gefragt werden</translation>
     </message>
+    <message>
+        <source>this desktop has no volume sound setting: the volume sound follows Tindra&apos;s own setting</source>
+        <translation>diese Arbeitsumgebung hat keine Einstellung für den Lautstärkeklang: er folgt Tindras eigener Einstellung</translation>
+    </message>
 </context>
 <context>
     <name>BannerPanel</name>
@@ -185,6 +189,10 @@
         <source>Low Power Mode is on</source>
         <translation>Stromsparmodus ist an</translation>
     </message>
+    <message>
+        <source>This computer has no battery.</source>
+        <translation>Dieser Computer hat keinen Akku.</translation>
+    </message>
 </context>
 <context>
     <name>BatteryCompact</name>
@@ -206,6 +214,13 @@
     <message>
         <source>Reminders</source>
         <translation>Erinnerungen</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n weiterer</numerusform>
+            <numerusform>%n weitere</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -305,6 +320,85 @@
     <message>
         <source>Call</source>
         <translation>Anruf</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingFeatures</name>
+    <message>
+        <source>Now Playing: the track of any player that speaks MPRIS (most music and video players and web browsers do), with its controls. Start one to see it.</source>
+        <translation>Wiedergabe: der Titel jedes Players, der MPRIS spricht (die meisten Musik- und Videoplayer und Webbrowser), mit seinen Bedienelementen. Starte einen, um ihn zu sehen.</translation>
+    </message>
+    <message>
+        <source>Now Playing: no player can be followed yet. Install an MPRIS-capable player, or start the one you have; if it still does not show, Diagnostics… says why.</source>
+        <translation>Wiedergabe: noch kann kein Player verfolgt werden. Installiere einen MPRIS-fähigen Player oder starte deinen; erscheint er dann nicht, sagt Diagnose… warum.</translation>
+    </message>
+    <message>
+        <source>Volume: shown in the notch as it changes.</source>
+        <translation>Lautstärke: wird bei jeder Änderung in der Notch angezeigt.</translation>
+    </message>
+    <message>
+        <source>Volume: no sound server answers. The volume shows as soon as PipeWire or PulseAudio runs.</source>
+        <translation>Lautstärke: kein Soundserver antwortet. Die Lautstärke erscheint, sobald PipeWire oder PulseAudio läuft.</translation>
+    </message>
+    <message>
+        <source>Brightness: shown as it changes; the brightness keys step it.</source>
+        <translation>Helligkeit: wird bei Änderungen angezeigt; die Helligkeitstasten ändern sie.</translation>
+    </message>
+    <message>
+        <source>Brightness: this display&apos;s backlight cannot be controlled here (an external monitor, or a virtual machine), so the brightness keys stay with the desktop.</source>
+        <translation>Helligkeit: die Hintergrundbeleuchtung dieses Bildschirms lässt sich hier nicht steuern (ein externer Monitor oder eine virtuelle Maschine), daher bleiben die Helligkeitstasten bei der Arbeitsumgebung.</translation>
+    </message>
+    <message>
+        <source>Battery and Bluetooth need the system bus (D-Bus), which this session does not have. Start Tindra in an ordinary desktop session to see them.</source>
+        <translation>Akku und Bluetooth brauchen den Systembus (D-Bus), den diese Sitzung nicht hat. Starte Tindra in einer normalen Desktop-Sitzung, um sie zu sehen.</translation>
+    </message>
+    <message>
+        <source>Battery: its level, and a notice when you plug in, unplug or run low.</source>
+        <translation>Akku: sein Stand und ein Hinweis beim Ein- und Ausstecken und wenn er knapp wird.</translation>
+    </message>
+    <message>
+        <source>Battery: UPower does not answer, so no battery is shown. Install or start UPower (the upower package).</source>
+        <translation>Akku: UPower antwortet nicht, daher wird kein Akku angezeigt. Installiere oder starte UPower (das Paket upower).</translation>
+    </message>
+    <message>
+        <source>Bluetooth: the batteries of your connected headphones and other accessories.</source>
+        <translation>Bluetooth: die Akkus deiner verbundenen Kopfhörer und anderen Zubehörs.</translation>
+    </message>
+    <message>
+        <source>Bluetooth: BlueZ does not answer, so no accessories are shown. Turn Bluetooth on, or install BlueZ (the bluez package).</source>
+        <translation>Bluetooth: BlueZ antwortet nicht, daher wird kein Zubehör angezeigt. Schalte Bluetooth ein oder installiere BlueZ (das Paket bluez).</translation>
+    </message>
+    <message>
+        <source>Calendar: off. Turn it on in Settings… and add your calendars (.ics files or web addresses).</source>
+        <translation>Kalender: aus. Schalte ihn in den Einstellungen… ein und füge deine Kalender hinzu (.ics-Dateien oder Webadressen).</translation>
+    </message>
+    <message>
+        <source>Calendar: your next meeting with its Join button, and today&apos;s agenda.</source>
+        <translation>Kalender: dein nächstes Meeting mit seiner Beitreten-Taste und die Termine des Tages.</translation>
+    </message>
+    <message>
+        <source>Calendar: nothing to show yet. Add your calendars (.ics files or web addresses) in Settings…, which says of each whether it could be read.</source>
+        <translation>Kalender: noch nichts anzuzeigen. Füge deine Kalender (.ics-Dateien oder Webadressen) in den Einstellungen… hinzu; dort steht bei jedem, ob er gelesen werden konnte.</translation>
+    </message>
+    <message>
+        <source>Weather: off. Turn it on in Settings… to see the forecast from MET Norway.</source>
+        <translation>Wetter: aus. Schalte es in den Einstellungen… ein, um die Vorhersage von MET Norway zu sehen.</translation>
+    </message>
+    <message>
+        <source>Weather: the forecast for where you are, from MET Norway.</source>
+        <translation>Wetter: die Vorhersage für deinen Ort, von MET Norway.</translation>
+    </message>
+    <message>
+        <source>Weather: no forecast yet. Settings… says why, and lets you choose your place.</source>
+        <translation>Wetter: noch keine Vorhersage. Die Einstellungen… sagen warum und lassen dich deinen Ort wählen.</translation>
+    </message>
+    <message>
+        <source>Do not disturb: shown while it is on.</source>
+        <translation>Nicht stören: wird angezeigt, solange es an ist.</translation>
+    </message>
+    <message>
+        <source>Do not disturb: no notification server answers, so whether it is on is unknown until one starts.</source>
+        <translation>Nicht stören: kein Benachrichtigungsdienst antwortet; ob es an ist, bleibt unbekannt, bis einer startet.</translation>
     </message>
 </context>
 <context>
@@ -787,16 +881,16 @@
         <translation>Helligkeitsänderungen in der Notch zeigen. Die Tasten gehen an den Desktop, wenn Ausgang oder Bildschirm nicht steuerbar sind.</translation>
     </message>
     <message>
-        <source>Play the volume feedback sound where the desktop does not. Hold Shift while pressing a volume key to do the opposite.</source>
-        <translation>Den Rückmeldeton der Lautstärke abspielen, wo der Desktop es nicht tut. Umschalt beim Drücken einer Lautstärketaste halten bewirkt das Gegenteil.</translation>
-    </message>
-    <message>
         <source>The Focus filter&apos;s last state, as `tindra focus` wrote it.</source>
         <translation>Letzter Zustand des Fokusfilters, wie `tindra focus` ihn schrieb.</translation>
     </message>
     <message>
         <source>Sections pinned in the opened notch: tick them and drag them into order. With none ticked, every section with something to show appears.</source>
         <translation>In der geöffneten Notch angeheftete Bereiche: ankreuzen und in Reihenfolge ziehen. Ist keiner angekreuzt, erscheint jeder Bereich, der etwas zu zeigen hat.</translation>
+    </message>
+    <message>
+        <source>Play the volume feedback sound on a desktop without a setting of its own for it (GNOME&apos;s event sounds and Plasma&apos;s audio feedback decide there). Hold Shift while pressing a volume key to do the opposite.</source>
+        <translation>Den Lautstärkeklang auf Arbeitsumgebungen ohne eigene Einstellung dafür abspielen (bei GNOME entscheiden die Ereignisklänge, bei Plasma die Audio-Rückmeldung). Halte Umschalt beim Drücken einer Lautstärketaste, um das Gegenteil zu tun.</translation>
     </message>
 </context>
 <context>
@@ -830,12 +924,12 @@
         <translation>Auf der Notch mit zwei Fingern oder dem Mausrad scrollen, als würde man eine Seite bewegen: nach unten öffnet, nach oben schließt, seitwärts wechselt den Titel.</translation>
     </message>
     <message>
-        <source>Drag the closed notch down to open it, or sideways to skip tracks.</source>
-        <translation>Die geschlossene Notch nach unten ziehen, um sie zu öffnen, oder seitwärts, um den Titel zu wechseln.</translation>
-    </message>
-    <message>
         <source>The desktop shows through where the window manager draws windows translucent; elsewhere the glass is dark grey.</source>
         <translation>Der Desktop scheint durch, wo der Fenstermanager Fenster durchscheinend zeichnet; sonst ist das Glas dunkelgrau.</translation>
+    </message>
+    <message>
+        <source>Drag the closed notch down to open it, or sideways to skip tracks; drag the opened one up from an empty spot to close it.</source>
+        <translation>Ziehe die geschlossene Notch nach unten, um sie zu öffnen, oder zur Seite, um Titel zu wechseln; ziehe die geöffnete von einer leeren Stelle nach oben, um sie zu schließen.</translation>
     </message>
 </context>
 <context>
@@ -1228,6 +1322,112 @@
     </message>
 </context>
 <context>
+    <name>tindra::DisplaySelectionEditor</name>
+    <message>
+        <source>While the chosen display is not connected, the notch is on the main display.</source>
+        <translation>Solange der gewählte Bildschirm nicht angeschlossen ist, ist die Notch auf dem Hauptbildschirm.</translation>
+    </message>
+    <message>
+        <source>Every display</source>
+        <translation>Alle Bildschirme</translation>
+    </message>
+    <message>
+        <source>Main display</source>
+        <translation>Hauptbildschirm</translation>
+    </message>
+    <message>
+        <source>Main display (%1)</source>
+        <translation>Hauptbildschirm (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (nicht angeschlossen)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n displays)</source>
+        <translation>
+            <numerusform>%1 (%n Bildschirm)</numerusform>
+            <numerusform>%1 (%n Bildschirme)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tindra::EdsCalendarFeed</name>
+    <message>
+        <source>Evolution Data Server&apos;s calendar factory does not answer (%1)</source>
+        <translation>die Kalenderfabrik von Evolution Data Server antwortet nicht (%1)</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s calendar factory went away: the events last read are kept until it returns</source>
+        <translation>die Kalenderfabrik von Evolution Data Server ist weg: die zuletzt gelesenen Termine bleiben, bis sie zurückkommt</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a calendar and its account</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server, source %1</source>
+        <translation>Evolution Data Server, Quelle %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server cannot open the calendar: %1</source>
+        <translation>Evolution Data Server kann den Kalender nicht öffnen: %1</translation>
+    </message>
+    <message>
+        <source>the calendar&apos;s backend went away: the events last read are kept until it is open again</source>
+        <translation>das Backend des Kalenders ist weg: die zuletzt gelesenen Termine bleiben, bis er wieder offen ist</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server gives no view of the calendar: %1</source>
+        <translation>Evolution Data Server liefert keine Ansicht des Kalenders: %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s view of the calendar does not start: %1</source>
+        <translation>die Ansicht des Kalenders in Evolution Data Server startet nicht: %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server could not list the calendar: %1</source>
+        <translation>Evolution Data Server konnte den Kalender nicht auflisten: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::EdsSourceRegistry</name>
+    <message>
+        <source>asking Evolution Data Server for its calendars</source>
+        <translation>fragt Evolution Data Server nach seinen Kalendern</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server is not running (%1): its calendars and online accounts are not read</source>
+        <translation>Evolution Data Server läuft nicht (%1): seine Kalender und Online-Konten werden nicht gelesen</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s source registry went away: its calendars are kept as they were until it returns</source>
+        <translation>die Quellenverwaltung von Evolution Data Server ist weg: ihre Kalender bleiben, wie sie waren, bis sie zurückkommt</translation>
+    </message>
+    <message numerus="yes">
+        <source>Evolution Data Server gives %n calendar(s)</source>
+        <translation>
+            <numerusform>Evolution Data Server liefert %n Kalender</numerusform>
+            <numerusform>Evolution Data Server liefert %n Kalender</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without an account</source>
+        <translation>
+            <numerusform>%n ohne Konto</numerusform>
+            <numerusform>%n ohne Konto</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n from %1</source>
+        <translation>
+            <numerusform>%n von %1</numerusform>
+            <numerusform>%n von %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tindra::FakeAccessoryBackend</name>
     <message>
         <source>invented accessories (TINDRA_FAKE asks for them)</source>
@@ -1316,6 +1516,13 @@
     </message>
 </context>
 <context>
+    <name>tindra::FakeVolumeSoundPreference</name>
+    <message>
+        <source>an invented volume sound setting (TINDRA_FAKE asks for it)</source>
+        <translation>eine erfundene Einstellung für den Lautstärkeklang (TINDRA_FAKE verlangt sie)</translation>
+    </message>
+</context>
+<context>
     <name>tindra::FileTrayProvider</name>
     <message>
         <source>keeping the file tray in %1</source>
@@ -1400,6 +1607,17 @@
     </message>
 </context>
 <context>
+    <name>tindra::GSettingsVolumeSoundPreference</name>
+    <message>
+        <source>the volume sound follows GNOME&apos;s event sounds setting</source>
+        <translation>der Lautstärkeklang folgt GNOMEs Einstellung für Ereignisklänge</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s sound settings are not installed: the volume sound follows Tindra&apos;s own setting</source>
+        <translation>GNOMEs Klangeinstellungen sind nicht installiert: der Lautstärkeklang folgt Tindras eigener Einstellung</translation>
+    </message>
+</context>
+<context>
     <name>tindra::GeoClueLocationSource</name>
     <message>
         <source>asking GeoClue for the position</source>
@@ -1480,6 +1698,14 @@
     </message>
 </context>
 <context>
+    <name>tindra::IdleClock</name>
+    <message>
+        <source>dddd d MMMM</source>
+        <comment>the opened notch&apos;s date: Qt date format</comment>
+        <translation>dddd, d. MMMM</translation>
+    </message>
+</context>
+<context>
     <name>tindra::LocalCalendarFeed</name>
     <message>
         <source>%1 is not there</source>
@@ -1554,10 +1780,6 @@
         <translation>Willkommen bei Tindra</translation>
     </message>
     <message>
-        <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ in use, – waiting or limited, ✗ not available, and what that means):&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Willkommen bei Tindra&lt;/h2&gt;&lt;p&gt;Der Streifen oben auf Ihrem Bildschirm ist jetzt eine kleine Live-Anzeige. Geschlossen zeigt er eine Sache auf einmal: was gerade läuft, einen Lautstärke- oder Helligkeitspegel, einen Akku- oder Kopfhörerhinweis, das nächste Meeting, einen Anruf oder eine Nachricht. Ruht der Zeiger darauf, öffnet er sich zu einem Feld mit den Bedienelementen, Ihrem Kalender, dem Wetter, Ihren Akkus und einer Dateiablage. Alles bleibt auf diesem Computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Was Tindra hier gefunden hat&lt;/b&gt; (✓ in Gebrauch, – wartet oder eingeschränkt, ✗ nicht verfügbar, und was das bedeutet):&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>&lt;b&gt;The notch opens&lt;/b&gt;</source>
         <translation>&lt;b&gt;Die Notch öffnet sich&lt;/b&gt;</translation>
     </message>
@@ -1581,12 +1803,27 @@
         <source>Start Using Tindra</source>
         <translation>Tindra verwenden</translation>
     </message>
+    <message>
+        <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ works, – off or waiting, ✗ missing), and what you can do:&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Willkommen bei Tindra&lt;/h2&gt;&lt;p&gt;Der Streifen oben auf deinem Bildschirm ist jetzt eine kleine Live-Anzeige. Geschlossen zeigt er eins nach dem anderen: was läuft, Lautstärke oder Helligkeit, einen Akku- oder Kopfhörerhinweis, das nächste Meeting, einen Anruf oder eine Nachricht. Lass den Zeiger darauf ruhen, und er öffnet sich zu einem Feld mit den Bedienelementen, deinem Kalender, dem Wetter, deinen Akkus und einer Dateiablage. Alles bleibt auf diesem Computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Was Tindra hier gefunden hat&lt;/b&gt; (✓ funktioniert, – aus oder wartet, ✗ fehlt) und was du tun kannst:&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Each service&apos;s own report is in Diagnostics… on Tindra&apos;s menu, for a bug report.</source>
+        <translation>Der eigene Bericht jedes Dienstes steht für Fehlerberichte unter Diagnose… in Tindras Menü.</translation>
+    </message>
 </context>
 <context>
     <name>tindra::PinnedSectionsEditor</name>
     <message>
         <source>Tick the sections to pin and drag them into order</source>
         <translation>Bereiche zum Anheften ankreuzen und in Reihenfolge ziehen</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::PlasmaVolumeSoundPreference</name>
+    <message>
+        <source>the volume sound follows the audio feedback setting of Plasma&apos;s volume applet</source>
+        <translation>der Lautstärkeklang folgt der Audio-Rückmeldung des Lautstärke-Miniprogramms von Plasma</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1898,13 @@
     </message>
 </context>
 <context>
+    <name>tindra::ScreenSource</name>
+    <message>
+        <source>Built-in display</source>
+        <translation>Eingebauter Bildschirm</translation>
+    </message>
+</context>
+<context>
     <name>tindra::SettingsWindow</name>
     <message>
         <source>Tindra Settings</source>
@@ -1716,6 +1960,18 @@
     <message>
         <source>Each service Tindra uses says here whether it answers, and every change since Tindra started is in the log. The report has the versions, the session and the log, for a bug report; it names none of your files, events or messages.</source>
         <translation>Hier zeigt jeder Dienst, den Tindra nutzt, ob er antwortet, und jede Änderung seit dem Start von Tindra steht im Protokoll. Der Bericht enthält die Versionen, die Sitzung und das Protokoll für einen Fehlerbericht; er nennt keine Ihrer Dateien, Termine oder Nachrichten.</translation>
+    </message>
+    <message>
+        <source>No keyboard backlight that Tindra can control was found on this computer.</source>
+        <translation>Auf diesem Computer wurde keine Tastaturbeleuchtung gefunden, die Tindra steuern kann.</translation>
+    </message>
+    <message>
+        <source>Tindra could not read the keyboard backlight just now, so this was turned off. Try again with the lid open.</source>
+        <translation>Tindra konnte die Tastaturbeleuchtung gerade nicht lesen, daher wurde dies ausgeschaltet. Versuche es bei geöffnetem Deckel erneut.</translation>
+    </message>
+    <message>
+        <source>This computer has no battery, so there is nothing to show here.</source>
+        <translation>Dieser Computer hat keinen Akku, daher gibt es hier nichts anzuzeigen.</translation>
     </message>
 </context>
 <context>
@@ -1792,6 +2048,10 @@
     <message>
         <source>the keyboard backlight level cannot be read (%1 of %2)</source>
         <translation>die Stufe der Tastaturbeleuchtung ist unlesbar (%1 von %2)</translation>
+    </message>
+    <message>
+        <source>the keyboard backlight level cannot be read (%1)</source>
+        <translation>die Helligkeit der Tastaturbeleuchtung kann nicht gelesen werden (%1)</translation>
     </message>
 </context>
 <context>

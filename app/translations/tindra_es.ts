@@ -135,6 +135,10 @@
         <source>no system bus (%1): GeoClue cannot be asked</source>
         <translation>sin bus del sistema (%1): no se puede preguntar a GeoClue</translation>
     </message>
+    <message>
+        <source>this desktop has no volume sound setting: the volume sound follows Tindra&apos;s own setting</source>
+        <translation>este escritorio no tiene ajuste para el sonido del volumen: sigue el ajuste propio de Tindra</translation>
+    </message>
 </context>
 <context>
     <name>BannerPanel</name>
@@ -185,6 +189,10 @@
         <source>Low Power Mode is on</source>
         <translation>Modo de bajo consumo activado</translation>
     </message>
+    <message>
+        <source>This computer has no battery.</source>
+        <translation>Este ordenador no tiene batería.</translation>
+    </message>
 </context>
 <context>
     <name>BatteryCompact</name>
@@ -206,6 +214,13 @@
     <message>
         <source>Reminders</source>
         <translation>Recordatorios</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n más</numerusform>
+            <numerusform>%n más</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -305,6 +320,85 @@
     <message>
         <source>Call</source>
         <translation>Llamada</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingFeatures</name>
+    <message>
+        <source>Now Playing: the track of any player that speaks MPRIS (most music and video players and web browsers do), with its controls. Start one to see it.</source>
+        <translation>Reproduciendo: la pista de cualquier reproductor que hable MPRIS (la mayoría de reproductores de música y vídeo y navegadores), con sus controles. Abre uno para verla.</translation>
+    </message>
+    <message>
+        <source>Now Playing: no player can be followed yet. Install an MPRIS-capable player, or start the one you have; if it still does not show, Diagnostics… says why.</source>
+        <translation>Reproduciendo: aún no se puede seguir ningún reproductor. Instala uno compatible con MPRIS o abre el tuyo; si sigue sin aparecer, Diagnóstico… dice por qué.</translation>
+    </message>
+    <message>
+        <source>Volume: shown in the notch as it changes.</source>
+        <translation>Volumen: se muestra en la muesca cuando cambia.</translation>
+    </message>
+    <message>
+        <source>Volume: no sound server answers. The volume shows as soon as PipeWire or PulseAudio runs.</source>
+        <translation>Volumen: ningún servidor de sonido responde. El volumen se muestra en cuanto PipeWire o PulseAudio se ejecuten.</translation>
+    </message>
+    <message>
+        <source>Brightness: shown as it changes; the brightness keys step it.</source>
+        <translation>Brillo: se muestra cuando cambia; las teclas de brillo lo ajustan.</translation>
+    </message>
+    <message>
+        <source>Brightness: this display&apos;s backlight cannot be controlled here (an external monitor, or a virtual machine), so the brightness keys stay with the desktop.</source>
+        <translation>Brillo: la retroiluminación de esta pantalla no se puede controlar aquí (un monitor externo o una máquina virtual), así que las teclas de brillo siguen en manos del escritorio.</translation>
+    </message>
+    <message>
+        <source>Battery and Bluetooth need the system bus (D-Bus), which this session does not have. Start Tindra in an ordinary desktop session to see them.</source>
+        <translation>La batería y el Bluetooth necesitan el bus del sistema (D-Bus), que esta sesión no tiene. Abre Tindra en una sesión de escritorio normal para verlos.</translation>
+    </message>
+    <message>
+        <source>Battery: its level, and a notice when you plug in, unplug or run low.</source>
+        <translation>Batería: su nivel y un aviso al enchufar, desenchufar o cuando queda poca.</translation>
+    </message>
+    <message>
+        <source>Battery: UPower does not answer, so no battery is shown. Install or start UPower (the upower package).</source>
+        <translation>Batería: UPower no responde, así que no se muestra ninguna batería. Instala o inicia UPower (el paquete upower).</translation>
+    </message>
+    <message>
+        <source>Bluetooth: the batteries of your connected headphones and other accessories.</source>
+        <translation>Bluetooth: las baterías de tus auriculares y otros accesorios conectados.</translation>
+    </message>
+    <message>
+        <source>Bluetooth: BlueZ does not answer, so no accessories are shown. Turn Bluetooth on, or install BlueZ (the bluez package).</source>
+        <translation>Bluetooth: BlueZ no responde, así que no se muestra ningún accesorio. Activa el Bluetooth o instala BlueZ (el paquete bluez).</translation>
+    </message>
+    <message>
+        <source>Calendar: off. Turn it on in Settings… and add your calendars (.ics files or web addresses).</source>
+        <translation>Calendario: desactivado. Actívalo en Ajustes… y añade tus calendarios (archivos .ics o direcciones web).</translation>
+    </message>
+    <message>
+        <source>Calendar: your next meeting with its Join button, and today&apos;s agenda.</source>
+        <translation>Calendario: tu próxima reunión con su botón Unirse y la agenda de hoy.</translation>
+    </message>
+    <message>
+        <source>Calendar: nothing to show yet. Add your calendars (.ics files or web addresses) in Settings…, which says of each whether it could be read.</source>
+        <translation>Calendario: aún no hay nada que mostrar. Añade tus calendarios (archivos .ics o direcciones web) en Ajustes…, que indica de cada uno si se pudo leer.</translation>
+    </message>
+    <message>
+        <source>Weather: off. Turn it on in Settings… to see the forecast from MET Norway.</source>
+        <translation>Tiempo: desactivado. Actívalo en Ajustes… para ver el pronóstico de MET Norway.</translation>
+    </message>
+    <message>
+        <source>Weather: the forecast for where you are, from MET Norway.</source>
+        <translation>Tiempo: el pronóstico para donde estás, de MET Norway.</translation>
+    </message>
+    <message>
+        <source>Weather: no forecast yet. Settings… says why, and lets you choose your place.</source>
+        <translation>Tiempo: aún no hay pronóstico. Ajustes… dice por qué y te deja elegir tu lugar.</translation>
+    </message>
+    <message>
+        <source>Do not disturb: shown while it is on.</source>
+        <translation>No molestar: se muestra mientras está activado.</translation>
+    </message>
+    <message>
+        <source>Do not disturb: no notification server answers, so whether it is on is unknown until one starts.</source>
+        <translation>No molestar: ningún servidor de notificaciones responde, así que no se sabe si está activado hasta que se inicie uno.</translation>
     </message>
 </context>
 <context>
@@ -787,16 +881,16 @@
         <translation>Mostrar los cambios de brillo en la muesca. Las teclas van al escritorio cuando la salida o la pantalla no se pueden controlar.</translation>
     </message>
     <message>
-        <source>Play the volume feedback sound where the desktop does not. Hold Shift while pressing a volume key to do the opposite.</source>
-        <translation>Reproducir el sonido de respuesta del volumen donde el escritorio no lo hace. Mantén Mayús al pulsar una tecla de volumen para hacer lo contrario.</translation>
-    </message>
-    <message>
         <source>The Focus filter&apos;s last state, as `tindra focus` wrote it.</source>
         <translation>El último estado del filtro de concentración, tal como lo escribió `tindra focus`.</translation>
     </message>
     <message>
         <source>Sections pinned in the opened notch: tick them and drag them into order. With none ticked, every section with something to show appears.</source>
         <translation>Secciones fijadas en la muesca abierta: márcalas y arrástralas para ordenarlas. Si no hay ninguna marcada, aparece cada sección que tenga algo que mostrar.</translation>
+    </message>
+    <message>
+        <source>Play the volume feedback sound on a desktop without a setting of its own for it (GNOME&apos;s event sounds and Plasma&apos;s audio feedback decide there). Hold Shift while pressing a volume key to do the opposite.</source>
+        <translation>Reproducir el sonido del volumen en escritorios sin ajuste propio para ello (en GNOME deciden los sonidos de eventos y en Plasma la respuesta sonora). Mantén Mayús al pulsar una tecla de volumen para hacer lo contrario.</translation>
     </message>
 </context>
 <context>
@@ -830,12 +924,12 @@
         <translation>Desplázate sobre la muesca con dos dedos o la rueda del ratón, como si movieras una página: hacia abajo la abre, hacia arriba la cierra, a los lados cambia de pista.</translation>
     </message>
     <message>
-        <source>Drag the closed notch down to open it, or sideways to skip tracks.</source>
-        <translation>Arrastra la muesca cerrada hacia abajo para abrirla, o a los lados para cambiar de pista.</translation>
-    </message>
-    <message>
         <source>The desktop shows through where the window manager draws windows translucent; elsewhere the glass is dark grey.</source>
         <translation>El escritorio se ve a través donde el gestor de ventanas dibuja ventanas translúcidas; en otro caso, el cristal es gris oscuro.</translation>
+    </message>
+    <message>
+        <source>Drag the closed notch down to open it, or sideways to skip tracks; drag the opened one up from an empty spot to close it.</source>
+        <translation>Arrastra la muesca cerrada hacia abajo para abrirla, o hacia un lado para cambiar de pista; arrastra la abierta hacia arriba desde un hueco vacío para cerrarla.</translation>
     </message>
 </context>
 <context>
@@ -1228,6 +1322,112 @@
     </message>
 </context>
 <context>
+    <name>tindra::DisplaySelectionEditor</name>
+    <message>
+        <source>While the chosen display is not connected, the notch is on the main display.</source>
+        <translation>Mientras la pantalla elegida no esté conectada, la muesca está en la pantalla principal.</translation>
+    </message>
+    <message>
+        <source>Every display</source>
+        <translation>Todas las pantallas</translation>
+    </message>
+    <message>
+        <source>Main display</source>
+        <translation>Pantalla principal</translation>
+    </message>
+    <message>
+        <source>Main display (%1)</source>
+        <translation>Pantalla principal (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (no conectada)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n displays)</source>
+        <translation>
+            <numerusform>%1 (%n pantalla)</numerusform>
+            <numerusform>%1 (%n pantallas)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tindra::EdsCalendarFeed</name>
+    <message>
+        <source>Evolution Data Server&apos;s calendar factory does not answer (%1)</source>
+        <translation>la fábrica de calendarios de Evolution Data Server no responde (%1)</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s calendar factory went away: the events last read are kept until it returns</source>
+        <translation>la fábrica de calendarios de Evolution Data Server desapareció: se conservan los últimos eventos leídos hasta que vuelva</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a calendar and its account</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server, source %1</source>
+        <translation>Evolution Data Server, origen %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server cannot open the calendar: %1</source>
+        <translation>Evolution Data Server no puede abrir el calendario: %1</translation>
+    </message>
+    <message>
+        <source>the calendar&apos;s backend went away: the events last read are kept until it is open again</source>
+        <translation>el motor del calendario desapareció: se conservan los últimos eventos leídos hasta que vuelva a abrirse</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server gives no view of the calendar: %1</source>
+        <translation>Evolution Data Server no da ninguna vista del calendario: %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s view of the calendar does not start: %1</source>
+        <translation>la vista del calendario de Evolution Data Server no se inicia: %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server could not list the calendar: %1</source>
+        <translation>Evolution Data Server no pudo listar el calendario: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::EdsSourceRegistry</name>
+    <message>
+        <source>asking Evolution Data Server for its calendars</source>
+        <translation>pidiendo sus calendarios a Evolution Data Server</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server is not running (%1): its calendars and online accounts are not read</source>
+        <translation>Evolution Data Server no se está ejecutando (%1): sus calendarios y cuentas en línea no se leen</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s source registry went away: its calendars are kept as they were until it returns</source>
+        <translation>el registro de orígenes de Evolution Data Server desapareció: sus calendarios se quedan como estaban hasta que vuelva</translation>
+    </message>
+    <message numerus="yes">
+        <source>Evolution Data Server gives %n calendar(s)</source>
+        <translation>
+            <numerusform>Evolution Data Server da %n calendario</numerusform>
+            <numerusform>Evolution Data Server da %n calendarios</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without an account</source>
+        <translation>
+            <numerusform>%n sin cuenta</numerusform>
+            <numerusform>%n sin cuenta</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n from %1</source>
+        <translation>
+            <numerusform>%n de %1</numerusform>
+            <numerusform>%n de %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tindra::FakeAccessoryBackend</name>
     <message>
         <source>invented accessories (TINDRA_FAKE asks for them)</source>
@@ -1316,6 +1516,13 @@
     </message>
 </context>
 <context>
+    <name>tindra::FakeVolumeSoundPreference</name>
+    <message>
+        <source>an invented volume sound setting (TINDRA_FAKE asks for it)</source>
+        <translation>un ajuste inventado para el sonido del volumen (TINDRA_FAKE lo pide)</translation>
+    </message>
+</context>
+<context>
     <name>tindra::FileTrayProvider</name>
     <message>
         <source>keeping the file tray in %1</source>
@@ -1400,6 +1607,17 @@
     </message>
 </context>
 <context>
+    <name>tindra::GSettingsVolumeSoundPreference</name>
+    <message>
+        <source>the volume sound follows GNOME&apos;s event sounds setting</source>
+        <translation>el sonido del volumen sigue el ajuste de sonidos de eventos de GNOME</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s sound settings are not installed: the volume sound follows Tindra&apos;s own setting</source>
+        <translation>los ajustes de sonido de GNOME no están instalados: el sonido del volumen sigue el ajuste propio de Tindra</translation>
+    </message>
+</context>
+<context>
     <name>tindra::GeoClueLocationSource</name>
     <message>
         <source>asking GeoClue for the position</source>
@@ -1480,6 +1698,14 @@
     </message>
 </context>
 <context>
+    <name>tindra::IdleClock</name>
+    <message>
+        <source>dddd d MMMM</source>
+        <comment>the opened notch&apos;s date: Qt date format</comment>
+        <translation>dddd, d &apos;de&apos; MMMM</translation>
+    </message>
+</context>
+<context>
     <name>tindra::LocalCalendarFeed</name>
     <message>
         <source>%1 is not there</source>
@@ -1554,10 +1780,6 @@
         <translation>Te damos la bienvenida a Tindra</translation>
     </message>
     <message>
-        <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ in use, – waiting or limited, ✗ not available, and what that means):&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Te damos la bienvenida a Tindra&lt;/h2&gt;&lt;p&gt;La franja de la parte superior de tu pantalla es ahora un pequeño panel en directo. Cerrada, muestra una cosa cada vez: lo que suena, un nivel de volumen o brillo, un aviso de batería o de auriculares, la próxima reunión, una llamada o un mensaje. Deja el puntero sobre ella y se abre en un panel con los controles, tu calendario, el tiempo, tus baterías y una bandeja de archivos. Todo se queda en este equipo.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Lo que Tindra encontró aquí&lt;/b&gt; (✓ en uso, – en espera o limitado, ✗ no disponible, y lo que significa):&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>&lt;b&gt;The notch opens&lt;/b&gt;</source>
         <translation>&lt;b&gt;La muesca se abre&lt;/b&gt;</translation>
     </message>
@@ -1581,12 +1803,27 @@
         <source>Start Using Tindra</source>
         <translation>Empezar a usar Tindra</translation>
     </message>
+    <message>
+        <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ works, – off or waiting, ✗ missing), and what you can do:&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Te damos la bienvenida a Tindra&lt;/h2&gt;&lt;p&gt;La franja de la parte superior de tu pantalla es ahora una pequeña pantalla en vivo. Cerrada, muestra una cosa cada vez: lo que suena, un nivel de volumen o brillo, un aviso de batería o de auriculares, la próxima reunión, una llamada o un mensaje. Deja el puntero sobre ella y se abre en un panel con los controles, tu calendario, el tiempo, tus baterías y una bandeja de archivos. Todo se queda en este ordenador.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Lo que Tindra encontró aquí&lt;/b&gt; (✓ funciona, – desactivado o en espera, ✗ falta), y lo que puedes hacer:&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Each service&apos;s own report is in Diagnostics… on Tindra&apos;s menu, for a bug report.</source>
+        <translation>El informe de cada servicio está en Diagnóstico… del menú de Tindra, para informar de un error.</translation>
+    </message>
 </context>
 <context>
     <name>tindra::PinnedSectionsEditor</name>
     <message>
         <source>Tick the sections to pin and drag them into order</source>
         <translation>Marca las secciones que quieres fijar y arrástralas para ordenarlas</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::PlasmaVolumeSoundPreference</name>
+    <message>
+        <source>the volume sound follows the audio feedback setting of Plasma&apos;s volume applet</source>
+        <translation>el sonido del volumen sigue el ajuste de respuesta sonora del applet de volumen de Plasma</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1898,13 @@
     </message>
 </context>
 <context>
+    <name>tindra::ScreenSource</name>
+    <message>
+        <source>Built-in display</source>
+        <translation>Pantalla integrada</translation>
+    </message>
+</context>
+<context>
     <name>tindra::SettingsWindow</name>
     <message>
         <source>Tindra Settings</source>
@@ -1716,6 +1960,18 @@
     <message>
         <source>Each service Tindra uses says here whether it answers, and every change since Tindra started is in the log. The report has the versions, the session and the log, for a bug report; it names none of your files, events or messages.</source>
         <translation>Aquí cada servicio que usa Tindra indica si responde, y cada cambio desde que Tindra se inició está en el registro. El informe incluye las versiones, la sesión y el registro, para un informe de fallo; no nombra ninguno de tus archivos, eventos ni mensajes.</translation>
+    </message>
+    <message>
+        <source>No keyboard backlight that Tindra can control was found on this computer.</source>
+        <translation>No se encontró en este ordenador ninguna retroiluminación de teclado que Tindra pueda controlar.</translation>
+    </message>
+    <message>
+        <source>Tindra could not read the keyboard backlight just now, so this was turned off. Try again with the lid open.</source>
+        <translation>Tindra no pudo leer la retroiluminación del teclado, así que esto se desactivó. Vuelve a intentarlo con la tapa abierta.</translation>
+    </message>
+    <message>
+        <source>This computer has no battery, so there is nothing to show here.</source>
+        <translation>Este ordenador no tiene batería, así que no hay nada que mostrar aquí.</translation>
     </message>
 </context>
 <context>
@@ -1792,6 +2048,10 @@
     <message>
         <source>the keyboard backlight level cannot be read (%1 of %2)</source>
         <translation>no se puede leer el nivel de retroiluminación del teclado (%1 de %2)</translation>
+    </message>
+    <message>
+        <source>the keyboard backlight level cannot be read (%1)</source>
+        <translation>no se puede leer el nivel de la retroiluminación del teclado (%1)</translation>
     </message>
 </context>
 <context>

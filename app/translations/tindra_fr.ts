@@ -135,6 +135,10 @@
         <source>no system bus (%1): GeoClue cannot be asked</source>
         <translation>pas de bus système (%1)&#xa0;: impossible d’interroger GeoClue</translation>
     </message>
+    <message>
+        <source>this desktop has no volume sound setting: the volume sound follows Tindra&apos;s own setting</source>
+        <translation>ce bureau n’a pas de réglage pour le son du volume&#xa0;: il suit le réglage de Tindra</translation>
+    </message>
 </context>
 <context>
     <name>BannerPanel</name>
@@ -185,6 +189,10 @@
         <source>Low Power Mode is on</source>
         <translation>Mode économie d’énergie activé</translation>
     </message>
+    <message>
+        <source>This computer has no battery.</source>
+        <translation>Cet ordinateur n’a pas de batterie.</translation>
+    </message>
 </context>
 <context>
     <name>BatteryCompact</name>
@@ -206,6 +214,13 @@
     <message>
         <source>Reminders</source>
         <translation>Rappels</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n de plus</numerusform>
+            <numerusform>%n de plus</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -305,6 +320,85 @@
     <message>
         <source>Call</source>
         <translation>Appel</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingFeatures</name>
+    <message>
+        <source>Now Playing: the track of any player that speaks MPRIS (most music and video players and web browsers do), with its controls. Start one to see it.</source>
+        <translation>Lecture en cours&#xa0;: le morceau de tout lecteur qui parle MPRIS (la plupart des lecteurs audio et vidéo et des navigateurs), avec ses commandes. Lancez-en un pour le voir.</translation>
+    </message>
+    <message>
+        <source>Now Playing: no player can be followed yet. Install an MPRIS-capable player, or start the one you have; if it still does not show, Diagnostics… says why.</source>
+        <translation>Lecture en cours&#xa0;: aucun lecteur ne peut encore être suivi. Installez un lecteur compatible MPRIS ou lancez le vôtre&#xa0;; s’il n’apparaît toujours pas, Diagnostic… dit pourquoi.</translation>
+    </message>
+    <message>
+        <source>Volume: shown in the notch as it changes.</source>
+        <translation>Volume&#xa0;: affiché dans l’encoche quand il change.</translation>
+    </message>
+    <message>
+        <source>Volume: no sound server answers. The volume shows as soon as PipeWire or PulseAudio runs.</source>
+        <translation>Volume&#xa0;: aucun serveur de son ne répond. Le volume s’affiche dès que PipeWire ou PulseAudio tourne.</translation>
+    </message>
+    <message>
+        <source>Brightness: shown as it changes; the brightness keys step it.</source>
+        <translation>Luminosité&#xa0;: affichée quand elle change&#xa0;; les touches de luminosité la règlent.</translation>
+    </message>
+    <message>
+        <source>Brightness: this display&apos;s backlight cannot be controlled here (an external monitor, or a virtual machine), so the brightness keys stay with the desktop.</source>
+        <translation>Luminosité&#xa0;: le rétroéclairage de cet écran ne peut pas être réglé ici (un écran externe ou une machine virtuelle), les touches de luminosité restent donc au bureau.</translation>
+    </message>
+    <message>
+        <source>Battery and Bluetooth need the system bus (D-Bus), which this session does not have. Start Tindra in an ordinary desktop session to see them.</source>
+        <translation>La batterie et le Bluetooth ont besoin du bus système (D-Bus), absent de cette session. Lancez Tindra dans une session de bureau ordinaire pour les voir.</translation>
+    </message>
+    <message>
+        <source>Battery: its level, and a notice when you plug in, unplug or run low.</source>
+        <translation>Batterie&#xa0;: son niveau, et un avis au branchement, au débranchement ou quand elle est faible.</translation>
+    </message>
+    <message>
+        <source>Battery: UPower does not answer, so no battery is shown. Install or start UPower (the upower package).</source>
+        <translation>Batterie&#xa0;: UPower ne répond pas, aucune batterie n’est donc affichée. Installez ou démarrez UPower (le paquet upower).</translation>
+    </message>
+    <message>
+        <source>Bluetooth: the batteries of your connected headphones and other accessories.</source>
+        <translation>Bluetooth&#xa0;: les batteries de vos écouteurs et autres accessoires connectés.</translation>
+    </message>
+    <message>
+        <source>Bluetooth: BlueZ does not answer, so no accessories are shown. Turn Bluetooth on, or install BlueZ (the bluez package).</source>
+        <translation>Bluetooth&#xa0;: BlueZ ne répond pas, aucun accessoire n’est donc affiché. Activez le Bluetooth ou installez BlueZ (le paquet bluez).</translation>
+    </message>
+    <message>
+        <source>Calendar: off. Turn it on in Settings… and add your calendars (.ics files or web addresses).</source>
+        <translation>Calendrier&#xa0;: désactivé. Activez-le dans Réglages… et ajoutez vos calendriers (fichiers .ics ou adresses web).</translation>
+    </message>
+    <message>
+        <source>Calendar: your next meeting with its Join button, and today&apos;s agenda.</source>
+        <translation>Calendrier&#xa0;: votre prochaine réunion avec son bouton Rejoindre, et l’agenda du jour.</translation>
+    </message>
+    <message>
+        <source>Calendar: nothing to show yet. Add your calendars (.ics files or web addresses) in Settings…, which says of each whether it could be read.</source>
+        <translation>Calendrier&#xa0;: rien à afficher pour l’instant. Ajoutez vos calendriers (fichiers .ics ou adresses web) dans Réglages…, qui indique pour chacun s’il a pu être lu.</translation>
+    </message>
+    <message>
+        <source>Weather: off. Turn it on in Settings… to see the forecast from MET Norway.</source>
+        <translation>Météo&#xa0;: désactivée. Activez-la dans Réglages… pour voir les prévisions de MET Norway.</translation>
+    </message>
+    <message>
+        <source>Weather: the forecast for where you are, from MET Norway.</source>
+        <translation>Météo&#xa0;: les prévisions pour l’endroit où vous êtes, de MET Norway.</translation>
+    </message>
+    <message>
+        <source>Weather: no forecast yet. Settings… says why, and lets you choose your place.</source>
+        <translation>Météo&#xa0;: pas encore de prévisions. Réglages… dit pourquoi et vous laisse choisir votre lieu.</translation>
+    </message>
+    <message>
+        <source>Do not disturb: shown while it is on.</source>
+        <translation>Ne pas déranger&#xa0;: affiché tant qu’il est actif.</translation>
+    </message>
+    <message>
+        <source>Do not disturb: no notification server answers, so whether it is on is unknown until one starts.</source>
+        <translation>Ne pas déranger&#xa0;: aucun serveur de notifications ne répond&#xa0;; son état reste inconnu jusqu’au démarrage de l’un d’eux.</translation>
     </message>
 </context>
 <context>
@@ -787,16 +881,16 @@
         <translation>Afficher les changements de luminosité dans l’encoche. Les touches vont au bureau quand la sortie ou l’écran ne peut pas être contrôlé.</translation>
     </message>
     <message>
-        <source>Play the volume feedback sound where the desktop does not. Hold Shift while pressing a volume key to do the opposite.</source>
-        <translation>Jouer le son de retour du volume là où le bureau ne le fait pas. Maintenez Maj en appuyant sur une touche de volume pour faire l’inverse.</translation>
-    </message>
-    <message>
         <source>The Focus filter&apos;s last state, as `tindra focus` wrote it.</source>
         <translation>Le dernier état du filtre Concentration, tel que `tindra focus` l’a écrit.</translation>
     </message>
     <message>
         <source>Sections pinned in the opened notch: tick them and drag them into order. With none ticked, every section with something to show appears.</source>
         <translation>Sections épinglées dans l’encoche ouverte&#xa0;: cochez-les et faites-les glisser dans l’ordre voulu. Si aucune n’est cochée, toute section qui a quelque chose à montrer apparaît.</translation>
+    </message>
+    <message>
+        <source>Play the volume feedback sound on a desktop without a setting of its own for it (GNOME&apos;s event sounds and Plasma&apos;s audio feedback decide there). Hold Shift while pressing a volume key to do the opposite.</source>
+        <translation>Jouer le son du volume sur un bureau qui n’a pas son propre réglage (les sons d’événements de GNOME et le retour audio de Plasma en décident). Maintenez Maj en appuyant sur une touche de volume pour faire l’inverse.</translation>
     </message>
 </context>
 <context>
@@ -830,12 +924,12 @@
         <translation>Faites défiler sur l’encoche avec deux doigts ou la molette, comme pour déplacer une page&#xa0;: vers le bas pour l’ouvrir, vers le haut pour la fermer, sur le côté pour changer de morceau.</translation>
     </message>
     <message>
-        <source>Drag the closed notch down to open it, or sideways to skip tracks.</source>
-        <translation>Faites glisser l’encoche fermée vers le bas pour l’ouvrir, ou sur le côté pour changer de morceau.</translation>
-    </message>
-    <message>
         <source>The desktop shows through where the window manager draws windows translucent; elsewhere the glass is dark grey.</source>
         <translation>Le bureau transparaît là où le gestionnaire de fenêtres dessine les fenêtres translucides&#xa0;; ailleurs, le verre est gris foncé.</translation>
+    </message>
+    <message>
+        <source>Drag the closed notch down to open it, or sideways to skip tracks; drag the opened one up from an empty spot to close it.</source>
+        <translation>Faites glisser l’encoche fermée vers le bas pour l’ouvrir, ou sur le côté pour changer de morceau&#xa0;; faites glisser l’encoche ouverte vers le haut depuis un espace vide pour la fermer.</translation>
     </message>
 </context>
 <context>
@@ -1228,6 +1322,112 @@
     </message>
 </context>
 <context>
+    <name>tindra::DisplaySelectionEditor</name>
+    <message>
+        <source>While the chosen display is not connected, the notch is on the main display.</source>
+        <translation>Tant que l’écran choisi n’est pas connecté, l’encoche est sur l’écran principal.</translation>
+    </message>
+    <message>
+        <source>Every display</source>
+        <translation>Tous les écrans</translation>
+    </message>
+    <message>
+        <source>Main display</source>
+        <translation>Écran principal</translation>
+    </message>
+    <message>
+        <source>Main display (%1)</source>
+        <translation>Écran principal (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (non connecté)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n displays)</source>
+        <translation>
+            <numerusform>%1 (%n écran)</numerusform>
+            <numerusform>%1 (%n écrans)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tindra::EdsCalendarFeed</name>
+    <message>
+        <source>Evolution Data Server&apos;s calendar factory does not answer (%1)</source>
+        <translation>la fabrique de calendriers d’Evolution Data Server ne répond pas (%1)</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s calendar factory went away: the events last read are kept until it returns</source>
+        <translation>la fabrique de calendriers d’Evolution Data Server a disparu&#xa0;: les derniers événements lus sont gardés jusqu’à son retour</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a calendar and its account</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server, source %1</source>
+        <translation>Evolution Data Server, source %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server cannot open the calendar: %1</source>
+        <translation>Evolution Data Server ne peut pas ouvrir le calendrier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>the calendar&apos;s backend went away: the events last read are kept until it is open again</source>
+        <translation>le moteur du calendrier a disparu&#xa0;: les derniers événements lus sont gardés jusqu’à sa réouverture</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server gives no view of the calendar: %1</source>
+        <translation>Evolution Data Server ne donne aucune vue du calendrier&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s view of the calendar does not start: %1</source>
+        <translation>la vue du calendrier d’Evolution Data Server ne démarre pas&#xa0;: %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server could not list the calendar: %1</source>
+        <translation>Evolution Data Server n’a pas pu lister le calendrier&#xa0;: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::EdsSourceRegistry</name>
+    <message>
+        <source>asking Evolution Data Server for its calendars</source>
+        <translation>demande ses calendriers à Evolution Data Server</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server is not running (%1): its calendars and online accounts are not read</source>
+        <translation>Evolution Data Server ne tourne pas (%1)&#xa0;: ses calendriers et comptes en ligne ne sont pas lus</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s source registry went away: its calendars are kept as they were until it returns</source>
+        <translation>le registre des sources d’Evolution Data Server a disparu&#xa0;: ses calendriers restent tels quels jusqu’à son retour</translation>
+    </message>
+    <message numerus="yes">
+        <source>Evolution Data Server gives %n calendar(s)</source>
+        <translation>
+            <numerusform>Evolution Data Server fournit %n calendrier</numerusform>
+            <numerusform>Evolution Data Server fournit %n calendriers</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without an account</source>
+        <translation>
+            <numerusform>%n sans compte</numerusform>
+            <numerusform>%n sans compte</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n from %1</source>
+        <translation>
+            <numerusform>%n de %1</numerusform>
+            <numerusform>%n de %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tindra::FakeAccessoryBackend</name>
     <message>
         <source>invented accessories (TINDRA_FAKE asks for them)</source>
@@ -1316,6 +1516,13 @@
     </message>
 </context>
 <context>
+    <name>tindra::FakeVolumeSoundPreference</name>
+    <message>
+        <source>an invented volume sound setting (TINDRA_FAKE asks for it)</source>
+        <translation>un réglage inventé pour le son du volume (TINDRA_FAKE le demande)</translation>
+    </message>
+</context>
+<context>
     <name>tindra::FileTrayProvider</name>
     <message>
         <source>keeping the file tray in %1</source>
@@ -1400,6 +1607,17 @@
     </message>
 </context>
 <context>
+    <name>tindra::GSettingsVolumeSoundPreference</name>
+    <message>
+        <source>the volume sound follows GNOME&apos;s event sounds setting</source>
+        <translation>le son du volume suit le réglage des sons d’événements de GNOME</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s sound settings are not installed: the volume sound follows Tindra&apos;s own setting</source>
+        <translation>les réglages de son de GNOME ne sont pas installés&#xa0;: le son du volume suit le réglage de Tindra</translation>
+    </message>
+</context>
+<context>
     <name>tindra::GeoClueLocationSource</name>
     <message>
         <source>asking GeoClue for the position</source>
@@ -1480,6 +1698,14 @@
     </message>
 </context>
 <context>
+    <name>tindra::IdleClock</name>
+    <message>
+        <source>dddd d MMMM</source>
+        <comment>the opened notch&apos;s date: Qt date format</comment>
+        <translation>dddd d MMMM</translation>
+    </message>
+</context>
+<context>
     <name>tindra::LocalCalendarFeed</name>
     <message>
         <source>%1 is not there</source>
@@ -1554,10 +1780,6 @@
         <translation>Bienvenue dans Tindra</translation>
     </message>
     <message>
-        <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ in use, – waiting or limited, ✗ not available, and what that means):&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Bienvenue dans Tindra&lt;/h2&gt;&lt;p&gt;La bande en haut de votre écran est désormais un petit affichage en direct. Fermée, elle montre une chose à la fois&#xa0;: ce qui est en lecture, un niveau de volume ou de luminosité, un avis de batterie ou de casque, la prochaine réunion, un appel ou un message. Posez le pointeur dessus et elle s’ouvre en un panneau avec les commandes, votre calendrier, la météo, vos batteries et un plateau de fichiers. Tout reste sur cet ordinateur.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Ce que Tindra a trouvé ici&lt;/b&gt; (✓ utilisé, – en attente ou limité, ✗ indisponible, et ce que cela signifie)&#xa0;:&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>&lt;b&gt;The notch opens&lt;/b&gt;</source>
         <translation>&lt;b&gt;L’encoche s’ouvre&lt;/b&gt;</translation>
     </message>
@@ -1581,12 +1803,27 @@
         <source>Start Using Tindra</source>
         <translation>Commencer à utiliser Tindra</translation>
     </message>
+    <message>
+        <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ works, – off or waiting, ✗ missing), and what you can do:&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Bienvenue dans Tindra&lt;/h2&gt;&lt;p&gt;La bande en haut de votre écran est maintenant un petit affichage vivant. Fermée, elle montre une chose à la fois&#xa0;: ce qui joue, un niveau de volume ou de luminosité, un avis de batterie ou d’écouteurs, la prochaine réunion, un appel ou un message. Posez le pointeur dessus et elle s’ouvre en un panneau avec les commandes, votre calendrier, la météo, vos batteries et un plateau de fichiers. Tout reste sur cet ordinateur.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Ce que Tindra a trouvé ici&lt;/b&gt; (✓ fonctionne, – désactivé ou en attente, ✗ manquant), et ce que vous pouvez faire&#xa0;:&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Each service&apos;s own report is in Diagnostics… on Tindra&apos;s menu, for a bug report.</source>
+        <translation>Le rapport de chaque service se trouve dans Diagnostic… du menu de Tindra, pour signaler un bogue.</translation>
+    </message>
 </context>
 <context>
     <name>tindra::PinnedSectionsEditor</name>
     <message>
         <source>Tick the sections to pin and drag them into order</source>
         <translation>Cochez les sections à épingler et faites-les glisser dans l’ordre</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::PlasmaVolumeSoundPreference</name>
+    <message>
+        <source>the volume sound follows the audio feedback setting of Plasma&apos;s volume applet</source>
+        <translation>le son du volume suit le réglage de retour audio de l’applet de volume de Plasma</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1898,13 @@
     </message>
 </context>
 <context>
+    <name>tindra::ScreenSource</name>
+    <message>
+        <source>Built-in display</source>
+        <translation>Écran intégré</translation>
+    </message>
+</context>
+<context>
     <name>tindra::SettingsWindow</name>
     <message>
         <source>Tindra Settings</source>
@@ -1716,6 +1960,18 @@
     <message>
         <source>Each service Tindra uses says here whether it answers, and every change since Tindra started is in the log. The report has the versions, the session and the log, for a bug report; it names none of your files, events or messages.</source>
         <translation>Chaque service utilisé par Tindra indique ici s’il répond, et chaque changement depuis le lancement de Tindra figure dans le journal. Le rapport contient les versions, la session et le journal, pour un rapport de bogue&#xa0;; il ne cite aucun de vos fichiers, événements ou messages.</translation>
+    </message>
+    <message>
+        <source>No keyboard backlight that Tindra can control was found on this computer.</source>
+        <translation>Aucun rétroéclairage de clavier que Tindra puisse régler n’a été trouvé sur cet ordinateur.</translation>
+    </message>
+    <message>
+        <source>Tindra could not read the keyboard backlight just now, so this was turned off. Try again with the lid open.</source>
+        <translation>Tindra n’a pas pu lire le rétroéclairage du clavier, cette option a donc été désactivée. Réessayez écran ouvert.</translation>
+    </message>
+    <message>
+        <source>This computer has no battery, so there is nothing to show here.</source>
+        <translation>Cet ordinateur n’a pas de batterie, il n’y a donc rien à afficher ici.</translation>
     </message>
 </context>
 <context>
@@ -1792,6 +2048,10 @@
     <message>
         <source>the keyboard backlight level cannot be read (%1 of %2)</source>
         <translation>le niveau du rétroéclairage du clavier est illisible (%1 sur %2)</translation>
+    </message>
+    <message>
+        <source>the keyboard backlight level cannot be read (%1)</source>
+        <translation>le niveau du rétroéclairage du clavier est illisible (%1)</translation>
     </message>
 </context>
 <context>

@@ -135,6 +135,10 @@
         <source>the Wayland compositor lists no windows to other programs (neither wlr foreign toplevel nor Plasma window management): the notch never steps aside for full-screen windows or games</source>
         <translation>Wayland-kompositoren viser ikke vinduene sine til andre programmer (verken wlr foreign toplevel eller Plasma window management): hakket viker aldri for vinduer i fullskjerm eller spill</translation>
     </message>
+    <message>
+        <source>this desktop has no volume sound setting: the volume sound follows Tindra&apos;s own setting</source>
+        <translation>dette skrivebordet har ingen innstilling for volumlyden: volumlyden følger Tindras egen innstilling</translation>
+    </message>
 </context>
 <context>
     <name>BannerPanel</name>
@@ -185,6 +189,10 @@
         <source>Low Power Mode is on</source>
         <translation>Strømsparing er på</translation>
     </message>
+    <message>
+        <source>This computer has no battery.</source>
+        <translation>Denne datamaskinen har ikke batteri.</translation>
+    </message>
 </context>
 <context>
     <name>BatteryCompact</name>
@@ -206,6 +214,13 @@
     <message>
         <source>Reminders</source>
         <translation>Påminnelser</translation>
+    </message>
+    <message numerus="yes">
+        <source>%n more</source>
+        <translation>
+            <numerusform>%n til</numerusform>
+            <numerusform>%n til</numerusform>
+        </translation>
     </message>
 </context>
 <context>
@@ -305,6 +320,85 @@
     <message>
         <source>Call</source>
         <translation>Anrop</translation>
+    </message>
+</context>
+<context>
+    <name>OnboardingFeatures</name>
+    <message>
+        <source>Now Playing: the track of any player that speaks MPRIS (most music and video players and web browsers do), with its controls. Start one to see it.</source>
+        <translation>Spilles nå: sporet i alle spillere som snakker MPRIS (det gjør de fleste musikk- og videospillere og nettlesere), med kontrollene. Start en for å se det.</translation>
+    </message>
+    <message>
+        <source>Now Playing: no player can be followed yet. Install an MPRIS-capable player, or start the one you have; if it still does not show, Diagnostics… says why.</source>
+        <translation>Spilles nå: ingen spiller kan følges ennå. Installer en spiller som kan MPRIS, eller start den du har; vises den fortsatt ikke, sier Diagnostikk… hvorfor.</translation>
+    </message>
+    <message>
+        <source>Volume: shown in the notch as it changes.</source>
+        <translation>Volum: vises i hakket når det endres.</translation>
+    </message>
+    <message>
+        <source>Volume: no sound server answers. The volume shows as soon as PipeWire or PulseAudio runs.</source>
+        <translation>Volum: ingen lydtjener svarer. Volumet vises så snart PipeWire eller PulseAudio kjører.</translation>
+    </message>
+    <message>
+        <source>Brightness: shown as it changes; the brightness keys step it.</source>
+        <translation>Lysstyrke: vises når den endres; lysstyrketastene justerer den.</translation>
+    </message>
+    <message>
+        <source>Brightness: this display&apos;s backlight cannot be controlled here (an external monitor, or a virtual machine), so the brightness keys stay with the desktop.</source>
+        <translation>Lysstyrke: skjermens baklys kan ikke styres her (en ekstern skjerm eller en virtuell maskin), så lysstyrketastene blir hos skrivebordet.</translation>
+    </message>
+    <message>
+        <source>Battery and Bluetooth need the system bus (D-Bus), which this session does not have. Start Tindra in an ordinary desktop session to see them.</source>
+        <translation>Batteri og Bluetooth trenger systembussen (D-Bus), som denne økten ikke har. Start Tindra i en vanlig skrivebordsøkt for å se dem.</translation>
+    </message>
+    <message>
+        <source>Battery: its level, and a notice when you plug in, unplug or run low.</source>
+        <translation>Batteri: nivået, og et varsel når du kobler til, kobler fra eller batteriet blir lavt.</translation>
+    </message>
+    <message>
+        <source>Battery: UPower does not answer, so no battery is shown. Install or start UPower (the upower package).</source>
+        <translation>Batteri: UPower svarer ikke, så ingen batterier vises. Installer eller start UPower (pakken upower).</translation>
+    </message>
+    <message>
+        <source>Bluetooth: the batteries of your connected headphones and other accessories.</source>
+        <translation>Bluetooth: batteriene i tilkoblede hodetelefoner og annet tilbehør.</translation>
+    </message>
+    <message>
+        <source>Bluetooth: BlueZ does not answer, so no accessories are shown. Turn Bluetooth on, or install BlueZ (the bluez package).</source>
+        <translation>Bluetooth: BlueZ svarer ikke, så intet tilbehør vises. Slå på Bluetooth, eller installer BlueZ (pakken bluez).</translation>
+    </message>
+    <message>
+        <source>Calendar: off. Turn it on in Settings… and add your calendars (.ics files or web addresses).</source>
+        <translation>Kalender: av. Slå den på i Innstillinger… og legg til kalenderne dine (.ics-filer eller nettadresser).</translation>
+    </message>
+    <message>
+        <source>Calendar: your next meeting with its Join button, and today&apos;s agenda.</source>
+        <translation>Kalender: det neste møtet ditt med Bli med-knappen, og dagens plan.</translation>
+    </message>
+    <message>
+        <source>Calendar: nothing to show yet. Add your calendars (.ics files or web addresses) in Settings…, which says of each whether it could be read.</source>
+        <translation>Kalender: ingenting å vise ennå. Legg til kalenderne dine (.ics-filer eller nettadresser) i Innstillinger…, som sier om hver av dem kunne leses.</translation>
+    </message>
+    <message>
+        <source>Weather: off. Turn it on in Settings… to see the forecast from MET Norway.</source>
+        <translation>Vær: av. Slå det på i Innstillinger… for å se varselet fra Meteorologisk institutt.</translation>
+    </message>
+    <message>
+        <source>Weather: the forecast for where you are, from MET Norway.</source>
+        <translation>Vær: varselet for der du er, fra Meteorologisk institutt.</translation>
+    </message>
+    <message>
+        <source>Weather: no forecast yet. Settings… says why, and lets you choose your place.</source>
+        <translation>Vær: ikke noe varsel ennå. Innstillinger… sier hvorfor, og lar deg velge stedet ditt.</translation>
+    </message>
+    <message>
+        <source>Do not disturb: shown while it is on.</source>
+        <translation>Ikke forstyrr: vises mens det er på.</translation>
+    </message>
+    <message>
+        <source>Do not disturb: no notification server answers, so whether it is on is unknown until one starts.</source>
+        <translation>Ikke forstyrr: ingen varslingstjener svarer, så om det er på, er ukjent til en starter.</translation>
     </message>
 </context>
 <context>
@@ -787,16 +881,16 @@
         <translation>Vis endringer i lysstyrke i hakket. Tastene går til skrivebordet når utgangen eller skjermen ikke kan styres.</translation>
     </message>
     <message>
-        <source>Play the volume feedback sound where the desktop does not. Hold Shift while pressing a volume key to do the opposite.</source>
-        <translation>Spill av tilbakemeldingslyden for lydstyrke der skrivebordet ikke gjør det. Hold Shift mens du trykker på en lydstyrketast for å gjøre det motsatte.</translation>
-    </message>
-    <message>
         <source>The Focus filter&apos;s last state, as `tindra focus` wrote it.</source>
         <translation>Fokusfilterets siste tilstand, slik `tindra focus` skrev den.</translation>
     </message>
     <message>
         <source>Sections pinned in the opened notch: tick them and drag them into order. With none ticked, every section with something to show appears.</source>
         <translation>Seksjoner som er festet i det åpne hakket: kryss dem av og dra dem i rekkefølge. Med ingen avkrysset vises alle seksjoner som har noe å vise.</translation>
+    </message>
+    <message>
+        <source>Play the volume feedback sound on a desktop without a setting of its own for it (GNOME&apos;s event sounds and Plasma&apos;s audio feedback decide there). Hold Shift while pressing a volume key to do the opposite.</source>
+        <translation>Spill av volumlyden på et skrivebord uten egen innstilling for den (der bestemmer GNOMEs hendelseslyder og Plasmas lydtilbakemelding). Hold Shift mens du trykker en volumtast for å gjøre det motsatte.</translation>
     </message>
 </context>
 <context>
@@ -830,12 +924,12 @@
         <translation>Rull på hakket med to fingre eller musehjulet, som om du flytter en side: ned åpner det, opp lukker det, til siden bytter spor.</translation>
     </message>
     <message>
-        <source>Drag the closed notch down to open it, or sideways to skip tracks.</source>
-        <translation>Dra det lukkede hakket ned for å åpne det, eller til siden for å bytte spor.</translation>
-    </message>
-    <message>
         <source>The desktop shows through where the window manager draws windows translucent; elsewhere the glass is dark grey.</source>
         <translation>Skrivebordet skinner gjennom der vindusbehandleren tegner vinduer gjennomskinnelige; ellers er glasset mørkegrått.</translation>
+    </message>
+    <message>
+        <source>Drag the closed notch down to open it, or sideways to skip tracks; drag the opened one up from an empty spot to close it.</source>
+        <translation>Dra det lukkede hakket ned for å åpne det, eller til siden for å bytte spor; dra det åpne opp fra et tomt sted for å lukke det.</translation>
     </message>
 </context>
 <context>
@@ -1228,6 +1322,112 @@
     </message>
 </context>
 <context>
+    <name>tindra::DisplaySelectionEditor</name>
+    <message>
+        <source>While the chosen display is not connected, the notch is on the main display.</source>
+        <translation>Mens den valgte skjermen ikke er tilkoblet, er hakket på hovedskjermen.</translation>
+    </message>
+    <message>
+        <source>Every display</source>
+        <translation>Alle skjermer</translation>
+    </message>
+    <message>
+        <source>Main display</source>
+        <translation>Hovedskjermen</translation>
+    </message>
+    <message>
+        <source>Main display (%1)</source>
+        <translation>Hovedskjermen (%1)</translation>
+    </message>
+    <message>
+        <source>%1 (not connected)</source>
+        <translation>%1 (ikke tilkoblet)</translation>
+    </message>
+    <message numerus="yes">
+        <source>%1 (%n displays)</source>
+        <translation>
+            <numerusform>%1 (%n skjerm)</numerusform>
+            <numerusform>%1 (%n skjermer)</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
+    <name>tindra::EdsCalendarFeed</name>
+    <message>
+        <source>Evolution Data Server&apos;s calendar factory does not answer (%1)</source>
+        <translation>kalenderfabrikken i Evolution Data Server svarer ikke (%1)</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s calendar factory went away: the events last read are kept until it returns</source>
+        <translation>kalenderfabrikken i Evolution Data Server forsvant: hendelsene som sist ble lest, beholdes til den er tilbake</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <comment>a calendar and its account</comment>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server, source %1</source>
+        <translation>Evolution Data Server, kilde %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server cannot open the calendar: %1</source>
+        <translation>Evolution Data Server kan ikke åpne kalenderen: %1</translation>
+    </message>
+    <message>
+        <source>the calendar&apos;s backend went away: the events last read are kept until it is open again</source>
+        <translation>kalenderens bakende forsvant: hendelsene som sist ble lest, beholdes til den er åpen igjen</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server gives no view of the calendar: %1</source>
+        <translation>Evolution Data Server gir ingen visning av kalenderen: %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s view of the calendar does not start: %1</source>
+        <translation>visningen av kalenderen i Evolution Data Server starter ikke: %1</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server could not list the calendar: %1</source>
+        <translation>Evolution Data Server fikk ikke listet kalenderen: %1</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::EdsSourceRegistry</name>
+    <message>
+        <source>asking Evolution Data Server for its calendars</source>
+        <translation>spør Evolution Data Server etter kalenderne</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server is not running (%1): its calendars and online accounts are not read</source>
+        <translation>Evolution Data Server kjører ikke (%1): kalenderne og nettkontoene der leses ikke</translation>
+    </message>
+    <message>
+        <source>Evolution Data Server&apos;s source registry went away: its calendars are kept as they were until it returns</source>
+        <translation>kilderegisteret i Evolution Data Server forsvant: kalenderne beholdes som de var til det er tilbake</translation>
+    </message>
+    <message numerus="yes">
+        <source>Evolution Data Server gives %n calendar(s)</source>
+        <translation>
+            <numerusform>Evolution Data Server gir %n kalender</numerusform>
+            <numerusform>Evolution Data Server gir %n kalendere</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n without an account</source>
+        <translation>
+            <numerusform>%n uten konto</numerusform>
+            <numerusform>%n uten konto</numerusform>
+        </translation>
+    </message>
+    <message numerus="yes">
+        <source>%n from %1</source>
+        <translation>
+            <numerusform>%n fra %1</numerusform>
+            <numerusform>%n fra %1</numerusform>
+        </translation>
+    </message>
+</context>
+<context>
     <name>tindra::FakeAccessoryBackend</name>
     <message>
         <source>invented accessories (TINDRA_FAKE asks for them)</source>
@@ -1316,6 +1516,13 @@
     </message>
 </context>
 <context>
+    <name>tindra::FakeVolumeSoundPreference</name>
+    <message>
+        <source>an invented volume sound setting (TINDRA_FAKE asks for it)</source>
+        <translation>en oppdiktet innstilling for volumlyden (TINDRA_FAKE ber om den)</translation>
+    </message>
+</context>
+<context>
     <name>tindra::FileTrayProvider</name>
     <message>
         <source>Only files and folders can go in the tray.</source>
@@ -1400,6 +1607,17 @@
     </message>
 </context>
 <context>
+    <name>tindra::GSettingsVolumeSoundPreference</name>
+    <message>
+        <source>the volume sound follows GNOME&apos;s event sounds setting</source>
+        <translation>volumlyden følger GNOMEs innstilling for hendelseslyder</translation>
+    </message>
+    <message>
+        <source>GNOME&apos;s sound settings are not installed: the volume sound follows Tindra&apos;s own setting</source>
+        <translation>GNOMEs lydinnstillinger er ikke installert: volumlyden følger Tindras egen innstilling</translation>
+    </message>
+</context>
+<context>
     <name>tindra::GeoClueLocationSource</name>
     <message>
         <source>asking GeoClue for the position</source>
@@ -1480,6 +1698,14 @@
     </message>
 </context>
 <context>
+    <name>tindra::IdleClock</name>
+    <message>
+        <source>dddd d MMMM</source>
+        <comment>the opened notch&apos;s date: Qt date format</comment>
+        <translation>dddd d. MMMM</translation>
+    </message>
+</context>
+<context>
     <name>tindra::LocalCalendarFeed</name>
     <message>
         <source>%1 is not there</source>
@@ -1554,10 +1780,6 @@
         <translation>Velkommen til Tindra</translation>
     </message>
     <message>
-        <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ in use, – waiting or limited, ✗ not available, and what that means):&lt;/p&gt;</source>
-        <translation>&lt;h2&gt;Velkommen til Tindra&lt;/h2&gt;&lt;p&gt;Stripen øverst på skjermen er nå en liten, levende visning. Lukket viser den én ting om gangen: hva som spilles, et lydstyrke- eller lysstyrkenivå, et batteri- eller hodetelefonvarsel, neste møte, et anrop eller en melding. Hvil pekeren på den, så åpnes den til et panel med kontrollene, kalenderen, været, batteriene og et filbrett. Alt blir på denne datamaskinen.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Hva Tindra fant her&lt;/b&gt; (✓ i bruk, – venter eller begrenset, ✗ ikke tilgjengelig, og hva det betyr):&lt;/p&gt;</translation>
-    </message>
-    <message>
         <source>&lt;b&gt;The notch opens&lt;/b&gt;</source>
         <translation>&lt;b&gt;Hakket åpnes&lt;/b&gt;</translation>
     </message>
@@ -1581,12 +1803,27 @@
         <source>Start Using Tindra</source>
         <translation>Ta i bruk Tindra</translation>
     </message>
+    <message>
+        <source>&lt;h2&gt;Welcome to Tindra&lt;/h2&gt;&lt;p&gt;The strip at the top of your display is now a small live display. Closed, it shows one thing at a time: what is playing, a volume or brightness level, a battery or headphone notice, the next meeting, a call or a message. Rest the pointer on it and it opens into a panel with the controls, your calendar, the weather, your batteries and a file tray. Everything stays on this computer.&lt;/p&gt;&lt;p&gt;&lt;b&gt;What Tindra found here&lt;/b&gt; (✓ works, – off or waiting, ✗ missing), and what you can do:&lt;/p&gt;</source>
+        <translation>&lt;h2&gt;Velkommen til Tindra&lt;/h2&gt;&lt;p&gt;Stripen øverst på skjermen er nå en liten levende skjerm. Lukket viser den én ting om gangen: det som spilles, et volum- eller lysstyrkenivå, et batteri- eller hodetelefonvarsel, neste møte, en samtale eller en melding. Hvil pekeren på den, så åpner den seg til et panel med kontrollene, kalenderen, været, batteriene og et filbrett. Alt blir på denne datamaskinen.&lt;/p&gt;&lt;p&gt;&lt;b&gt;Det Tindra fant her&lt;/b&gt; (✓ virker, – av eller venter, ✗ mangler), og hva du kan gjøre:&lt;/p&gt;</translation>
+    </message>
+    <message>
+        <source>Each service&apos;s own report is in Diagnostics… on Tindra&apos;s menu, for a bug report.</source>
+        <translation>Hver tjenestes egen rapport ligger i Diagnostikk… i Tindras meny, til en feilrapport.</translation>
+    </message>
 </context>
 <context>
     <name>tindra::PinnedSectionsEditor</name>
     <message>
         <source>Tick the sections to pin and drag them into order</source>
         <translation>Kryss av seksjonene som skal festes, og dra dem i rekkefølge</translation>
+    </message>
+</context>
+<context>
+    <name>tindra::PlasmaVolumeSoundPreference</name>
+    <message>
+        <source>the volume sound follows the audio feedback setting of Plasma&apos;s volume applet</source>
+        <translation>volumlyden følger innstillingen for lydtilbakemelding i Plasmas volumminiprogram</translation>
     </message>
 </context>
 <context>
@@ -1661,6 +1898,13 @@
     </message>
 </context>
 <context>
+    <name>tindra::ScreenSource</name>
+    <message>
+        <source>Built-in display</source>
+        <translation>Innebygd skjerm</translation>
+    </message>
+</context>
+<context>
     <name>tindra::SettingsWindow</name>
     <message>
         <source>Tindra Settings</source>
@@ -1716,6 +1960,18 @@
     <message>
         <source>Each service Tindra uses says here whether it answers, and every change since Tindra started is in the log. The report has the versions, the session and the log, for a bug report; it names none of your files, events or messages.</source>
         <translation>Her ser du om hver tjeneste Tindra bruker svarer, og hver endring siden Tindra startet står i loggen. Rapporten inneholder versjonene, økten og loggen, til en feilrapport; den nevner ingen av filene, hendelsene eller meldingene dine.</translation>
+    </message>
+    <message>
+        <source>No keyboard backlight that Tindra can control was found on this computer.</source>
+        <translation>Fant ikke noe tastaturlys som Tindra kan styre på denne datamaskinen.</translation>
+    </message>
+    <message>
+        <source>Tindra could not read the keyboard backlight just now, so this was turned off. Try again with the lid open.</source>
+        <translation>Tindra fikk ikke lest tastaturlyset akkurat nå, så dette ble slått av. Prøv igjen med lokket åpent.</translation>
+    </message>
+    <message>
+        <source>This computer has no battery, so there is nothing to show here.</source>
+        <translation>Denne datamaskinen har ikke batteri, så her er det ingenting å vise.</translation>
     </message>
 </context>
 <context>
@@ -1792,6 +2048,10 @@
     <message>
         <source>the keyboard backlight level cannot be read (%1 of %2)</source>
         <translation>nivået for tastaturbelysningen kan ikke leses (%1 av %2)</translation>
+    </message>
+    <message>
+        <source>the keyboard backlight level cannot be read (%1)</source>
+        <translation>tastaturlysets nivå kan ikke leses (%1)</translation>
     </message>
 </context>
 <context>
