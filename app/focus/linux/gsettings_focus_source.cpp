@@ -1,10 +1,3 @@
-// GIO's headers name a struct member `signals`, which Qt defines as a keyword: they come first.
-#pragma push_macro("signals")
-#undef signals
-#include <gio/gio.h>
-#pragma pop_macro("signals")
-
-#include "base/assign_if_changed.h"
 #include "focus/linux/gsettings_focus_source.h"
 
 namespace tindra {
@@ -17,16 +10,12 @@ constexpr const char* bannersKey = "show-banners";
 }  // namespace
 
 bool GSettingsFocusSource::available() {
-  GSettingsSchemaSource* source = g_settings_schema_source_get_default();
-  if (!source) return false;
-  GSettingsSchema* schema = g_settings_schema_source_lookup(source, schemaName, TRUE);
-  if (!schema) return false;
-  const bool hasKey = g_settings_schema_has_key(schema, bannersKey);
-  g_settings_schema_unref(schema);
-  return hasKey;
+  return GSettingsBoolKey::available(schemaName, bannersKey);
 }
 
-GSettingsFocusSource::GSettingsFocusSource(QObject* parent) : FocusStatusSource(parent) {
+GSettingsFocusSource::GSettingsFocusSource(QObject* parent)
+    : FocusStatusSource(parent),
+      key_(schemaName, bannersKey, [this](bool showsBanners) { publish(!showsBanners); }) {
   if (available()) {
     setCheck(
         DiagnosticsLog::Outcome::ok,
@@ -39,26 +28,8 @@ GSettingsFocusSource::GSettingsFocusSource(QObject* parent) : FocusStatusSource(
   }
 }
 
-GSettingsFocusSource::~GSettingsFocusSource() {
-  if (!settings_) return;
-  g_signal_handler_disconnect(settings_, handler_);
-  g_object_unref(settings_);
-}
-
 void GSettingsFocusSource::start() {
-  if (settings_ || !available()) return;
-  settings_ = g_settings_new(schemaName);
-  handler_ = g_signal_connect(settings_, "changed::show-banners", G_CALLBACK(onChanged), this);
-  read();
-}
-
-void GSettingsFocusSource::onChanged(GSettings*, const char*, void* self) {
-  static_cast<GSettingsFocusSource*>(self)->read();
-}
-
-void GSettingsFocusSource::read() {
-  const bool showsBanners = g_settings_get_boolean(settings_, bannersKey) != FALSE;
-  publish(!showsBanners);
+  key_.start();
 }
 
 }  // namespace tindra

@@ -3,9 +3,8 @@
 // main loop that Qt's event loop runs on Linux; nothing is polled.
 #pragma once
 
+#include "base/linux/gsettings_bool_key.h"
 #include "focus/focus_status_source.h"
-
-using GSettings = struct _GSettings;
 
 namespace tindra {
 
@@ -17,16 +16,11 @@ class GSettingsFocusSource final : public FocusStatusSource {
   static bool available();
 
   explicit GSettingsFocusSource(QObject* parent = nullptr);
-  ~GSettingsFocusSource() override;
 
   void start() override;
 
  private:
-  static void onChanged(GSettings* settings, const char* key, void* self);
-  void read();
-
-  GSettings* settings_ = nullptr;
-  unsigned long handler_ = 0;
+  GSettingsBoolKey key_;
 };
 
 }  // namespace tindra

@@ -4,9 +4,8 @@
 // on Linux; nothing is polled.
 #pragma once
 
+#include "base/linux/gsettings_bool_key.h"
 #include "levels/volume_sound_preference.h"
-
-using GSettings = struct _GSettings;
 
 namespace tindra {
 
@@ -18,16 +17,11 @@ class GSettingsVolumeSoundPreference final : public VolumeSoundPreference {
   static bool available();
 
   explicit GSettingsVolumeSoundPreference(QObject* parent = nullptr);
-  ~GSettingsVolumeSoundPreference() override;
 
   void start() override;
 
  private:
-  static void onChanged(GSettings* settings, const char* key, void* self);
-  void read();
-
-  GSettings* settings_ = nullptr;
-  unsigned long handler_ = 0;
+  GSettingsBoolKey key_;
 };
 
 }  // namespace tindra
