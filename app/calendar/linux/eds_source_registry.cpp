@@ -4,12 +4,8 @@
 #include <QDBusObjectPath>
 
 #include "base/dbus/dbus_names.h"
+#include "base/dbus/dbus_object_manager.h"
 #include "base/dbus/dbus_reply.h"
-
-using InterfaceMap = QMap<QString, QVariantMap>;
-using ManagedObjects = QMap<QDBusObjectPath, InterfaceMap>;
-Q_DECLARE_METATYPE(InterfaceMap)
-Q_DECLARE_METATYPE(ManagedObjects)
 
 namespace tindra {
 
@@ -18,7 +14,6 @@ namespace {
 const QString registryService = QStringLiteral("org.gnome.evolution.dataserver.Sources5");
 const QString managerPath = QStringLiteral("/org/gnome/evolution/dataserver/SourceManager");
 const QString sourceInterface = QStringLiteral("org.gnome.evolution.dataserver.Source");
-const QString objectManager = QStringLiteral("org.freedesktop.DBus.ObjectManager");
 
 }  // namespace
 
@@ -44,8 +39,8 @@ void EdsSourceRegistry::start() {
     setState(State::missing);
     return;
   }
-  registry_.followSignal(managerPath, objectManager, QStringLiteral("InterfacesAdded"));
-  registry_.followSignal(managerPath, objectManager, QStringLiteral("InterfacesRemoved"));
+  registry_.followSignal(managerPath, dbus::objectManager, QStringLiteral("InterfacesAdded"));
+  registry_.followSignal(managerPath, dbus::objectManager, QStringLiteral("InterfacesRemoved"));
   // Every source's: one match instead of one per source.
   registry_.followSignal(QString(), dbus::properties, QStringLiteral("PropertiesChanged"));
   registry_.start();
@@ -53,7 +48,7 @@ void EdsSourceRegistry::start() {
 
 void EdsSourceRegistry::read() {
   const QDBusMessage call = QDBusMessage::createMethodCall(
-      registryService, managerPath, objectManager, QStringLiteral("GetManagedObjects"));
+      registryService, managerPath, dbus::objectManager, QStringLiteral("GetManagedObjects"));
   registry_.call(call, [this](const QDBusMessage& answer) {
     const std::optional<ManagedObjects> objects = dbus::argument<ManagedObjects>(answer);
     if (!objects) {

@@ -7,15 +7,11 @@
 #include <utility>
 
 #include "base/dbus/dbus_names.h"
+#include "base/dbus/dbus_object_manager.h"
 #include "base/dbus/dbus_reply.h"
 #include "power/bluetooth_accessory_kind.h"
 #include "power/bluetooth_address.h"
 #include "power/bluez_device_info.h"
-
-using InterfaceMap = QMap<QString, QVariantMap>;
-using ManagedObjects = QMap<QDBusObjectPath, InterfaceMap>;
-Q_DECLARE_METATYPE(InterfaceMap)
-Q_DECLARE_METATYPE(ManagedObjects)
 
 namespace tindra {
 
@@ -24,7 +20,6 @@ namespace {
 const QString bluezService = QStringLiteral("org.bluez");
 const QString deviceInterface = QStringLiteral("org.bluez.Device1");
 const QString batteryInterface = QStringLiteral("org.bluez.Battery1");
-const QString objectManager = QStringLiteral("org.freedesktop.DBus.ObjectManager");
 const QString propertiesChanged = QStringLiteral("PropertiesChanged");
 const QString percentageKey = QStringLiteral("Percentage");
 
@@ -59,8 +54,9 @@ BlueZAccessoryBackend::BlueZAccessoryBackend(QDBusConnection bus, QObject* paren
 }
 
 void BlueZAccessoryBackend::start() {
-  bluez_.followSignal(QStringLiteral("/"), objectManager, QStringLiteral("InterfacesAdded"));
-  bluez_.followSignal(QStringLiteral("/"), objectManager, QStringLiteral("InterfacesRemoved"));
+  bluez_.followSignal(QStringLiteral("/"), dbus::objectManager, QStringLiteral("InterfacesAdded"));
+  bluez_.followSignal(QStringLiteral("/"), dbus::objectManager,
+                      QStringLiteral("InterfacesRemoved"));
   bluez_.followSignal(QString(), dbus::properties, propertiesChanged);  // every device's
   upower_.followSignal(dbus::upowerPath, dbus::upowerService, QStringLiteral("DeviceAdded"));
   upower_.followSignal(dbus::upowerPath, dbus::upowerService, QStringLiteral("DeviceRemoved"));
@@ -101,7 +97,7 @@ void BlueZAccessoryBackend::followUPower() {
 
 void BlueZAccessoryBackend::readBlueZ() {
   const QDBusMessage call = QDBusMessage::createMethodCall(
-      bluezService, QStringLiteral("/"), objectManager, QStringLiteral("GetManagedObjects"));
+      bluezService, QStringLiteral("/"), dbus::objectManager, QStringLiteral("GetManagedObjects"));
   bluez_.call(call, [this](const QDBusMessage& answer) {
     const std::optional<ManagedObjects> objects = dbus::argument<ManagedObjects>(answer);
     if (!objects) {
