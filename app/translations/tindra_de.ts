@@ -1881,6 +1881,10 @@
         <source>the sound server went away: no volume until it returns</source>
         <translation>der Soundserver ist weg: keine Lautstärke, bis er zurückkehrt</translation>
     </message>
+    <message>
+        <source>no sound server answers: the volume shows as soon as PipeWire or PulseAudio runs</source>
+        <translation>kein Soundserver antwortet: die Lautstärke erscheint, sobald PipeWire oder PulseAudio läuft</translation>
+    </message>
 </context>
 <context>
     <name>tindra::RemoteCalendarFeed</name>

@@ -1881,6 +1881,10 @@
         <source>the sound server went away: no volume until it returns</source>
         <translation>el servidor de sonido desapareció: sin volumen hasta que vuelva</translation>
     </message>
+    <message>
+        <source>no sound server answers: the volume shows as soon as PipeWire or PulseAudio runs</source>
+        <translation>ningún servidor de sonido responde: el volumen se muestra en cuanto PipeWire o PulseAudio se ejecuten</translation>
+    </message>
 </context>
 <context>
     <name>tindra::RemoteCalendarFeed</name>

@@ -1881,6 +1881,10 @@
         <source>the sound server went away: no volume until it returns</source>
         <translation>le serveur de son a disparu&#xa0;: pas de volume jusqu’à son retour</translation>
     </message>
+    <message>
+        <source>no sound server answers: the volume shows as soon as PipeWire or PulseAudio runs</source>
+        <translation>aucun serveur de son ne répond&#xa0;: le volume s’affiche dès que PipeWire ou PulseAudio tourne</translation>
+    </message>
 </context>
 <context>
     <name>tindra::RemoteCalendarFeed</name>

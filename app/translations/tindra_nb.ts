@@ -1881,6 +1881,10 @@
         <source>connecting to the sound server</source>
         <translation>kobler til lydtjeneren</translation>
     </message>
+    <message>
+        <source>no sound server answers: the volume shows as soon as PipeWire or PulseAudio runs</source>
+        <translation>ingen lydtjener svarer: volumet vises så snart PipeWire eller PulseAudio kjører</translation>
+    </message>
 </context>
 <context>
     <name>tindra::RemoteCalendarFeed</name>

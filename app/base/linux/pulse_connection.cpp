@@ -59,6 +59,7 @@ void PulseConnection::connectNow() {
 }
 
 void PulseConnection::waitForServer() {
+  emit unanswered();
   if (socket_.isEmpty()) {
     retry_.start(unwatchedReconnectMilliseconds);
     return;

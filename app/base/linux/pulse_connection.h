@@ -51,6 +51,8 @@ class PulseConnection : public QObject {
 
  signals:
   void readyChanged(bool ready);
+  // A try to connect found no server; the next one is on its way.
+  void unanswered();
   // A sink or the server (its default sink) changed.
   void changed();
   // A playback stream (sink input) came, went or changed.

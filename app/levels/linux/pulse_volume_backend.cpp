@@ -24,6 +24,7 @@ PulseVolumeBackend::PulseVolumeBackend(std::shared_ptr<PulseConnection> connecti
       tick_(*connection_, "tindra-volume-tick", tickSound()) {
   setCheck(DiagnosticsLog::Outcome::ok, Sentence(QT_TR_NOOP("connecting to the sound server"), tr));
   connect(connection_.get(), &PulseConnection::readyChanged, this, [this](bool ready) {
+    answered_ = answered_ || ready;
     if (ready) {
       setCheck(DiagnosticsLog::Outcome::ok,
                Sentence(QT_TR_NOOP("following the sound server's default output"), tr));
@@ -33,6 +34,14 @@ PulseVolumeBackend::PulseVolumeBackend(std::shared_ptr<PulseConnection> connecti
                Sentence(QT_TR_NOOP("the sound server went away: no volume until it returns"), tr));
       publish(std::nullopt);
     }
+  });
+  // Until a server has answered once, "connecting" would read as working: say there is none.
+  connect(connection_.get(), &PulseConnection::unanswered, this, [this] {
+    if (answered_) return;
+    setCheck(DiagnosticsLog::Outcome::degraded,
+             Sentence(QT_TR_NOOP("no sound server answers: the volume shows as soon as PipeWire "
+                                 "or PulseAudio runs"),
+                      tr));
   });
   connect(connection_.get(), &PulseConnection::changed, this, &PulseVolumeBackend::readDefaultSink);
 }

@@ -43,6 +43,7 @@ class PulseVolumeBackend final : public VolumeBackend {
   std::shared_ptr<PulseConnection> connection_;
   PulseSample tick_;
   int channels_ = 2;
+  bool answered_ = false;  // a server has been reached since the start
 };
 
 }  // namespace tindra

@@ -99,6 +99,12 @@ TEST_F(PulseVolumeBackendTest, LosesTheOutputWithTheServerAndFindsItAgain) {
   pactl({"exit"});
   ASSERT_TRUE(waitFor([&] { return !backend.reading(); }));
   EXPECT_EQ(backend.check().outcome, DiagnosticsLog::Outcome::degraded);
+  EXPECT_TRUE(backend.check().text.translated().contains("went away"));
+  // One started while no server runs says so, rather than seeming to be on its way.
+  PulseVolumeBackend late;
+  late.start();
+  ASSERT_TRUE(waitFor([&] { return late.check().outcome == DiagnosticsLog::Outcome::degraded; }));
+  EXPECT_TRUE(late.check().text.translated().contains("no sound server answers"));
 
   QProcess::execute("pulseaudio", {"--daemonize=yes", "-n", "--exit-idle-time=-1",
                                    "--load=module-native-protocol-unix",
@@ -106,6 +112,9 @@ TEST_F(PulseVolumeBackendTest, LosesTheOutputWithTheServerAndFindsItAgain) {
   EXPECT_TRUE(QTest::qWaitFor([&] { return backend.reading().has_value(); },
                               3 * PulseConnection::reconnectMilliseconds + 2000));
   EXPECT_EQ(backend.check().outcome, DiagnosticsLog::Outcome::ok);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return late.reading().has_value(); },
+                              3 * PulseConnection::reconnectMilliseconds + 2000));
+  EXPECT_EQ(late.check().outcome, DiagnosticsLog::Outcome::ok);
   pactl({"exit"});
 }
 
