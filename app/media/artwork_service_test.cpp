@@ -2,23 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <QBuffer>
 #include <QSignalSpy>
 #include <QTest>
 #include <map>
 
+#include "testing/picture_checks.h"
+
 namespace tindra {
 namespace {
-
-QByteArray png(QColor color, int side = 64) {
-  QImage image(side, side, QImage::Format_RGB32);
-  image.fill(color);
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  image.save(&buffer, "PNG");
-  return bytes;
-}
 
 // Answers from a table of addresses; records every request. Nothing leaves the process.
 class TableFetcher : public ArtworkFetcher {
@@ -60,7 +51,7 @@ class ArtworkServiceTest : public ::testing::Test {
 TEST_F(ArtworkServiceTest, EmbeddedCoversAreScaledAndTintedAndStaleOnesDropped) {
   // A bright yellow stands out on the bar's dark grey; a dark red would not.
   NowPlayingSnapshot yellow = track("Yellow", "Colours");
-  const QByteArray big = png(QColor(250, 210, 40), 1200);
+  const QByteArray big = solidPng(QColor(250, 210, 40), 1200);
   yellow.artwork = NowPlayingSnapshot::Artwork::embedded(
       std::span(reinterpret_cast<const std::uint8_t*>(big.constData()), std::size_t(big.size())));
   service_.show(yellow);
@@ -69,7 +60,7 @@ TEST_F(ArtworkServiceTest, EmbeddedCoversAreScaledAndTintedAndStaleOnesDropped) 
   ASSERT_TRUE(service_.current()->tint.has_value());
   EXPECT_GT(service_.current()->tint->red, 0.9);
   EXPECT_GT(service_.current()->tint->green, 0.7);
-  EXPECT_FALSE(ArtworkService::decode(png(QColor(120, 20, 20)))->tint.has_value());
+  EXPECT_FALSE(ArtworkService::decode(solidPng(QColor(120, 20, 20)))->tint.has_value());
 
   // The track moves on while its cover is being decoded: that cover never shows up.
   NowPlayingSnapshot again = yellow;
@@ -87,7 +78,7 @@ TEST_F(ArtworkServiceTest, EmbeddedCoversAreScaledAndTintedAndStaleOnesDropped) 
 
 TEST_F(ArtworkServiceTest, OnlyCatalogueHostsAreDownloadedAndEachOnlyOnce) {
   const QString cover = "https://i.scdn.co/image/abc";
-  fetcher_.answers[cover] = png(Qt::darkGreen);
+  fetcher_.answers[cover] = solidPng(Qt::darkGreen);
   NowPlayingSnapshot remote = track("Remote", "Album");
   remote.artwork = NowPlayingSnapshot::Artwork::remote("http://i.scdn.co/image/abc");  // upgraded
   service_.show(remote);
@@ -134,7 +125,7 @@ TEST_F(ArtworkServiceTest, TheCatalogueIsAskedOnlyWhenAllowedAndAMissIsRemembere
   fetcher_.answers[search] =
       R"({"results":[{"artistName":"Artist","collectionName":"Blue Hour - EP",)"
       R"("artworkUrl100":"https://is1-ssl.mzstatic.com/image/a/100x100bb.jpg"}]})";
-  fetcher_.answers["https://is1-ssl.mzstatic.com/image/a/600x600bb.jpg"] = png(Qt::blue);
+  fetcher_.answers["https://is1-ssl.mzstatic.com/image/a/600x600bb.jpg"] = solidPng(Qt::blue);
   now_ += ArtworkMissMemo::defaultRetryAfter + 1;
   service_.show(track("Fifth", "Blue Hour"));
   ASSERT_TRUE(waitForCover(true));

@@ -6,7 +6,6 @@
 
 #include <algorithm>
 
-#include <QBuffer>
 #include <QDBusConnection>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
@@ -25,6 +24,7 @@
 #include "testing/dbus_mock_service.h"
 #include "testing/host_redirecting_artwork_fetcher.h"
 #include "testing/loopback_http_server.h"
+#include "testing/picture_checks.h"
 #include "testing/skip_or_fail_on_ci.h"
 #include "testing/view_shot.h"
 
@@ -36,16 +36,6 @@ const QString path = QStringLiteral("/org/mpris/MediaPlayer2");
 const QString playerInterface = QStringLiteral("org.mpris.MediaPlayer2.Player");
 const QString propertiesInterface = QStringLiteral("org.freedesktop.DBus.Properties");
 const QUrl panel(QStringLiteral("qrc:/Tindra/media/MediaPanel.qml"));
-
-QByteArray png(QColor color) {
-  QImage image(64, 64, QImage::Format_RGB32);
-  image.fill(color);
-  QByteArray bytes;
-  QBuffer buffer(&bytes);
-  buffer.open(QIODevice::WriteOnly);
-  image.save(&buffer, "PNG");
-  return bytes;
-}
 
 QVariantMap track(const QString& title, const QString& artUrl) {
   return {{"mpris:trackid", QVariant::fromValue(QDBusObjectPath("/track/" + title.toLower()))},
@@ -89,8 +79,9 @@ class NowPlayingDesktopTest : public ::testing::Test {
                                                 {"CanSeek", true},
                                                 {"Metadata", track("Orange", spotifyCover)}}});
     server_ = std::make_unique<LoopbackHTTPServer>();
-    server_->setResponse("/image/ab67orange", {200, {{"Content-Type", "image/png"}}, png(orange)});
-    server_->setResponse("/image/ab67blue", {200, {{"Content-Type", "image/png"}}, png(blue)});
+    server_->setResponse("/image/ab67orange",
+                         {200, {{"Content-Type", "image/png"}}, solidPng(orange)});
+    server_->setResponse("/image/ab67blue", {200, {{"Content-Type", "image/png"}}, solidPng(blue)});
     auto fetcher = std::make_unique<HostRedirectingArtworkFetcher>(
         server_->url("/"), QStringList{"i.scdn.co", "itunes.apple.com"});
     fetcher_ = fetcher.get();

@@ -1,9 +1,21 @@
 #include "testing/picture_checks.h"
 
+#include <QBuffer>
+
 #include <algorithm>
 #include <cstdlib>
 
 namespace tindra {
+
+QByteArray solidPng(const QColor& color, int side) {
+  QImage image(side, side, QImage::Format_RGB32);
+  image.fill(color);
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  image.save(&buffer, "PNG");
+  return bytes;
+}
 
 namespace {
 

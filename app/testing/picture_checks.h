@@ -2,6 +2,7 @@
 // one: a blank, wrongly coloured or misplaced view fails them. Views are drawn on black.
 #pragma once
 
+#include <QByteArray>
 #include <QColor>
 #include <QImage>
 #include <QRect>
@@ -10,6 +11,9 @@
 namespace tindra {
 
 using PixelTest = std::function<bool(const QColor&)>;
+
+// A PNG of one colour, `side` pixels square: a cover for a test to serve and then look for.
+QByteArray solidPng(const QColor& color, int side = 64);
 
 // Stands out from the black the views are drawn on.
 bool isDrawn(const QColor& pixel);
