@@ -39,6 +39,12 @@ bool DBusMockService::stop() {
   return QTest::qWaitFor([this] { return !nameOnBus(); }, 5000);
 }
 
+bool DBusMockService::kill() {
+  process_.kill();
+  process_.waitForFinished(5000);
+  return QTest::qWaitFor([this] { return !nameOnBus(); }, 5000);
+}
+
 QString DBusMockService::call(const QString& path, const QString& method,
                               const QVariantList& arguments, const QString& interface) {
   QDBusMessage message = QDBusMessage::createMethodCall(busName_, path, interface, method);

@@ -20,6 +20,8 @@ class DBusMockService {
   bool start(QString* error);
   // Stops the service and waits until its name has left the bus; false if it stayed.
   bool stop();
+  // Kills the service (SIGKILL, as a crash would) and waits until its name has left the bus.
+  bool kill();
 
   // Calls one of the template's mock methods (org.freedesktop.DBus.Mock unless `interface` names
   // the template's own); the error text, or empty.
