@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <QQuickItem>
+#include <QRegularExpression>
 #include <QTemporaryDir>
 #include <QTest>
 
@@ -94,6 +95,43 @@ TEST_F(OpenedNotchTest, NoTextIsCutWithTheInventedTrackMeetingAndWeather) {
   EXPECT_TRUE(meeting.contains(QStringLiteral("Design review")))
       << meeting.join(" | ").toStdString();
   keepScreenshot(grabDisplay().copy(window.geometry()), QStringLiteral("opened-meeting"));
+}
+
+// The text item under `item` that says `text`, visible or not.
+QQuickItem* findText(QQuickItem* item, const QString& text) {
+  if (item->inherits("QQuickText") && item->property("text").toString() == text) return item;
+  for (QQuickItem* child : item->childItems()) {
+    if (QQuickItem* found = findText(child, text)) return found;
+  }
+  return nullptr;
+}
+
+TEST_F(OpenedNotchTest, PanelViewsAreMadeOnTheFirstOpeningAndKeptAfterwards) {
+  TindraApp app({.animated = false});
+  NotchWindow& window = *app.notches().windows().front();
+  auto* row = window.rootObject()->findChild<QQuickItem*>(QStringLiteral("sectionRow"));
+  ASSERT_NE(row, nullptr);
+  QTest::qWait(300);
+  // The track is known and shown in the closed notch, but nothing of the panel exists yet.
+  EXPECT_EQ(findText(row, QStringLiteral("Invented Track 1")), nullptr);
+
+  window.open();
+  QTest::qWait(300);
+  QQuickItem* title = findText(row, QStringLiteral("Invented Track 1"));
+  ASSERT_NE(title, nullptr);
+  EXPECT_TRUE(title->isVisible());
+  // The idle layout on the left is made with the sections, its clock among its texts.
+  const QStringList texts = expectWholeTexts(window, "first opening");
+  EXPECT_TRUE(texts.indexOf(QRegularExpression(QStringLiteral("^\\d{1,2}[:.]\\d{2}"))) >= 0)
+      << texts.join(" | ").toStdString();
+
+  window.close();
+  QTest::qWait(300);
+  window.open();
+  QTest::qWait(300);
+  // The same view again, not one made anew on every opening.
+  EXPECT_EQ(findText(row, QStringLiteral("Invented Track 1")), title);
+  EXPECT_TRUE(title->isVisible());
 }
 
 }  // namespace

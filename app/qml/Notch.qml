@@ -79,8 +79,19 @@ Item {
     // something to show (or is pinned). While a transient section has something (a level just
     // changed), it stands there alone. A section that does not fit whole is left out rather than
     // cut off at the edge; the activity's own section comes first, then pinned order.
+    // The views are made the first time the notch opens, not at start: many days nobody opens
+    // it, and they are most of what the notch would hold in memory. Once made they stay.
     Item {
         id: panel
+
+        property bool made: false
+
+        Connections {
+            target: root.notch
+            function onExpandedChanged(expanded) {
+                if (expanded) panel.made = true
+            }
+        }
 
         readonly property bool transientShown: root.content.sections.some(
             section => section.transient && section.model.showing)
@@ -130,15 +141,19 @@ Item {
             anchors.topMargin: 6
             spacing: 14
 
-            IdleLayout {
+            Loader {
                 id: idle
                 height: parent.height
-                content: root.content
+                active: panel.made
+                sourceComponent: IdleLayout {
+                    content: root.content
+                }
             }
             Repeater {
                 id: sections
                 model: root.content.sections
                 delegate: Loader {
+                    id: section
                     required property var modelData
                     required property int index
                     readonly property bool wanted: item !== null && (modelData.transient
@@ -150,7 +165,15 @@ Item {
                         && item.onlyBesideOthers === true
                     height: parent.height
                     visible: panel.fitting[index] === true
-                    Component.onCompleted: setSource(modelData.source, { model: modelData.model })
+                    function make() {
+                        if (panel.made && source.toString() === "")
+                            setSource(modelData.source, { model: modelData.model })
+                    }
+                    Component.onCompleted: make()
+                    Connections {
+                        target: panel
+                        function onMadeChanged() { section.make() }
+                    }
                 }
             }
         }
