@@ -9,11 +9,14 @@
 #include <QLocale>
 #include <QQuickWindow>
 #include <QTextStream>
+#include <QTimer>
 #include <QTranslator>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
+#include "base/heap_tuning.h"
 #include "base/termination_signals.h"
 #include "demo_tour.h"
 #include "diagnostics/first_frame_report.h"
@@ -28,6 +31,8 @@
 #include "tindra_app.h"
 
 namespace {
+
+constexpr std::chrono::seconds startupSettled{5};
 
 int runFocusCommand(int argc, char* argv[]) {
   QCoreApplication app(argc, argv);
@@ -53,6 +58,7 @@ int runLevelCommand(int argc, char* argv[]) {
 }  // namespace
 
 int main(int argc, char* argv[]) {
+  tindra::tuneHeapForLongRun();
   if (argc > 1 && std::string_view(argv[1]) == "focus") return runFocusCommand(argc, argv);
   if (argc > 1 && std::string_view(argv[1]) == "level") return runLevelCommand(argc, argv);
   tindra::selectDisplayPlatform();
@@ -103,6 +109,9 @@ int main(int argc, char* argv[]) {
   tindra::reportNoticeLatencyIfAsked(tindra.activities());
   tindra::reportStallsIfAsked();
   tindra::reportKeyLatencyIfAsked(*tindra.providers().get<tindra::HudProvider>().viewModel());
+  // Start-up's temporaries (compiling the QML, the first layout, the first readings) are freed
+  // by the time the notch has settled; what they leave in the heap goes back once.
+  QTimer::singleShot(startupSettled, [] { tindra::giveBackFreedHeap(); });
   if (!options.isSet(demo)) return QApplication::exec();
 
   tindra::DemoTour tour(tindra, QDir(options.value(demo)));

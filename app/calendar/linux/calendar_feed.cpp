@@ -1,7 +1,6 @@
 #include "calendar/linux/calendar_feed.h"
 
-#include <malloc.h>
-
+#include "base/heap_tuning.h"
 #include "base/qt_text.h"
 
 namespace tindra {
@@ -39,6 +38,8 @@ void CalendarFeed::setReadOptions(ICalendarReadOptions options) {
   // A reading on its way is asked again with the new options; else the documents the feed has.
   if (pending_) {
     post(*pending_);
+  } else if (holdsDocuments()) {
+    post({documentsAgain(), {}, true});
   } else {
     post({[documents = documents_] { return std::optional(*documents); }, {}, true});
   }
@@ -82,7 +83,7 @@ std::optional<CalendarFeed::Reading> CalendarFeed::read(const Gather& gather,
   reading.texts = std::move(texts);
   // libical builds a tree many times the document's size and frees it in small pieces, which
   // the allocator would otherwise keep for good.
-  malloc_trim(0);
+  giveBackFreedHeap();
   return reading;
 }
 
@@ -114,7 +115,7 @@ void CalendarFeed::finish(const Request& request, std::optional<Reading> reading
 }
 
 void CalendarFeed::take(Reading reading) {
-  documents_ = std::move(reading.texts);
+  if (!holdsDocuments()) documents_ = std::move(reading.texts);
   contents_.events.clear();
   contents_.reminders.clear();
   contents_.source.name = defaultName_;
