@@ -31,9 +31,13 @@ class ArtworkService : public QObject {
   using Clock = std::function<double()>;  // seconds since 1970
   using Allowed = std::function<bool()>;  // the artworkOnlineLookup setting
 
-  static constexpr int maxSide = 256;                  // twice the largest cover drawn
+  // The largest cover drawn is 76 points across, 152 pixels on a display of twice the density.
+  static constexpr int maxSide = 160;
   static constexpr qint64 maxCoverBytes = 10'000'000;  // a download larger is not a cover
-  static constexpr std::size_t cacheCapacity = 32;
+  // One cover is shown; the cache is for the tracks of an album played again, skipped back to
+  // or coming round in a short playlist, and each cover in it holds 100 kB for as long as
+  // Tindra runs.
+  static constexpr std::size_t cacheCapacity = 8;
   static constexpr SRGBColor barBackground{0.23, 0.23, 0.24};
 
   ArtworkService(ArtworkFetcher& fetcher, Allowed onlineLookup, Clock now,
