@@ -57,6 +57,11 @@ class CalendarFeed : public QObject {
   // The window changed (after the documents were asked to be read again for it): a feed that
   // asks its service for the window's events asks again.
   virtual void windowChanged() {}
+  // A feed that holds its documents' text itself (Evolution's components) gives them again for
+  // new read options, and the text of the last reading is not kept twice. Any other (a fetched
+  // calendar, a file that may have changed since) has the last reading's text read again.
+  virtual bool holdsDocuments() const { return false; }
+  virtual Gather documentsAgain() { return {}; }
   // A problem in getting the documents at all (a failed fetch); the last good ones stay shown.
   void setProblem(DiagnosticsLog::Outcome outcome, const Sentence& text);
   const QString& location() const { return contents_.source.location; }
@@ -85,6 +90,7 @@ class CalendarFeed : public QObject {
   QString defaultName_;
   std::optional<CalendarEventInfo::Color> ownColor_;  // the service's, over the palette's
   ICalendarReadOptions options_;
+  // The text of the last reading, unless the feed holds it itself.
   std::shared_ptr<const std::vector<std::string>> documents_;
   std::optional<Request> pending_;  // the newest reading asked for, until it is done
   std::uint64_t posted_ = 0;        // readings asked for so far

@@ -317,8 +317,13 @@ void EdsCalendarFeed::scheduleRead() {
 // overtaken by a newer one before it began is not made at all.
 void EdsCalendarFeed::read() {
   if (!complete_ || zonesAsked_ > 0) return;
+  lastRead_ = components_;
+  accept(documentsAgain());
+}
+
+CalendarFeed::Gather EdsCalendarFeed::documentsAgain() {
   const quint64 number = ++*readings_;
-  accept([components = components_, zones = zones_, readings = readings_,
+  return [components = lastRead_, zones = zones_, readings = readings_,
           number]() -> std::optional<std::vector<std::string>> {
     if (readings->load() != number) return std::nullopt;
     std::string document("BEGIN:VCALENDAR\r\nVERSION:2.0\r\nPRODID:-//Tindra//EDS//EN\r\n");
@@ -331,7 +336,7 @@ void EdsCalendarFeed::read() {
     for (const QByteArray& component : components) append(component);
     document.append("END:VCALENDAR\r\n");
     return std::vector<std::string>{std::move(document)};
-  });
+  };
 }
 
 void EdsCalendarFeed::lost(const Sentence& why) {

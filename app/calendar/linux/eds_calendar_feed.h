@@ -50,6 +50,9 @@ class EdsCalendarFeed final : public CalendarFeed {
 
  protected:
   void windowChanged() override;
+  bool holdsDocuments() const override { return true; }
+  // The components of the last reading and the zones, joined into one document on the reader.
+  Gather documentsAgain() override;
 
  private:
   void open();
@@ -80,7 +83,10 @@ class EdsCalendarFeed final : public CalendarFeed {
   quint64 openings_ = 0;
   quint64 views_ = 0;
   QMap<QString, QByteArray> components_;  // by key
-  QMap<QString, QByteArray> zones_;       // VTIMEZONE by TZID; empty when the calendar has none
+  // Those of the last reading, read again for new options while a new view fills components_
+  // or the backend is away; shared with components_ (implicitly) while the view holds the same.
+  QMap<QString, QByteArray> lastRead_;
+  QMap<QString, QByteArray> zones_;  // VTIMEZONE by TZID; empty when the calendar has none
   int zonesAsked_ = 0;
   bool complete_ = false;  // the view has sent all it held
   QTimer readSoon_;        // one reading for the signals of one turn of the event loop
