@@ -93,6 +93,8 @@ void CalendarFeed::finish(const Request& request, std::optional<Reading> reading
   };
   if (!reading) return tell(Outcome::unavailable);
   if (request.again) {
+    // Held text that no longer reads (a file saved broken since) leaves the last events shown.
+    if (reading->count > 0 && reading->failed == reading->count) return;
     take(std::move(*reading));
     publish();
     return;

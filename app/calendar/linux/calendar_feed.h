@@ -57,9 +57,9 @@ class CalendarFeed : public QObject {
   // The window changed (after the documents were asked to be read again for it): a feed that
   // asks its service for the window's events asks again.
   virtual void windowChanged() {}
-  // A feed that holds its documents' text itself (Evolution's components) gives them again for
-  // new read options, and the text of the last reading is not kept twice. Any other (a fetched
-  // calendar, a file that may have changed since) has the last reading's text read again.
+  // A feed that holds its documents' text itself (Evolution's components) or can get it again
+  // at no cost (a file on this machine) gives it for new read options, and the text of the last
+  // reading is not kept. Any other (a fetched calendar) has the last reading's text read again.
   virtual bool holdsDocuments() const { return false; }
   virtual Gather documentsAgain() { return {}; }
   // A problem in getting the documents at all (a failed fetch); the last good ones stay shown.

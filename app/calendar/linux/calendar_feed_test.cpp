@@ -92,5 +92,22 @@ TEST(CalendarFeed, ANewWindowReadsWhatTheFeedHoldsNowNotAKeptCopy) {
   EXPECT_TRUE(waitForTitles(feed, {"moved"}));
 }
 
+TEST(CalendarFeed, HeldTextThatNoLongerReadsLeavesTheLastEventsForANewWindow) {
+  HandedFeed feed(true);
+  feed.hand(twoWeeks);
+  ASSERT_TRUE(waitForTitles(feed, {"this-week"}));
+  feed.held_ = {"BEGIN:VCALENDAR\r\nnot a calendar", "neither"};
+  feed.setReadOptions(windowFrom(monday + 7 * day));
+  QSignalSpy changed(&feed, &CalendarFeed::changed);
+  // Nothing better to show: the events stay, and nothing is said to have changed.
+  EXPECT_FALSE(changed.wait(1000));
+  EXPECT_EQ(titles(feed), std::vector<std::string>{"this-week"});
+
+  // A held calendar that is empty now is read as such, not taken for a broken one.
+  feed.held_ = {};
+  feed.setReadOptions(windowFrom(monday));
+  EXPECT_TRUE(waitForTitles(feed, {}));
+}
+
 }  // namespace
 }  // namespace tindra

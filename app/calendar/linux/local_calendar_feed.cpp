@@ -73,13 +73,18 @@ void LocalCalendarFeed::read() {
                Sentence(QT_TR_NOOP("%1 is not there"), tr).arg(location()));
     return;
   }
-  accept([path = info.absoluteFilePath(),
-          isFolder = info.isDir()] { return documentsAt(path, isFolder); },
-         [this](Outcome outcome) {
-           if (outcome != Outcome::unavailable) return;
-           setProblem(DiagnosticsLog::Outcome::degraded,
-                      Sentence(QT_TR_NOOP("%1 cannot be read"), tr).arg(location()));
-         });
+  accept(documentsAgain(), [this](Outcome outcome) {
+    if (outcome != Outcome::unavailable) return;
+    setProblem(DiagnosticsLog::Outcome::degraded,
+               Sentence(QT_TR_NOOP("%1 cannot be read"), tr).arg(location()));
+  });
+}
+
+CalendarFeed::Gather LocalCalendarFeed::documentsAgain() {
+  const QFileInfo info(location());
+  return [path = info.absoluteFilePath(), isFolder = info.isDir()] {
+    return documentsAt(path, isFolder);
+  };
 }
 
 }  // namespace tindra

@@ -22,6 +22,11 @@ class LocalCalendarFeed final : public CalendarFeed {
 
   void start() override;
 
+ protected:
+  // Read from the disk again rather than kept: it is at hand there, and perhaps newer.
+  bool holdsDocuments() const override { return true; }
+  Gather documentsAgain() override;
+
  private:
   void read();
   void watch();
