@@ -1,5 +1,8 @@
 #include "base/heap_tuning.h"
 
+// <cstdlib> first: __GLIBC__, which the tuning below depends on, is defined by the C library's
+// own headers, and is unknown before one of them.
+#include <cstdlib>
 #if defined(__GLIBC__)
 #include <malloc.h>
 #endif
