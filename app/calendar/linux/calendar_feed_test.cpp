@@ -24,12 +24,18 @@ ICalendarReadOptions windowFrom(double start) {
   return options;
 }
 
+CalendarSource source() {
+  CalendarSource source;
+  source.id = QStringLiteral("test");
+  source.name = QStringLiteral("Test");
+  return source;
+}
+
 // A feed handed its documents by the test, keeping their text as a file's or a fetched
 // calendar's feed does, or holding it itself as Evolution's does (`holds`).
 class HandedFeed final : public CalendarFeed {
  public:
-  explicit HandedFeed(bool holds)
-      : CalendarFeed({.id = "test", .name = "Test"}, windowFrom(monday)), holds_(holds) {}
+  explicit HandedFeed(bool holds) : CalendarFeed(source(), windowFrom(monday)), holds_(holds) {}
 
   void start() override {}
   void hand(std::vector<std::string> documents) {
