@@ -10,10 +10,12 @@
 #include <QQuickWindow>
 #include <QTextStream>
 #include <QTranslator>
+#include <chrono>
 #include <cstdio>
 #include <cstdlib>
 #include <string_view>
 
+#include "base/linux/idle_pages_release.h"
 #include "base/termination_signals.h"
 #include "demo_tour.h"
 #include "diagnostics/first_frame_report.h"
@@ -103,7 +105,14 @@ int main(int argc, char* argv[]) {
   tindra::reportNoticeLatencyIfAsked(tindra.activities());
   tindra::reportStallsIfAsked();
   tindra::reportKeyLatencyIfAsked(*tindra.providers().get<tindra::HudProvider>().viewModel());
-  if (!options.isSet(demo)) return QApplication::exec();
+  if (!options.isSet(demo)) {
+    // Most of the program's and the libraries' pages were touched only while starting; once the
+    // notch has drawn and the providers have had their first answers, they go back, and those
+    // an opened notch touched go back after it has drawn nothing for a quarter of an hour.
+    tindra::IdlePagesRelease idlePages(std::chrono::seconds(10), std::chrono::minutes(15));
+    idlePages.watchFrames();
+    return QApplication::exec();
+  }
 
   tindra::DemoTour tour(tindra, QDir(options.value(demo)));
   QObject::connect(&tour, &tindra::DemoTour::finished, &app, [](const QStringList& shots, bool ok) {
