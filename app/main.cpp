@@ -25,6 +25,7 @@
 #include "diagnostics/stall_report.h"
 #include "levels/level_command_source.h"
 #include "notch/display_platform.h"
+#include "notch/notch_screen_manager.h"
 #include "settings/settings_store.h"
 #include "shell/focus_command.h"
 #include "tindra_app.h"
@@ -111,6 +112,8 @@ int main(int argc, char* argv[]) {
     // an opened notch touched go back after it has drawn nothing for a quarter of an hour.
     tindra::IdlePagesRelease idlePages(std::chrono::seconds(10), std::chrono::minutes(15));
     idlePages.watchFrames();
+    QObject::connect(&tindra.notches(), &tindra::NotchScreenManager::windowsChanged, &idlePages,
+                     &tindra::IdlePagesRelease::watchFrames);
     return QApplication::exec();
   }
 

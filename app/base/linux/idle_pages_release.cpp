@@ -144,9 +144,10 @@ IdlePagesRelease::IdlePagesRelease(std::chrono::milliseconds settle,
 void IdlePagesRelease::watchFrames() {
   for (QWindow* window : QGuiApplication::topLevelWindows()) {
     if (auto* quick = qobject_cast<QQuickWindow*>(window)) {
-      // Queued: some render loops swap on a thread of their own.
+      // Queued: some render loops swap on a thread of their own. Unique: called again when
+      // windows come and go, for those already followed too.
       connect(quick, &QQuickWindow::frameSwapped, this, &IdlePagesRelease::framed,
-              Qt::QueuedConnection);
+              static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::UniqueConnection));
     }
   }
 }

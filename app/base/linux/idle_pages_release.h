@@ -42,7 +42,8 @@ class IdlePagesRelease final : public QObject {
                    QObject* parent = nullptr);
 
   // Follows the frames of the windows made so far: releases `settle` after the first one, then
-  // each time `quiet` has passed without a frame since one was drawn.
+  // each time `quiet` has passed without a frame since one was drawn. Call again when windows
+  // have been added.
   void watchFrames();
 
   // Drops the droppable pages of this process now.
