@@ -17,6 +17,7 @@
 #include <string_view>
 
 #include "base/heap_tuning.h"
+#include "base/linux/idle_pages_release.h"
 #include "base/termination_signals.h"
 #include "demo_tour.h"
 #include "diagnostics/first_frame_report.h"
@@ -26,6 +27,7 @@
 #include "diagnostics/stall_report.h"
 #include "levels/level_command_source.h"
 #include "notch/display_platform.h"
+#include "notch/notch_screen_manager.h"
 #include "settings/settings_store.h"
 #include "shell/focus_command.h"
 #include "tindra_app.h"
@@ -112,7 +114,16 @@ int main(int argc, char* argv[]) {
   // Start-up's temporaries (compiling the QML, the first layout, the first readings) are freed
   // by the time the notch has settled; what they leave in the heap goes back once.
   QTimer::singleShot(startupSettled, [] { tindra::giveBackFreedHeap(); });
-  if (!options.isSet(demo)) return QApplication::exec();
+  if (!options.isSet(demo)) {
+    // Most of the program's and the libraries' pages were touched only while starting; once the
+    // notch has drawn and the providers have had their first answers, they go back, and those
+    // an opened notch touched go back after it has drawn nothing for a quarter of an hour.
+    tindra::IdlePagesRelease idlePages(std::chrono::seconds(10), std::chrono::minutes(15));
+    idlePages.watchFrames();
+    QObject::connect(&tindra.notches(), &tindra::NotchScreenManager::windowsChanged, &idlePages,
+                     &tindra::IdlePagesRelease::watchFrames);
+    return QApplication::exec();
+  }
 
   tindra::DemoTour tour(tindra, QDir(options.value(demo)));
   QObject::connect(&tour, &tindra::DemoTour::finished, &app, [](const QStringList& shots, bool ok) {
