@@ -1,6 +1,8 @@
-"""Judges a soak run of Tindra from what scripts/soak wrote: samples.csv, the log, and whether
-Tindra was still running at the end. Prints a summary and the reasons for a failure.
-    soak_judge.py OUT_DIR MINUTES ALIVE(yes|no)
+"""Judges a soak run of Tindra from what scripts/soak wrote: samples.csv, the log, whether
+Tindra was still running at the end, how it ended on SIGTERM ("status N" or what happened
+instead) and how many of its helpers were left after that. Prints a summary and the reasons for
+a failure.
+    soak_judge.py OUT_DIR MINUTES ALIVE(yes|no) [ENDING HELPERS_LEFT]
 Exit status 1 when the run failed.
 
 Memory is judged by the slope of a least-squares line through the second half of the samples
@@ -89,11 +91,15 @@ def read_samples(path):
         return [{k: float(v) for k, v in row.items()} for row in csv.DictReader(f)]
 
 
-def judge(samples, minutes, alive, log_lines):
+def judge(samples, minutes, alive, log_lines, ending="status 0", helpers_left=0):
     """Summary lines and failure reasons for a run."""
     summary, failures = [], []
     if not alive:
         failures.append("Tindra crashed or exited during the run")
+    elif ending != "status 0":
+        failures.append(f"on SIGTERM Tindra ended with {ending}, not status 0")
+    if helpers_left:
+        failures.append(f"{helpers_left} tindra-mpris-adapter process(es) outlived Tindra")
     summary.append(f"samples: {len(samples)}")
     if len(samples) < 2:
         failures.append("fewer than two samples were taken")
@@ -138,9 +144,12 @@ def judge(samples, minutes, alive, log_lines):
 
 def main(argv):
     out, minutes, alive = argv[1], float(argv[2]), argv[3] == "yes"
+    ending = argv[4] if len(argv) > 4 else "status 0"
+    helpers_left = int(argv[5]) if len(argv) > 5 else 0
     with open(f"{out}/tindra.log", errors="replace") as f:
         log_lines = f.readlines()
-    summary, failures = judge(read_samples(f"{out}/samples.csv"), minutes, alive, log_lines)
+    summary, failures = judge(read_samples(f"{out}/samples.csv"), minutes, alive, log_lines,
+                              ending, helpers_left)
     print("\n".join(summary))
     for reason in failures:
         print(f"soak: {reason}", file=sys.stderr)

@@ -81,6 +81,15 @@ class GrowthTest(unittest.TestCase):
         found = failures(samples(20, helpers=lambda i: 2 if i == 7 else 1))
         self.assertEqual(found, ["2 tindra-mpris-adapter processes ran at once"])
 
+    def test_an_unclean_end_or_a_helper_left_fails_but_a_crash_is_told_once(self):
+        rows = samples(20)
+        self.assertEqual(soak_judge.judge(rows, 60, True, [], "status 143")[1],
+                         ["on SIGTERM Tindra ended with status 143, not status 0"])
+        self.assertEqual(soak_judge.judge(rows, 60, True, [], "status 0", 1)[1],
+                         ["1 tindra-mpris-adapter process(es) outlived Tindra"])
+        self.assertEqual(soak_judge.judge(rows, 60, False, [], "status 139")[1],
+                         ["Tindra crashed or exited during the run"])
+
     def test_a_run_without_samples_or_with_tindra_gone_fails(self):
         self.assertIn("fewer than two samples were taken", failures([]))
         self.assertIn("Tindra crashed or exited during the run", failures(samples(20), alive=False))
