@@ -1,7 +1,8 @@
 # Tindra's commands. `make test` is what CI runs on a fresh machine.
-.PHONY: deps build test test-default test-asan fuzz-smoke run bench fuzz format tidy clean install package
+.PHONY: deps build test test-default test-asan fuzz-smoke run bench fuzz soak format tidy clean install package
 
 FUZZ_SECONDS ?= 5
+MINUTES ?= 60
 
 deps:
 	scripts/install-deps
@@ -42,6 +43,10 @@ fuzz: deps
 	cmake --preset fuzz
 	cmake --build --preset fuzz
 	scripts/fuzz-run $(or $(SECONDS),300)
+
+# Tindra under churn for MINUTES minutes; results in build/soak/<UTC time>/.
+soak: build
+	scripts/soak --minutes $(MINUTES)
 
 format:
 	git ls-files '*.cpp' '*.h' | xargs clang-format -i
