@@ -122,6 +122,37 @@ TEST_F(NowPlayingProviderTest, CommandsReachTheSourceOnlyWhenThePlayerCanCarryTh
   EXPECT_EQ(source_->commands()[2], NowPlayingCommand::setShuffle(ShuffleMode::tracks));
 }
 
+// Diagnostics tells of players, not tracks: a player that leaves, one that comes, one that takes
+// over from another, and none of the tracks in between.
+TEST_F(NowPlayingProviderTest, DiagnosticsTellWhichPlayerIsFollowedAndWhenItLeaves) {
+  makeProvider(std::nullopt);
+  provider_->start();
+  const auto told = [this] {
+    QStringList lines;
+    for (const auto& entry : diagnostics_.entries()) {
+      if (entry.text.english().contains("follow") || entry.text.english().contains("left")) {
+        lines << entry.text.english();
+      }
+    }
+    return lines;
+  };
+  source_->report(std::nullopt);
+  const qsizetype before = told().size();
+  NowPlayingSnapshot mpv = FakeNowPlayingSource::track(1, now);
+  mpv.bundleIdentifier = "mpv";
+  source_->report(mpv);
+  mpv.title = "Another Track";
+  mpv.isPlaying = false;
+  source_->report(mpv);
+  NowPlayingSnapshot nameless = FakeNowPlayingSource::track(2, now);
+  nameless.bundleIdentifier.reset();
+  source_->report(nameless);
+  source_->report(std::nullopt);
+  source_->report(std::nullopt);
+  EXPECT_EQ(told().mid(before), (QStringList{"following mpv", "following a player without a name",
+                                             "a player without a name left: nothing is playing"}));
+}
+
 TEST_F(NowPlayingProviderTest, DraggingTheBarShowsTheKnobThereAndLettingGoSeeks) {
   makeProvider(std::nullopt);
   provider_->start();
