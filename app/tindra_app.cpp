@@ -6,6 +6,7 @@
 #include "base/settings_file_watcher.h"
 #include "base/wall_clock.h"
 #include "media/adapter_check.h"
+#include "notch/display_change_log.h"
 #include "notch/display_platform.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/notch_window.h"
@@ -29,7 +30,8 @@ TindraApp::TindraApp(Options options, QObject* parent)
       diagnostics_(std::make_unique<DiagnosticsLog>()),
       shell_(std::make_unique<ShellActions>(*settings_, *diagnostics_, views_)),
       tray_(std::make_unique<TrayItem>(*settings_, *shell_)),
-      screens_(makePlatformScreenSource()) {
+      screens_(makePlatformScreenSource()),
+      displayChanges_(std::make_unique<DisplayChangeLog>(*screens_, *diagnostics_)) {
   shell_->setDisplays(screens_.get());
   startProviders();
   offerProvidersToShell();

@@ -17,6 +17,7 @@ namespace tindra {
 class ActivityCenter;
 class AdapterCheck;
 class DiagnosticsLog;
+class DisplayChangeLog;
 class NotchContent;
 class OnboardingWindow;
 class NotchScreenManager;
@@ -74,6 +75,7 @@ class TindraApp : public QObject {
   std::unique_ptr<TrayItem> tray_;
   std::unique_ptr<NotchContent> content_;
   std::unique_ptr<ScreenSource> screens_;
+  std::unique_ptr<DisplayChangeLog> displayChanges_;
   std::unique_ptr<NotchScreenManager> notches_;
   std::unique_ptr<VisibilityMonitor> visibility_;
   std::unique_ptr<OnboardingWindow> onboarding_;

@@ -9,6 +9,8 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
+#include <csignal>
+#include <random>
 
 #include "base/activity_center.h"
 #include "base/diagnostics_log.h"
@@ -19,6 +21,7 @@
 #include "levels/linux/x11_media_key_source.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
@@ -65,6 +68,11 @@ class HudProviderDesktopTest : public ::testing::Test {
     if (!logind_->start(&error)) logind_.reset();
   }
   static void TearDownTestSuite() {
+    if (soundServer_) {
+      soundServer_->kill();
+      soundServer_->waitForFinished(5000);
+      soundServer_.reset();
+    }
     logind_.reset();
     folder_.reset();
   }
@@ -75,12 +83,14 @@ class HudProviderDesktopTest : public ::testing::Test {
     pactl({"set-default-sink", "tindra_test"});
     pactl({"set-sink-volume", "tindra_test", "50%"});
     pactl({"set-sink-mute", "tindra_test", "0"});
+    auto volume = std::make_unique<PulseVolumeBackend>();
+    volume_ = volume.get();
     auto keys = std::make_unique<X11MediaKeySource>();
     keys_ = keys.get();
     provider_ = std::make_unique<HudProvider>(
         ProviderContext{activities_, settings_, diagnostics_},
         HudBackends{
-            std::make_unique<PulseVolumeBackend>(),
+            std::move(volume),
             std::make_unique<SysfsBacklightBackend>(folder_->path(), QDBusConnection::systemBus()),
             std::make_unique<UPowerKeyboardBacklightBackend>(QDBusConnection::systemBus()),
             std::move(keys)});
@@ -99,11 +109,14 @@ class HudProviderDesktopTest : public ::testing::Test {
 
   static inline std::unique_ptr<QTemporaryDir> folder_;
   static inline std::unique_ptr<DBusMockService> logind_;
+  // The sound server the test started in place of the session's, once that one was killed.
+  static inline std::unique_ptr<QProcess> soundServer_;
   QTemporaryDir dir_;
   SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
   ActivityCenter activities_{settings_};
   DiagnosticsLog diagnostics_;
   X11MediaKeySource* keys_ = nullptr;
+  PulseVolumeBackend* volume_ = nullptr;
   std::unique_ptr<HudProvider> provider_;
 };
 
@@ -151,6 +164,64 @@ TEST_F(HudProviderDesktopTest, BrightnessKeysWriteThroughLogind) {
   }));
   EXPECT_EQ(view().kind(), "brightness");
   EXPECT_EQ(view().percent(), 56);
+}
+
+// The session's sound server is killed and replaced by one of the test's own, which the test
+// kills in turn; the level shown must follow each new server, not what the last one said.
+TEST_F(HudProviderDesktopTest, FollowsTheSoundServerBackAfterEveryCrash) {
+  std::unique_ptr<QProcess>& server = soundServer_;
+  std::mt19937 random(std::random_device{}());
+  int percent = 50;
+  bool muted = false;
+  const auto serverProcess = [&]() -> qint64 {
+    if (server) return server->processId();
+    QFile file(qEnvironmentVariable("XDG_RUNTIME_DIR") + "/pulse/pid");
+    return file.open(QIODevice::ReadOnly) ? file.readAll().trimmed().toLongLong() : 0;
+  };
+  RestartDrillSteps steps;
+  steps.kill = [&] {
+    const qint64 pid = serverProcess();
+    if (pid <= 0 || ::kill(static_cast<pid_t>(pid), SIGKILL) != 0) return false;
+    if (server) server->waitForFinished(2000);
+    return true;
+  };
+  steps.showsGone = [&] { return !provider_->keyContext().volumeControllable; };
+  steps.restart = [&] {
+    server = std::make_unique<QProcess>();
+    server->start("pulseaudio", {"--daemonize=no", "-n", "--exit-idle-time=-1",
+                                 "--load=module-native-protocol-unix",
+                                 "--load=module-null-sink sink_name=tindra_test",
+                                 "--load=module-null-sink sink_name=second"});
+    if (!QTest::qWaitFor([] { return !pactl({"info"}).isEmpty(); }, 5000)) return false;
+    // A fresh level and mute, so that only a reading of the new server matches.
+    percent = std::uniform_int_distribution<int>(0, 100)(random);
+    if (percent == 50) percent = 51;
+    muted = !muted;
+    pactl({"set-default-sink", "tindra_test"});
+    pactl({"set-sink-volume", "tindra_test", QString::number(percent) + "%"});
+    pactl({"set-sink-mute", "tindra_test", muted ? "1" : "0"});
+    return true;
+  };
+  steps.rightState = [&] {
+    const auto& reading = volume_->reading();
+    return provider_->keyContext().volumeControllable && reading &&
+           reading->output == "tindra_test" && std::lround(reading->level * 100) == percent &&
+           reading->muted == muted;
+  };
+  const RestartDrillReport report = runRestartDrill("sound server", steps);
+  EXPECT_EQ(report.failure, QString()) << report.failure.toStdString();
+  EXPECT_EQ(report.restarts, 20);
+
+  // Diagnostics told each loss and the return.
+  int wentAway = 0;
+  QString last;
+  for (const auto& entry : diagnostics_.entries()) {
+    if (entry.source != "volume") continue;
+    last = entry.text.english();
+    if (last.contains("went away")) ++wentAway;
+  }
+  EXPECT_EQ(wentAway, 20);
+  EXPECT_TRUE(last.contains("following the sound server's default output")) << last.toStdString();
 }
 
 // Runs last: it leaves the server without outputs.

@@ -1,7 +1,8 @@
 // Runs in: private-session --xvfb
 // The media section against a real player on the session bus: python3-dbusmock's MPRIS player,
 // read by the real tindra-mpris-adapter, whose covers are fetched over HTTP from a loopback
-// server standing in for Spotify's image host and the catalogue.
+// server standing in for Spotify's image host and the catalogue; and mpv, crashing again and
+// again.
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -18,13 +19,16 @@
 #include "base/diagnostics_log.h"
 #include "media/adapter_now_playing_source.h"
 #include "media/now_playing_provider.h"
+#include "media/offline_artwork_fetcher.h"
 #include "media/platform_adapter_launch.h"
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
 #include "testing/host_redirecting_artwork_fetcher.h"
 #include "testing/loopback_http_server.h"
+#include "testing/mpv_player.h"
 #include "testing/picture_checks.h"
+#include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 #include "testing/view_shot.h"
 
@@ -194,6 +198,58 @@ TEST_F(NowPlayingDesktopTest, ControlsFollowWhatThePlayerSaysItCanDo) {
   }
   ASSERT_TRUE(
       waitFor([] { return view().hasControls() && view().canGoNext() && view().canSeek(); }));
+}
+
+// A player killed at random moments and started again on another track: each time the section
+// shows the new track playing, never the dead player's last one.
+TEST(NowPlayingRecoveryTest, FollowsThePlayerBackAfterEveryCrash) {
+  if (const QString missing = MpvPlayer::missing(); !missing.isEmpty()) {
+    SKIP_OR_FAIL_ON_CI(missing.toStdString());
+  }
+  QTemporaryDir dir;
+  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
+  ActivityCenter activities(settings);
+  DiagnosticsLog diagnostics;
+  const AdapterLaunch launch = platformAdapterLaunch();
+  NowPlayingProvider provider(
+      ProviderContext{activities, settings, diagnostics},
+      [launch] { return std::make_unique<AdapterNowPlayingSource>(launch); },
+      std::make_unique<AdapterProbe>(launch), std::make_unique<OfflineArtworkFetcher>());
+  provider.start();
+  const NowPlayingViewModel& view = *provider.viewModel();
+
+  int round = 0;
+  QString track = "take00";
+  // Tones of a few seconds: each player lives for a moment, and a short one is quick to make.
+  constexpr int seconds = 10;
+  auto player = std::make_unique<MpvPlayer>(QStringList{track}, seconds);
+  ASSERT_TRUE(player->onBus());
+  ASSERT_TRUE(waitFor([&] { return view.title().startsWith(track) && view.playing(); }));
+
+  RestartDrillSteps steps;
+  steps.kill = [&] {
+    player->kill();
+    return true;
+  };
+  steps.showsGone = [&] { return !view.hasTrack(); };
+  steps.restart = [&] {
+    track = QStringLiteral("take%1").arg(++round, 2, 10, QLatin1Char('0'));
+    player = std::make_unique<MpvPlayer>(QStringList{track}, seconds);
+    return player->onBus();
+  };
+  steps.rightState = [&] { return view.title().startsWith(track) && view.playing(); };
+  const RestartDrillReport report = runRestartDrill("MPRIS player", steps);
+  EXPECT_EQ(report.failure, QString()) << report.failure.toStdString();
+  EXPECT_EQ(report.restarts, 20);
+
+  int left = 0;
+  QString last;
+  for (const auto& entry : diagnostics.entries()) {
+    last = entry.text.english();
+    if (last.contains("left")) ++left;
+  }
+  EXPECT_EQ(left, 20);
+  EXPECT_TRUE(last.contains("following mpv")) << last.toStdString();
 }
 
 }  // namespace

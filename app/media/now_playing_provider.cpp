@@ -124,11 +124,25 @@ void NowPlayingProvider::show(const std::optional<NowPlayingSnapshot>& snapshot)
   if (snapshot && (!viewModel_.snapshot() || viewModel_.snapshot()->title != snapshot->title)) {
     qCDebug(lcNowPlaying).noquote() << "now playing:" << QString::fromStdString(snapshot->title);
   }
+  recordPlayer(snapshot);
   viewModel_.setSnapshot(snapshot);
   artwork_.show(snapshot);
   spectrum_.setTarget(snapshot ? std::optional(spectrumTarget(*snapshot)) : std::nullopt,
                       snapshot && snapshot->isPlaying);
   if (event) activities().offer(*event);
+}
+
+void NowPlayingProvider::recordPlayer(const std::optional<NowPlayingSnapshot>& snapshot) {
+  std::optional<QString> player;
+  if (snapshot) player = QString::fromStdString(snapshot->bundleIdentifier.value_or(""));
+  if (player == player_) return;
+  const QString& named = player ? *player : *player_;
+  const Sentence who = named.isEmpty() ? Sentence(QT_TR_NOOP("a player without a name"), tr)
+                                       : Sentence::verbatim(named);
+  diagnostics().record(lcNowPlaying(), name(), DiagnosticsLog::Outcome::ok,
+                       player ? Sentence(QT_TR_NOOP("following %1"), tr).arg(who)
+                              : Sentence(QT_TR_NOOP("%1 left: nothing is playing"), tr).arg(who));
+  player_ = player;
 }
 
 void NowPlayingProvider::swiped(SwipeDirection direction) {

@@ -62,6 +62,8 @@ class NowPlayingProvider final : public Provider {
   void startSource();
   void dropSource();
   void show(const std::optional<NowPlayingSnapshot>& snapshot);
+  // Says in Diagnostics when the player followed leaves or another one is followed.
+  void recordPlayer(const std::optional<NowPlayingSnapshot>& snapshot);
   void send(const NowPlayingCommand& command);
   void showCover();
 
@@ -75,6 +77,8 @@ class NowPlayingProvider final : public Provider {
   SettingsObservation tintSetting_;
   NowPlayingViewModel viewModel_;
   bool wasPlaying_ = false;
+  // The player whose state is shown, by its desktop entry (empty for one that names none).
+  std::optional<QString> player_;
 };
 
 }  // namespace tindra

@@ -122,6 +122,37 @@ TEST_F(NowPlayingProviderTest, CommandsReachTheSourceOnlyWhenThePlayerCanCarryTh
   EXPECT_EQ(source_->commands()[2], NowPlayingCommand::setShuffle(ShuffleMode::tracks));
 }
 
+// Diagnostics tells of players, not tracks: a player that leaves, one that comes, one that takes
+// over from another, and none of the tracks in between.
+TEST_F(NowPlayingProviderTest, DiagnosticsTellWhichPlayerIsFollowedAndWhenItLeaves) {
+  makeProvider(std::nullopt);
+  provider_->start();
+  const auto told = [this] {
+    QStringList lines;
+    for (const auto& entry : diagnostics_.entries()) {
+      if (entry.text.english().contains("follow") || entry.text.english().contains("left")) {
+        lines << entry.text.english();
+      }
+    }
+    return lines;
+  };
+  source_->report(std::nullopt);
+  const qsizetype before = told().size();
+  NowPlayingSnapshot mpv = FakeNowPlayingSource::track(1, now);
+  mpv.bundleIdentifier = "mpv";
+  source_->report(mpv);
+  mpv.title = "Another Track";
+  mpv.isPlaying = false;
+  source_->report(mpv);
+  NowPlayingSnapshot nameless = FakeNowPlayingSource::track(2, now);
+  nameless.bundleIdentifier.reset();
+  source_->report(nameless);
+  source_->report(std::nullopt);
+  source_->report(std::nullopt);
+  EXPECT_EQ(told().mid(before), (QStringList{"following mpv", "following a player without a name",
+                                             "a player without a name left: nothing is playing"}));
+}
+
 TEST_F(NowPlayingProviderTest, DraggingTheBarShowsTheKnobThereAndLettingGoSeeks) {
   makeProvider(std::nullopt);
   provider_->start();
@@ -143,21 +174,23 @@ TEST_F(NowPlayingProviderTest, TheSourceRunsOnlyWhileTheAdapterPassesItsSelfTest
   makeProvider(QStringLiteral("[ -e '%1' ] && exit 3; exit 0").arg(flag));
   start();
   ASSERT_EQ(sourcesMade_, 1);
-  // The test's result, then the source's own check.
-  ASSERT_EQ(diagnostics_.entries().size(), 3);
+  // The test's result, the source's own check, then the player it follows.
+  ASSERT_EQ(diagnostics_.entries().size(), 4);
   EXPECT_EQ(diagnostics_.entries()[1].outcome, DiagnosticsLog::Outcome::ok);
   EXPECT_TRUE(diagnostics_.entries()[2].text.english().contains("invented track"));
+  EXPECT_EQ(diagnostics_.entries()[3].text.english(), "following tindra-demo");
   EXPECT_EQ(activities_.current(), ActivityKind::nowPlaying);
 
   // Repeated failures bring a retest; passing keeps the source, failing drops it.
   emit source_->repeatedFailure();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 4; }, 5000));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 5; }, 5000));
   EXPECT_TRUE(provider_->hasSource());
   QFile(flag).open(QIODevice::WriteOnly);
   emit source_->repeatedFailure();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 5; }, 5000));
-  EXPECT_EQ(lastOutcome(), DiagnosticsLog::Outcome::failed);
-  EXPECT_TRUE(diagnostics_.entries().back().text.english().contains("exit status 3"));
+  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 7; }, 5000));
+  EXPECT_EQ(diagnostics_.entries()[5].outcome, DiagnosticsLog::Outcome::failed);
+  EXPECT_TRUE(diagnostics_.entries()[5].text.english().contains("exit status 3"));
+  EXPECT_EQ(diagnostics_.entries()[6].text.english(), "tindra-demo left: nothing is playing");
   EXPECT_FALSE(provider_->hasSource());
   EXPECT_EQ(activities_.current(), ActivityKind::idle);
   EXPECT_EQ(sourcesMade_, 1);

@@ -1,6 +1,7 @@
 // Runs in: private-session --xvfb
 // The notch on real X displays (Xvfb): drawn where its geometry says, closed and opened, cut out
-// around its outline so the desktop shows through, and opened by the pointer resting on it.
+// around its outline so the desktop shows through, opened by the pointer resting on it, and
+// following a RandR monitor that comes and goes.
 #include "notch/notch_window.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include <QImage>
 #include <QMimeData>
 #include <QPainter>
+#include <QProcess>
 #include <QQuickItem>
 #include <QScreen>
 #include <QTemporaryDir>
@@ -18,13 +20,18 @@
 #include <QWidget>
 #include <cstring>
 #include <functional>
+#include <random>
 
 #include "base/activity_center.h"
+#include "base/diagnostics_log.h"
+#include "notch/display_change_log.h"
 #include "notch/notch_screen_manager.h"
 #include "notch/screen_source_factory.h"
 #include "settings/settings_keys.h"
 #include "testing/notch_displays.h"
+#include "testing/restart_drill.h"
 #include "testing/sample_view_models.h"
+#include "testing/skip_or_fail_on_ci.h"
 #include "testing/view_shot.h"
 #include "testing/xdotool.h"
 #include "views/notch_content.h"
@@ -302,6 +309,63 @@ TEST(NotchWindowOnDisplayTest, StretchesWhilePulledAndOpensForAFileDragInAnyMode
   QDragLeaveEvent leave;
   QCoreApplication::sendEvent(&window, &leave);
   EXPECT_TRUE(QTest::qWaitFor([&] { return !window.isExpanded(); }, 3000));
+}
+
+// A second monitor unplugged and plugged in again (a RandR monitor removed and added beside the
+// first, each time of another width): each time there is one notch per display again, at the top
+// of the monitor as it is now.
+TEST(NotchWindowOnDisplayTest, FollowsAMonitorUnpluggedAndPluggedInAgain) {
+  const auto xrandr = [](const QStringList& arguments) {
+    return QProcess::execute("xrandr", arguments) == 0;
+  };
+  std::mt19937 random(std::random_device{}());
+  QRect second(1920, 0, 1280, 800);
+  const auto plugIn = [&] {
+    return xrandr({"--setmonitor", "RIGHT",
+                   QStringLiteral("%1/300x%2/200+%3+0")
+                       .arg(second.width())
+                       .arg(second.height())
+                       .arg(second.x()),
+                   "none"});
+  };
+  if (!plugIn()) SKIP_OR_FAIL_ON_CI("xrandr cannot add a monitor to this X server");
+  Displays displays;
+  DiagnosticsLog diagnostics;
+  DisplayChangeLog changes(*displays.screens_, diagnostics);
+  const auto notchesRight = [&] {
+    const auto windows = displays.manager_->windows();
+    if (windows.size() != 2 || QGuiApplication::screens().size() != 2) return false;
+    for (NotchWindow* window : windows) {
+      const QRect screen = window->screen()->geometry();
+      if (window->screen()->name() == "RIGHT" && screen != second) return false;
+      const QRect notch(screen.center().x() + 1 - 95, screen.top(), 190, 24);
+      if (window->notchRect().translated(window->geometry().topLeft()).toRect() != notch ||
+          !screen.contains(window->geometry())) {
+        return false;
+      }
+    }
+    return windows[0]->screen() != windows[1]->screen();
+  };
+  ASSERT_TRUE(QTest::qWaitFor(notchesRight, 2000));
+
+  RestartDrillSteps steps;
+  steps.kill = [&] { return xrandr({"--delmonitor", "RIGHT"}); };
+  steps.showsGone = [&] { return displays.manager_->windows().size() == 1; };
+  steps.restart = [&] {
+    second.setWidth(std::uniform_int_distribution<int>(800, 1600)(random));
+    return plugIn();
+  };
+  steps.rightState = notchesRight;
+  const RestartDrillReport report = runRestartDrill("RandR monitor", steps);
+  EXPECT_EQ(report.failure, QString()) << report.failure.toStdString();
+  EXPECT_EQ(report.restarts, 20);
+  xrandr({"--delmonitor", "RIGHT"});
+  EXPECT_TRUE(QTest::qWaitFor([&] { return displays.manager_->windows().size() == 1; }, 2000));
+
+  QStringList told;
+  for (const auto& entry : diagnostics.entries()) told << entry.text.english();
+  EXPECT_EQ(told.filter("display RIGHT went away").size(), 21) << told.join('\n').toStdString();
+  EXPECT_EQ(told.filter("display RIGHT is connected").size(), 20);
 }
 
 }  // namespace

@@ -70,11 +70,7 @@ bool EvolutionDataServer::start(QString* error) {
     *error = QStringLiteral("the bus refuses the environment: ") + updated.errorMessage();
     return false;
   }
-  if (!startRegistry(error) ||
-      !startService(factory_, QStringLiteral("/usr/libexec/evolution-calendar-factory"),
-                    factoryName, error)) {
-    return false;
-  }
+  if (!startRegistry(error) || !startFactory(error)) return false;
   client_.start(QStringLiteral("/usr/bin/python3"),
                 {QStringLiteral(TINDRA_SOURCE_DIR "/app/testing/evolution_calendars.py")});
   const QJsonObject ready = command({});
@@ -125,6 +121,26 @@ bool EvolutionDataServer::kill(QProcess& process, const QString& name) {
 bool EvolutionDataServer::startRegistry(QString* error) {
   return startService(registry_, QStringLiteral("/usr/libexec/evolution-source-registry"),
                       registryName, error);
+}
+
+bool EvolutionDataServer::startThroughBus(QString* error) {
+  for (const QString& name : {registryName, factoryName}) {
+    QDBusMessage start = QDBusMessage::createMethodCall(
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("/org/freedesktop/DBus"),
+        QStringLiteral("org.freedesktop.DBus"), QStringLiteral("StartServiceByName"));
+    start << name << 0u;
+    const QDBusMessage started = bus_.call(start, QDBus::Block, 20000);
+    if (started.type() == QDBusMessage::ErrorMessage) {
+      *error = name + QStringLiteral(" did not start: ") + started.errorMessage();
+      return false;
+    }
+  }
+  return true;
+}
+
+bool EvolutionDataServer::startFactory(QString* error) {
+  return startService(factory_, QStringLiteral("/usr/libexec/evolution-calendar-factory"),
+                      factoryName, error);
 }
 
 // The first call (an empty request) only reads the client's greeting.

@@ -25,6 +25,9 @@ class EvolutionDataServer {
   bool startRegistry(QString* error);
   // Kills the calendar factory, and waits until its name has left the bus or has a new owner.
   bool killFactory();
+  // Starts the registry and the calendar factory as a desktop does, through the bus, which starts
+  // one of each however many ask; false with a reason when one does not come.
+  bool startThroughBus(QString* error);
 
   // One command of evolution_calendars.py; its answer, with "error" when it failed.
   QJsonObject command(const QJsonObject& request);
@@ -34,6 +37,7 @@ class EvolutionDataServer {
  private:
   bool kill(QProcess& process, const QString& name);
   bool startService(QProcess& process, const QString& program, const QString& name, QString* error);
+  bool startFactory(QString* error);
   bool nameOnBus(const QString& name) const;
   QString ownerOf(const QString& name) const;
   qint64 processOf(const QString& owner) const;

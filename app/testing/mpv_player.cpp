@@ -23,7 +23,7 @@ QString MpvPlayer::missing() {
   return {};
 }
 
-MpvPlayer::MpvPlayer(const QStringList& tracks) {
+MpvPlayer::MpvPlayer(const QStringList& tracks, int seconds) {
   QStringList arguments{QStringLiteral("--no-config"), QStringLiteral("--script=") + mprisPlugin,
                         qEnvironmentVariableIsSet("TINDRA_SOUND_SERVER")
                             ? QStringLiteral("--ao=pulse")
@@ -32,8 +32,9 @@ MpvPlayer::MpvPlayer(const QStringList& tracks) {
   int pitch = 440;
   for (const QString& track : tracks) {
     const QString file = folder_.filePath(track + QStringLiteral(".wav"));
-    QProcess::execute(QStringLiteral("sox"), {"-n", "-r", "8000", "-c", "1", file, "synth", "60",
-                                              "sine", QString::number(pitch)});
+    QProcess::execute(QStringLiteral("sox"),
+                      {"-n", "-r", "8000", "-c", "1", file, "synth", QString::number(seconds),
+                       "sine", QString::number(pitch)});
     pitch += 220;
     arguments << file;
   }
@@ -44,6 +45,11 @@ MpvPlayer::MpvPlayer(const QStringList& tracks) {
             QStringLiteral("org.mpris.MediaPlayer2.mpv"));
       },
       10000);
+}
+
+void MpvPlayer::kill() {
+  process_.kill();
+  process_.waitForFinished(5000);
 }
 
 MpvPlayer::~MpvPlayer() {

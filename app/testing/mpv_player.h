@@ -15,13 +15,15 @@ class MpvPlayer {
   // What is missing to play, or empty.
   static QString missing();
 
-  // Starts playing a tone a minute long for each name ("first", "second", ...) and waits until
+  // Starts playing a tone `seconds` long for each name ("first", "second", ...) and waits until
   // the player is on the bus.
-  explicit MpvPlayer(const QStringList& tracks);
+  explicit MpvPlayer(const QStringList& tracks, int seconds = 60);
   ~MpvPlayer();
 
   bool onBus() const { return onBus_; }
   qint64 processId() const { return process_.processId(); }
+  // Ends the player abruptly (SIGKILL, as a crash would) and waits until it is gone.
+  void kill();
 
  private:
   QTemporaryDir folder_;

@@ -11,6 +11,7 @@
 
 #include "calendar/linux/icalendar_backend.h"
 #include "testing/evolution_data_server.h"
+#include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
@@ -245,6 +246,64 @@ TEST_F(EdsCalendarFeedTest, ComesBackAfterTheRegistryOrTheFactoryIsKilled) {
   do_({{"do", "reconnect"}});
   remove("work", "later");
   EXPECT_TRUE(waitFor([] { return events("eds:work", "later").empty(); }));
+}
+
+// Evolution Data Server crashing as a whole, again and again: each time it is back, an event
+// added since shows, which only a calendar read anew can know of.
+// Off for now: within a few rounds the feed, open and complete on the new factory, still lacks
+// the event the client added there (the calendar's file has it), and stays so; to be found.
+TEST_F(EdsCalendarFeedTest, DISABLED_FollowsEvolutionDataServerBackAfterEveryCrash) {
+  ASSERT_TRUE(waitFor([] { return listed("eds:work"); }));
+  add("work", event("before", "DTSTART:20261028T090000Z"));
+  ASSERT_TRUE(waitFor([] { return events("eds:work", "before").size() == 1; }));
+  QStringList checks;
+  QObject::connect(backend_.get(), &CalendarBackend::checkChanged, backend_.get(),
+                   [&] { checks << backend_->check().text.english(); });
+
+  int round = 0;
+  const auto latest = [&] { return "round" + std::to_string(round); };
+  RestartDrillSteps steps;
+  steps.kill = [] { return eds_->killFactory() && eds_->killRegistry(); };
+  steps.showsGone = [] {
+    const auto work = calendar("eds:work");
+    return work && work->source.state.outcome != DiagnosticsLog::Outcome::ok;
+  };
+  steps.restart = [&] {
+    QString error;
+    if (!eds_->startThroughBus(&error)) {
+      ADD_FAILURE() << error.toStdString();
+      return false;
+    }
+    ++round;
+    // The client library may still hold the dead factory's name: it is asked again, anew.
+    QJsonObject added;
+    for (int attempt = 0; attempt < 3 && !added.value("ok").toBool(); ++attempt) {
+      eds_->command({{"do", "reconnect"}});
+      added = eds_->command(
+          {{"do", "add"},
+           {"calendar", "work"},
+           {"ics", event(QString::fromStdString(latest()), "DTSTART:20261029T090000Z")}});
+    }
+    EXPECT_TRUE(added.value("ok").toBool()) << added.value("error").toString().toStdString();
+    return added.value("ok").toBool();
+  };
+  steps.rightState = [&] {
+    const auto work = calendar("eds:work");
+    return work && work->source.state.outcome == DiagnosticsLog::Outcome::ok &&
+           backend_->check().outcome == DiagnosticsLog::Outcome::ok &&
+           events("eds:work", latest()).size() == 1 && events("eds:work", "before").size() == 1;
+  };
+  const RestartDrillReport report = runRestartDrill("Evolution Data Server", steps);
+  EXPECT_EQ(report.failure, QString())
+      << report.failure.toStdString() << "; " << backend_->check().text.english().toStdString()
+      << "; " << events("eds:work", latest()).size() << " of the last event";
+  EXPECT_EQ(report.restarts, 20);
+  QObject::disconnect(backend_.get(), &CalendarBackend::checkChanged, backend_.get(), nullptr);
+
+  // What Diagnostics shows of the calendar told of each crash, and of the return.
+  EXPECT_GE(checks.filter("went away").size(), 20) << checks.join('\n').toStdString();
+  ASSERT_FALSE(checks.isEmpty());
+  EXPECT_FALSE(checks.last().contains("went away")) << checks.last().toStdString();
 }
 
 TEST(EdsCalendarFeedTexts, ReadsKeysZonesAndQueriesFromComponents) {
