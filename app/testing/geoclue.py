@@ -1,8 +1,9 @@
 """GeoClue 2 (org.freedesktop.GeoClue2) for python3-dbusmock (`--template`): a manager that hands
 out one client, and a client that, once started with a desktop id, reports the position set
 through the mock method SetLocation(latitude, longitude, accuracy) as a new Location object and
-LocationUpdated. SetRefuse(true) makes Start fail the way GeoClue does when the user's agent
-denies the program.
+LocationUpdated. A position set before the client has started is reported when it starts, as
+GeoClue reports the fix it has to a client that starts after it found one. SetRefuse(true) makes
+Start fail the way GeoClue does when the user's agent denies the program.
 """
 
 import dbus
@@ -17,7 +18,7 @@ CLIENT_PATH = "/org/freedesktop/GeoClue2/Client/1"
 CLIENT_IFACE = "org.freedesktop.GeoClue2.Client"
 LOCATION_IFACE = "org.freedesktop.GeoClue2.Location"
 
-state = {"locations": 0, "refuse": False, "started": False}
+state = {"locations": 0, "refuse": False, "started": False, "pending": None}
 
 
 def load(mock, _parameters):
@@ -59,6 +60,9 @@ def StartClient(self):
                                             name="org.freedesktop.DBus.Error.AccessDenied")
     client.Set(CLIENT_IFACE, "Active", dbus.Boolean(True))
     state["started"] = True
+    if state["pending"]:
+        self.SetLocation(*state["pending"])
+        state["pending"] = None
 
 
 @dbus.service.method(MOCK_IFACE, in_signature="b", out_signature="")
@@ -68,6 +72,9 @@ def SetRefuse(_self, refuse):
 
 @dbus.service.method(MOCK_IFACE, in_signature="ddd", out_signature="")
 def SetLocation(self, latitude, longitude, accuracy):
+    if not state["started"]:
+        state["pending"] = (latitude, longitude, accuracy)
+        return
     client = dbusmock_objects()[CLIENT_PATH]
     old = client.Get(CLIENT_IFACE, "Location")
     state["locations"] += 1

@@ -27,6 +27,7 @@
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
@@ -70,6 +71,22 @@ quint32 pythonNotify(const QString& app, const QString& summary, const QString& 
   return run(QStringLiteral("/usr/bin/python3"),
              {"-c", script, app, summary, body, category, desktopEntry})
       .toUInt();
+}
+
+// A chat message sent from this process, without waiting for the server's answer.
+void sendMessage(const QString& body) {
+  QDBusMessage notify =
+      QDBusMessage::createMethodCall("org.freedesktop.Notifications", notificationsPath,
+                                     "org.freedesktop.Notifications", "Notify");
+  notify << "Chat" << 0u << QString() << "Ana" << body << QStringList()
+         << QVariantMap{{"category", "im.received"}} << -1;
+  QDBusConnection::sessionBus().asyncCall(notify);
+}
+
+qsizetype entriesSaying(const DiagnosticsLog& diagnostics, const QString& text) {
+  return std::ranges::count_if(diagnostics.entries(), [&](const DiagnosticsLog::Entry& entry) {
+    return entry.text.english().contains(text);
+  });
 }
 
 void closeNotification(quint32 id) {
@@ -260,6 +277,65 @@ TEST_F(DesktopNotificationsTest, AServerThatGoesAndComesBackIsFollowed) {
   EXPECT_TRUE(waitFor([&] { return notified.count() == 1; }));
 }
 
+// The server crashing at random moments, with a message shown or while the monitor is still
+// being attached: after each return a message sent to the new server reaches the notch.
+TEST_F(DesktopNotificationsTest, MessagesReachTheNotchAgainAfterEachOfManyServerCrashes) {
+  QTemporaryDir dir;
+  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
+  ActivityCenter activities(settings);
+  DiagnosticsLog diagnostics;
+  const ProviderContext context{activities, settings, diagnostics};
+  auto owned = std::make_unique<DBusNotificationMonitor>(QDBusConnection::sessionBus());
+  const DBusNotificationMonitor& monitor = *owned;
+  BannerProvider banners(
+      context, std::move(owned),
+      std::make_shared<NotificationServerFocusSource>(QDBusConnection::sessionBus()),
+      std::make_unique<DesktopEntryOpener>(), BannerApps::defaults());
+  ASSERT_TRUE(settings.write(settings::experimentalCallNotices, true));
+  ASSERT_TRUE(settings.write(settings::experimentalMessageNotices, true));
+  banners.start();
+  const BannerViewModel& view = *banners.viewModel();
+
+  // A message is sent again every 50 ms until one shows: those sent before the monitor is
+  // attached to the new server are missed, as they would be on a desktop.
+  int round = 0;
+  QElapsedTimer sinceSent;
+  const auto messageShows = [&] {
+    const QString body = QStringLiteral("round %1").arg(round);
+    if (view.hasMessage() && view.body() == body) return true;
+    if (!sinceSent.isValid() || sinceSent.elapsed() >= 50) {
+      sendMessage(body);
+      sinceSent.start();
+    }
+    return false;
+  };
+  ASSERT_TRUE(waitFor(messageShows));
+
+  QElapsedTimer drill;
+  drill.start();
+  const RestartDrillReport report =
+      runRestartDrill("notification server", {.kill = [] { return server_->kill(); },
+                                              .restart =
+                                                  [&] {
+                                                    QString error;
+                                                    ++round;
+                                                    sinceSent.invalidate();
+                                                    return server_->start(&error);
+                                                  },
+                                              .rightState = messageShows,
+                                              .showsGone =
+                                                  [&] {
+                                                    return !view.hasMessage() &&
+                                                           monitor.check().outcome ==
+                                                               DiagnosticsLog::Outcome::degraded;
+                                                  }});
+  std::printf("notification server drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
+  EXPECT_EQ(report.failure, QString());
+  EXPECT_EQ(report.restarts, 20);
+  EXPECT_GE(entriesSaying(diagnostics, "no notification server runs"), report.restarts);
+  EXPECT_GE(entriesSaying(diagnostics, "reading notification banners"), report.restarts + 1);
+}
+
 TEST(DesktopFocusTest, GnomesBannerSwitchIsDoNotDisturb) {
   // GNOME's settings in a key file under the session's private config folder, shared with the
   // real `gsettings` below; set before anything here touches GSettings.
@@ -418,6 +494,51 @@ TEST_F(DesktopLockTest, LogindMissingAtStartOrLeavingIsSaidAndFollowedWhenItCome
   ASSERT_TRUE(waitFor([&] { return changes.count() == 1; }));
   EXPECT_EQ(changes[0][0].value<LockScreenPresence::Event>(), LockScreenPresence::Event::locked);
   session("Unlock");
+}
+
+// logind crashing at random moments, each new one with the session locked when the last was
+// unlocked and the other way round: the lock follows every new logind, and each crash is said.
+TEST_F(DesktopLockTest, TheLockIsFollowedAgainAfterEachOfManyCrashesOfLogind) {
+  QTemporaryDir dir;
+  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
+  ActivityCenter activities(settings);
+  DiagnosticsLog diagnostics;
+  ASSERT_TRUE(settings.write(settings::experimentalLockScreen, true));
+  auto owned = std::make_unique<LogindLockSource>(QDBusConnection::systemBus(),
+                                                  QDBusConnection::sessionBus());
+  const LogindLockSource& source = *owned;
+  LockScreenProvider provider(
+      {activities, settings, diagnostics}, std::move(owned),
+      LockSessionGuard(dir.path().toStdString(), LockSessionGuard::readBootID(), "Debian"),
+      [] { return 100.0; });
+  provider.start();
+  const auto following = [&] { return source.check().text.english().contains(sessionPath); };
+  ASSERT_TRUE(waitFor(following));
+
+  bool locked = false;
+  QElapsedTimer drill;
+  drill.start();
+  const RestartDrillReport report = runRestartDrill(
+      "logind", {.kill = [] { return logind_->kill(); },
+                 .restart =
+                     [&] {
+                       if (!startLogind()) return false;
+                       locked = !locked;
+                       session("SetLockedHint", {locked});
+                       return !::testing::Test::HasFatalFailure();
+                     },
+                 .rightState = [&] { return following() && provider.locked() == locked; },
+                 .showsGone = [&] { return source.check().text.english().contains("went away"); }});
+  std::printf("logind drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
+  EXPECT_EQ(report.failure, QString());
+  EXPECT_EQ(report.restarts, 20);
+  EXPECT_EQ(entriesSaying(diagnostics, "logind went away"), report.restarts);
+  EXPECT_GE(entriesSaying(diagnostics, "following the screen lock"), report.restarts + 1);
+
+  // The last logind's own signals are heard, not only its hint.
+  session(locked ? "Unlock" : "Lock");
+  EXPECT_TRUE(waitFor([&] { return provider.locked() != locked; }));
+  session("SetLockedHint", {false});
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ DBusServiceFollower::DBusServiceFollower(QDBusConnection bus, QString service,
                                          std::vector<Properties> properties, Activation activation,
                                          QObject* parent)
     : QObject(parent), bus_(std::move(bus)), service_(std::move(service)), activation_(activation) {
-  for (Properties& each : properties) followed_.push_back({std::move(each)});
+  for (Properties& each : properties) followed_.emplace_back().properties = std::move(each);
   connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
           [this](const QString&, const QString& oldOwner, const QString& newOwner) {
             onOwnerChanged(oldOwner, newOwner);
@@ -95,16 +95,21 @@ void DBusServiceFollower::leave() {
 void DBusServiceFollower::readAll(std::size_t index) {
   Followed& followed = followed_[index];
   followed.answered = false;
+  followed.meanwhile.clear();
+  followed.invalidatedMeanwhile = false;
   // To the unique name: only this instance of the service may answer.
   QDBusMessage getAll = QDBusMessage::createMethodCall(owner_, followed.properties.path,
                                                        dbus::properties, QStringLiteral("GetAll"));
   getAll << followed.properties.interface;
   call(getAll, [this, index](const QDBusMessage& answer) {
-    followed_[index].answered = true;
-    const Properties& properties = followed_[index].properties;
-    const std::optional<QVariantMap> values = dbus::argument<QVariantMap>(answer);
+    Followed& answered = followed_[index];
+    answered.answered = true;
+    const Properties& properties = answered.properties;
+    std::optional<QVariantMap> values = dbus::argument<QVariantMap>(answer);
     if (values) {
+      values->insert(std::exchange(answered.meanwhile, {}));
       emit read(*values, properties.interface, properties.path);
+      if (std::exchange(answered.invalidatedMeanwhile, false)) readAll(index);
     } else {
       emit readFailed(answer.type() == QDBusMessage::ErrorMessage
                           ? QDBusError(answer)
@@ -153,16 +158,21 @@ bool DBusServiceFollower::tookProperties(const QDBusMessage& message) {
   }
   const QString interface = dbus::argument<QString>(message).value_or(QString());
   for (std::size_t index = 0; index < followed_.size(); ++index) {
-    const Followed& followed = followed_[index];
+    Followed& followed = followed_[index];
     if (followed.properties.path != message.path() || followed.properties.interface != interface) {
       continue;
     }
-    if (!followed.answered) return true;  // the answer on its way has the news
-    if (!dbus::argument<QStringList>(message, 2).value_or(QStringList()).isEmpty()) {
-      readAll(index);  // a value changed without being sent
+    const QVariantMap values = dbus::argument<QVariantMap>(message, 1).value_or(QVariantMap());
+    // A value that changed without being sent is read.
+    const bool invalidated =
+        !dbus::argument<QStringList>(message, 2).value_or(QStringList()).isEmpty();
+    if (!followed.answered) {
+      followed.meanwhile.insert(values);
+      followed.invalidatedMeanwhile |= invalidated;
+    } else if (invalidated) {
+      readAll(index);
     } else {
-      emit changed(dbus::argument<QVariantMap>(message, 1).value_or(QVariantMap()), interface,
-                   message.path());
+      emit changed(values, interface, message.path());
     }
     return true;
   }

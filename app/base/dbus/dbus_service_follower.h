@@ -71,7 +71,12 @@ class DBusServiceFollower final : public QObject {
   enum class State { idle, asking, present, absent };
   struct Followed {
     Properties properties;
-    bool answered = false;  // changes before the answer to a read are in that answer
+    bool answered = false;
+    // Changes that arrived while a read was on its way. Qt may hand over a read's answer after
+    // PropertiesChanged the service sent later, so these go over the answer rather than being
+    // dropped; one that only says a value is invalid calls for another read.
+    QVariantMap meanwhile;
+    bool invalidatedMeanwhile = false;
   };
 
   void askOwner(bool mayStart);

@@ -4,12 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
 
 #include "testing/dbus_mock_service.h"
+#include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
@@ -126,6 +128,40 @@ TEST_F(SysfsBacklightBackendTest, WithoutLogindTheLevelIsOnlyShownUntilLogindRet
   none.start();
   EXPECT_EQ(none.access(), BrightnessAccess::unavailable);
   EXPECT_FALSE(none.reading());
+}
+
+// logind crashing at random moments, some while a write is on its way: the keys go back to the
+// desktop while it is away, come back with each new logind, and a write after the last one lands.
+TEST_F(SysfsBacklightBackendTest, TheBrightnessIsSetAgainAfterEachOfManyCrashesOfLogind) {
+  SysfsBacklightBackend backend(folder_->path(), QDBusConnection::systemBus());
+  QStringList checks;  // as the provider copies them into the diagnostics
+  QObject::connect(&backend, &BacklightBackend::checkChanged, &backend,
+                   [&] { checks << backend.check().text.english(); });
+  backend.start();
+  ASSERT_TRUE(waitFor([&] { return backend.access() == BrightnessAccess::readWrite; }));
+
+  int written = 0;
+  QElapsedTimer drill;
+  drill.start();
+  const RestartDrillReport report = runRestartDrill(
+      "logind (brightness)",
+      {.kill =
+           [&] {
+             backend.setLevel(0.2 + 0.01 * (++written % 50));  // its answer is lost with logind
+             return logind_->kill();
+           },
+       .restart = [] { return logind_->start(&startError_); },
+       .rightState = [&] { return backend.access() == BrightnessAccess::readWrite; },
+       .showsGone = [&] { return backend.access() == BrightnessAccess::readOnly; }});
+  std::printf("logind (brightness) drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
+  EXPECT_EQ(report.failure, QString());
+  EXPECT_EQ(report.restarts, 20);
+  EXPECT_EQ(checks.filter("logind is not running").size(), report.restarts);
+  EXPECT_EQ(checks.filter("set through logind").size(), report.restarts + 1);
+
+  backend.setLevel(0.6);
+  EXPECT_TRUE(waitFor([&] { return readFile(path("brightness")) == "60"; }));
+  EXPECT_EQ(backend.access(), BrightnessAccess::readWrite);
 }
 
 }  // namespace

@@ -77,6 +77,7 @@ void BlueZAccessoryBackend::followBlueZ() {
   });
   connect(&bluez_, &DBusServiceFollower::vanished, this, [this] {
     devices_.clear();
+    whileReading_.reset();
     setCheck(
         DiagnosticsLog::Outcome::degraded,
         Sentence(QT_TR_NOOP("BlueZ went away: no accessories are shown until it returns"), tr));
@@ -98,8 +99,12 @@ void BlueZAccessoryBackend::followUPower() {
 void BlueZAccessoryBackend::readBlueZ() {
   const QDBusMessage call = QDBusMessage::createMethodCall(
       bluezService, QStringLiteral("/"), dbus::objectManager, QStringLiteral("GetManagedObjects"));
+  whileReading_.emplace();
   bluez_.call(call, [this](const QDBusMessage& answer) {
     const std::optional<ManagedObjects> objects = dbus::argument<ManagedObjects>(answer);
+    std::vector<QDBusMessage> later =
+        std::move(whileReading_).value_or(std::vector<QDBusMessage>());
+    whileReading_.reset();
     if (!objects) {
       setCheck(DiagnosticsLog::Outcome::degraded,
                Sentence(QT_TR_NOOP("BlueZ does not answer (%1): no accessories are shown"), tr)
@@ -111,6 +116,7 @@ void BlueZAccessoryBackend::readBlueZ() {
     for (auto object = objects->begin(); object != objects->end(); ++object) {
       applyInterfaces(object.key().path(), object.value());
     }
+    for (const QDBusMessage& message : later) onBlueZSignal(message);
     setCheck(DiagnosticsLog::Outcome::ok,
              Sentence(QT_TR_NOOP("following BlueZ: %1 Bluetooth devices known"), tr)
                  .arg(devices_.size()));
@@ -124,6 +130,10 @@ void BlueZAccessoryBackend::answered() {
 }
 
 void BlueZAccessoryBackend::onBlueZSignal(const QDBusMessage& message) {
+  if (whileReading_) {
+    whileReading_->push_back(message);
+    return;
+  }
   const QString& member = message.member();
   if (member == QLatin1String("InterfacesAdded")) {
     applyInterfaces(pathArgument(message),

@@ -8,8 +8,11 @@
 #pragma once
 
 #include <QDBusConnection>
+#include <QDBusMessage>
 #include <QVariantMap>
 #include <map>
+#include <optional>
+#include <vector>
 
 #include "base/dbus/dbus_service_follower.h"
 #include "power/accessory_backend.h"
@@ -58,7 +61,10 @@ class BlueZAccessoryBackend final : public AccessoryBackend {
 
   DBusServiceFollower bluez_;
   DBusServiceFollower upower_;
-  std::map<QString, Device> devices_;          // by object path
+  std::map<QString, Device> devices_;  // by object path
+  // BlueZ's signals that arrived while its objects were being read, applied over the answer:
+  // Qt may hand over the answer after signals BlueZ sent later.
+  std::optional<std::vector<QDBusMessage>> whileReading_;
   std::map<QString, Peripheral> peripherals_;  // UPower's, by object path
   bool ready_ = false;
 };

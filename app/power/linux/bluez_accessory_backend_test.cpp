@@ -4,9 +4,15 @@
 #include <gtest/gtest.h>
 
 #include <QDBusObjectPath>
+#include <QElapsedTimer>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include "base/activity_center.h"
+#include "power/accessory_provider.h"
+#include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
@@ -31,6 +37,10 @@ class BlueZAccessoryBackendTest : public ::testing::Test {
       bluez_.reset();
       return;
     }
+    addDevices();
+  }
+  // The adapter and both devices, as each start of the mock begins without them.
+  static void addDevices() {
     blueZ("AddAdapter", {"hci0", "computer"});
     blueZ("AddDevice", {"hci0", headset, "Studio Headphones"});
     blueZ("AddDevice", {"hci0", speaker, "Kitchen Speaker"});
@@ -120,6 +130,60 @@ TEST_F(BlueZAccessoryBackendTest, LosesTheDevicesWithBlueZAndFindsThemAgain) {
   QString error;
   ASSERT_TRUE(bluez_->start(&error)) << error.toStdString();
   ASSERT_TRUE(waitFor([&] { return backend.check().outcome == DiagnosticsLog::Outcome::ok; }));
+  addDevices();  // for the tests after this one
+}
+
+// Crashes at random moments with the headset connected: each BlueZ that returns brings the
+// headset back with its new battery level, and the diagnostics tell of every crash.
+TEST_F(BlueZAccessoryBackendTest, TheHeadsetComesBackAfterEachOfManyCrashesOfBlueZ) {
+  int battery = 64;
+  const auto connectHeadset = [&battery] {
+    blueZ("ConnectDevice", {"hci0", headset});
+    blueZ("SetBattery", {"hci0", headset, QVariant::fromValue<uchar>(battery)});
+  };
+  connectHeadset();
+  auto owned = std::make_unique<BlueZAccessoryBackend>(QDBusConnection::systemBus());
+  BlueZAccessoryBackend& backend = *owned;
+  QTemporaryDir dir;
+  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
+  ActivityCenter activities(settings);
+  DiagnosticsLog diagnostics;
+  AccessoryProvider provider({activities, settings, diagnostics}, std::move(owned), nullptr);
+  const AccessoryViewModel& view = *provider.viewModel();
+  provider.start();
+  const auto showsHeadset = [&] {
+    const std::vector<BluetoothAccessory>& connected = backend.connected();
+    return backend.check().outcome == DiagnosticsLog::Outcome::ok && connected.size() == 1 &&
+           connected.front().battery.main == battery && view.accessories().size() == 1;
+  };
+  ASSERT_TRUE(waitFor(showsHeadset));
+
+  QElapsedTimer drill;
+  drill.start();
+  const RestartDrillReport report =
+      runRestartDrill("BlueZ", {.kill = [] { return bluez_->kill(); },
+                                .restart =
+                                    [&] {
+                                      QString error;
+                                      if (!bluez_->start(&error)) return false;
+                                      --battery;
+                                      addDevices();
+                                      connectHeadset();
+                                      return !::testing::Test::HasFatalFailure();
+                                    },
+                                .rightState = showsHeadset,
+                                .showsGone = [&] { return view.accessories().isEmpty(); }});
+  std::printf("BlueZ drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
+  EXPECT_EQ(report.failure, QString());
+  EXPECT_EQ(report.restarts, 20);
+  const auto saying = [&](const QString& text) {
+    return std::ranges::count_if(diagnostics.entries(), [&](const DiagnosticsLog::Entry& entry) {
+      return entry.text.english().contains(text);
+    });
+  };
+  EXPECT_EQ(saying("BlueZ went away"), report.restarts);
+  EXPECT_GE(saying("following BlueZ"), report.restarts + 1);
+  blueZ("DisconnectDevice", {"hci0", headset});
 }
 
 }  // namespace

@@ -16,6 +16,7 @@
 #include "power/battery_provider.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
@@ -54,6 +55,19 @@ class UPowerBatteryBackendTest : public ::testing::Test {
   }
   static bool waitFor(const std::function<bool()>& condition) {
     return QTest::qWaitFor(condition, 5000);
+  }
+  static void setProfile(const QString& profile) {
+    QDBusMessage set =
+        QDBusMessage::createMethodCall("net.hadess.PowerProfiles", "/net/hadess/PowerProfiles",
+                                       "org.freedesktop.DBus.Properties", "Set");
+    set << "net.hadess.PowerProfiles"
+        << "ActiveProfile" << QVariant::fromValue(QDBusVariant(profile));
+    ASSERT_EQ(QDBusConnection::systemBus().call(set).type(), QDBusMessage::ReplyMessage);
+  }
+  static qsizetype entriesSaying(const DiagnosticsLog& diagnostics, const QString& text) {
+    return std::ranges::count_if(diagnostics.entries(), [&](const DiagnosticsLog::Entry& entry) {
+      return entry.text.english().contains(text);
+    });
   }
 
   static inline std::unique_ptr<DBusMockService> upower_;
@@ -105,12 +119,7 @@ TEST_F(UPowerBatteryBackendTest, PowerSaverAndNoticesFollowTheServices) {
   ASSERT_TRUE(waitFor([&] { return backend.reading() && backend.reading()->percent == 50; }));
   EXPECT_FALSE(backend.reading()->isLowPowerMode);
 
-  QDBusMessage set =
-      QDBusMessage::createMethodCall("net.hadess.PowerProfiles", "/net/hadess/PowerProfiles",
-                                     "org.freedesktop.DBus.Properties", "Set");
-  set << "net.hadess.PowerProfiles"
-      << "ActiveProfile" << QVariant::fromValue(QDBusVariant("power-saver"));
-  ASSERT_EQ(QDBusConnection::systemBus().call(set).type(), QDBusMessage::ReplyMessage);
+  setProfile("power-saver");
   ASSERT_TRUE(waitFor([&] { return backend.reading()->isLowPowerMode; }));
   EXPECT_TRUE(provider.viewModel()->lowPowerMode());
 
@@ -149,6 +158,89 @@ TEST_F(UPowerBatteryBackendTest, LosesTheBatteryWithUPowerAndFindsItWhenUPowerRe
   setUpBattery(55);
   ASSERT_TRUE(waitFor([&] { return backend.reading() && backend.reading()->percent == 55; }));
   EXPECT_GE(checks.count(), 2);
+}
+
+// Crashes at random moments, each while the battery is shown or still being read: every return
+// shows the new UPower's battery, never the dead one's, and the diagnostics tell each time.
+TEST_F(UPowerBatteryBackendTest, ABatteryComesBackAfterEachOfManyCrashesOfUPower) {
+  setUpBattery(64);
+  auto owned = std::make_unique<UPowerBatteryBackend>(QDBusConnection::systemBus());
+  UPowerBatteryBackend& backend = *owned;
+  QTemporaryDir dir;
+  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
+  ActivityCenter activities(settings);
+  DiagnosticsLog diagnostics;
+  BatteryProvider provider({activities, settings, diagnostics}, std::move(owned));
+  const BatteryViewModel& view = *provider.viewModel();
+  provider.start();
+  ASSERT_TRUE(waitFor([&] { return view.percent() == 64 && !view.charging(); }));
+
+  // Each UPower brings another level, so that only a reading from it passes.
+  int percent = 64;
+  QElapsedTimer drill;
+  drill.start();
+  const RestartDrillReport report = runRestartDrill(
+      "UPower", {.kill = [] { return upower_->kill(); },
+                 .restart =
+                     [&] {
+                       QString error;
+                       if (!upower_->start(&error)) return false;
+                       setUpBattery(--percent);
+                       return !::testing::Test::HasFatalFailure();
+                     },
+                 .rightState =
+                     [&] {
+                       return backend.check().outcome == DiagnosticsLog::Outcome::ok &&
+                              backend.reading() && backend.reading()->percent == percent &&
+                              view.percent() == percent && !view.charging();
+                     },
+                 .showsGone = [&] { return !view.available(); }});
+  std::printf("UPower drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
+  EXPECT_EQ(report.failure, QString());
+  EXPECT_EQ(report.restarts, 20);
+  EXPECT_EQ(entriesSaying(diagnostics, "UPower went away"), report.restarts);
+  // Back with the battery, or back before the battery was set up on it.
+  EXPECT_GE(entriesSaying(diagnostics, "reading the battery from UPower") +
+                entriesSaying(diagnostics, "UPower answers and reports no battery"),
+            report.restarts + 1);
+  EXPECT_EQ(backend.check().outcome, DiagnosticsLog::Outcome::ok);
+}
+
+TEST_F(UPowerBatteryBackendTest, LowPowerModeComesBackAfterEachOfManyCrashesOfTheProfiles) {
+  DBusMockService profiles(QDBusConnection::systemBus(), "net.hadess.PowerProfiles",
+                           {"--template", "power_profiles_daemon"});
+  QString error;
+  ASSERT_TRUE(profiles.start(&error)) << error.toStdString();
+  setProfile("power-saver");
+  setUpBattery(64);
+  auto owned = std::make_unique<UPowerBatteryBackend>(QDBusConnection::systemBus());
+  QTemporaryDir dir;
+  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
+  ActivityCenter activities(settings);
+  DiagnosticsLog diagnostics;
+  BatteryProvider provider({activities, settings, diagnostics}, std::move(owned));
+  const BatteryViewModel& view = *provider.viewModel();
+  provider.start();
+  ASSERT_TRUE(waitFor([&] { return view.lowPowerMode() && view.percent() == 64; }));
+
+  QElapsedTimer drill;
+  drill.start();
+  const RestartDrillReport report =
+      runRestartDrill("power profiles", {.kill = [&] { return profiles.kill(); },
+                                         .restart =
+                                             [&] {
+                                               QString error;
+                                               if (!profiles.start(&error)) return false;
+                                               setProfile("power-saver");
+                                               return !::testing::Test::HasFatalFailure();
+                                             },
+                                         .rightState = [&] { return view.lowPowerMode(); },
+                                         .showsGone = [&] { return !view.lowPowerMode(); }});
+  std::printf("power profiles drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
+  EXPECT_EQ(report.failure, QString());
+  EXPECT_EQ(report.restarts, 20);
+  // The battery stayed with UPower all along.
+  EXPECT_EQ(view.percent(), 64);
 }
 
 }  // namespace

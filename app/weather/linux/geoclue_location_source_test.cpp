@@ -1,12 +1,18 @@
 // Runs in: private-session --offscreen --system-bus
 #include "weather/linux/geoclue_location_source.h"
+#include "weather/weather_provider.h"
 
 #include <gtest/gtest.h>
 
+#include <QElapsedTimer>
 #include <QSignalSpy>
+#include <QTemporaryDir>
 #include <QTest>
 
+#include "base/activity_center.h"
+#include "settings/settings_keys.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
@@ -66,6 +72,69 @@ TEST_F(GeoClueLocationSourceTest, ARefusalOrNoGeoClueIsSaidAndNothingBreaks) {
   QString error;
   ASSERT_TRUE(geoclue_->start(&error)) << error.toStdString();
   EXPECT_TRUE(waitFor([&] { return missing.check().outcome == DiagnosticsLog::Outcome::ok; }));
+}
+
+// Offline, the weather provider asks for nothing; a request would be a fault here.
+struct NoRequests final : HTTPTransport {
+  void send(const HTTPRequest& request, Completion completion) override {
+    ADD_FAILURE() << "asked for " << request.url;
+    completion(std::unexpected(HTTPTransportError::unreachable));
+  }
+};
+
+// GeoClue crashing at random moments, before or after it reports a position: each GeoClue that
+// returns is given a new client, and the position it reports reaches the weather.
+TEST_F(GeoClueLocationSourceTest, ThePositionIsFollowedAgainAfterEachOfManyCrashes) {
+  QTemporaryDir dir;
+  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
+  ASSERT_TRUE(settings.write(settings::weatherEnabled, true));
+  ActivityCenter activities(settings);
+  DiagnosticsLog diagnostics;
+  auto owned = std::make_unique<GeoClueLocationSource>(QDBusConnection::systemBus());
+  GeoClueLocationSource& source = *owned;
+  WeatherProvider weather({activities, settings, diagnostics}, std::move(owned),
+                          std::make_shared<NoRequests>(),
+                          {dir.filePath("snapshot.json").toStdString(),
+                           dir.filePath("weather.json").toStdString(),
+                           {},
+                           "Europe/Oslo"},
+                          [] { return 1.7e9; });
+  weather.setOnline(false);
+  weather.start();
+  ASSERT_TRUE(waitFor([&] { return source.check().outcome == DiagnosticsLog::Outcome::ok; }));
+  // Each GeoClue reports a place further north, so that only its own report passes.
+  double latitude = 59.9;
+  ASSERT_EQ(geoclue_->call(manager, "SetLocation", {latitude, 10.75, 5000.0}), QString());
+  ASSERT_TRUE(waitFor([&] { return source.location().has_value(); }));
+
+  QElapsedTimer drill;
+  drill.start();
+  const RestartDrillReport report = runRestartDrill(
+      "GeoClue",
+      {.kill = [] { return geoclue_->kill(); },
+       .restart =
+           [&] {
+             QString error;
+             if (!geoclue_->start(&error)) return false;
+             latitude += 0.1;
+             return geoclue_->call(manager, "SetLocation", {latitude, 10.75, 5000.0}).isEmpty();
+           },
+       .rightState =
+           [&] {
+             return source.check().outcome == DiagnosticsLog::Outcome::ok && source.location() &&
+                    source.location()->latitude == latitude;
+           },
+       .showsGone = [&] { return source.check().text.english().contains("went away"); }});
+  std::printf("GeoClue drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
+  EXPECT_EQ(report.failure, QString());
+  EXPECT_EQ(report.restarts, 20);
+  const auto saying = [&](const QString& text) {
+    return std::ranges::count_if(diagnostics.entries(), [&](const DiagnosticsLog::Entry& entry) {
+      return entry.source == "weather" && entry.text.english().contains(text);
+    });
+  };
+  EXPECT_GE(saying("GeoClue went away"), report.restarts);
+  EXPECT_GE(saying("GeoClue gives the position"), report.restarts + 1);
 }
 
 }  // namespace
