@@ -578,6 +578,12 @@ std::expected<ICalendarDocument, ICalendarError> ICalendarReader::read(
   if (!end) return std::unexpected(end.error());
 
   keepLibicalFromAborting();
+  // The texts libical returns for properties and times live in a ring of up to 2,500 buffers of
+  // the reading thread, which it frees only when the ring wraps: a read of a large calendar
+  // would leave hundreds of kilobytes there for as long as the thread lives.
+  const struct RingRelease {
+    ~RingRelease() { icalmemory_free_ring(); }
+  } ringRelease;
   const std::string calendars = utf8.substr(0, *end);
   const std::unique_ptr<icalcomponent, ComponentFree> root(
       icalparser_parse_string(calendars.c_str()));
