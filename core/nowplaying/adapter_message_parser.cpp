@@ -15,7 +15,9 @@ namespace {
 
 constexpr double maxSeconds = NowPlayingSnapshot::maxSeconds;
 constexpr double microsPerSecond = 1'000'000;
-constexpr std::size_t keptBufferCapacity = 1 << 20;
+// A line arriving in pieces is gathered in a buffer; one that grew past this (a cover's line) is
+// freed once read, as covers come once a track, while the parser lives as long as the player.
+constexpr std::size_t keptBufferCapacity = 64 * 1024;
 
 // Linux allows process ids up to 2^22; a little more room costs nothing.
 constexpr double maxProcessIdentifier = 2147483647;

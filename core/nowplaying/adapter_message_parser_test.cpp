@@ -83,6 +83,13 @@ TEST(AdapterMessageParserTest, LineLimitIsExactAndAnOverlongLineIsReportedOnce) 
   results = parser.feed("tail\n" + playingLine + "\n");
   ASSERT_EQ(results.size(), 1u);
   EXPECT_EQ(snapshotOf(results[0]).title, "A");
+
+  // A long line that arrived in pieces leaves no long buffer behind once read.
+  const std::string padded = playingLine + std::string(200'000, ' ');
+  EXPECT_TRUE(parser.feed(std::string_view(padded).substr(0, 100'000)).empty());
+  ASSERT_EQ(parser.feed(std::string_view(padded).substr(100'000)).size(), 0u);
+  ASSERT_EQ(parser.feed("\n").size(), 1u);
+  EXPECT_LE(parser.buffer().capacity(), 64u * 1024) << "a cover's line is not kept";
   EXPECT_FALSE(parser.discardingOversizedLine());
 
   // One past with its newline in the same read: one error, and the next line still parses.

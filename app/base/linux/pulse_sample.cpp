@@ -1,5 +1,6 @@
 #include "base/linux/pulse_sample.h"
 
+#include <QResource>
 #include <QtEndian>
 
 #include "base/logging_categories.h"
@@ -55,11 +56,25 @@ std::optional<PulseSample::Sound> PulseSample::fromWav(const QByteArray& wav) {
       format = pa_sample_spec{PA_SAMPLE_S16LE, rate, static_cast<uint8_t>(channels)};
       if (pa_sample_spec_valid(&*format) == 0) return std::nullopt;
     } else if (id == "data" && format) {
-      return Sound{*format, wav.mid(body, static_cast<qsizetype>(size))};
+      const auto length = static_cast<qsizetype>(size);
+      // Bytes without a capacity of their own are borrowed (fromRawData).
+      const bool borrowed = wav.capacity() == 0;
+      return Sound{*format, borrowed ? QByteArray::fromRawData(wav.constData() + body, length)
+                                     : wav.mid(body, length)};
     }
     at = body + static_cast<qsizetype>(size) + (size % 2);
   }
   return std::nullopt;
+}
+
+std::optional<PulseSample::Sound> PulseSample::fromResource(const QString& path) {
+  const QResource resource(path);
+  if (!resource.isValid()) return std::nullopt;
+  if (resource.compressionAlgorithm() != QResource::NoCompression) {
+    return fromWav(resource.uncompressedData());
+  }
+  return fromWav(QByteArray::fromRawData(reinterpret_cast<const char*>(resource.data()),
+                                         static_cast<qsizetype>(resource.size())));
 }
 
 PulseSample::PulseSample(PulseConnection& connection, QByteArray name, std::optional<Sound> sound,

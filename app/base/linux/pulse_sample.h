@@ -17,12 +17,16 @@ class PulseSample : public QObject {
   Q_OBJECT
 
  public:
-  // 16-bit PCM from a WAV file's bytes; none for anything else.
+  // 16-bit PCM from a WAV file's bytes; none for anything else. The frames of a `wav` that
+  // borrows its bytes (QByteArray::fromRawData) borrow them too; others are copied.
   struct Sound {
     pa_sample_spec format;
     QByteArray frames;
   };
   static std::optional<Sound> fromWav(const QByteArray& wav);
+  // The sound compiled in at the resource `path`; read where it lies when stored uncompressed,
+  // so the program holds no copy of it.
+  static std::optional<Sound> fromResource(const QString& path);
 
   PulseSample(PulseConnection& connection, QByteArray name, std::optional<Sound> sound,
               QObject* parent = nullptr);

@@ -2,18 +2,16 @@
 
 #include "base/shared_backends.h"
 
-#include <QFile>
-
 namespace tindra {
 
 PulseSoundPlayer::PulseSoundPlayer(std::shared_ptr<PulseConnection> connection,
                                    const QStringList& names)
     : connection_(std::move(connection)) {
   for (const QString& name : names) {
-    QFile file(QStringLiteral(":/sounds/%1.wav").arg(name));
-    std::optional<PulseSample::Sound> sound;
-    if (file.open(QIODevice::ReadOnly)) sound = PulseSample::fromWav(file.readAll());
-    samples_.emplace(name, std::make_unique<PulseSample>(*connection_, name.toUtf8(), sound));
+    samples_.emplace(name,
+                     std::make_unique<PulseSample>(
+                         *connection_, name.toUtf8(),
+                         PulseSample::fromResource(QStringLiteral(":/sounds/%1.wav").arg(name))));
   }
   connection_->start();
 }

@@ -1,6 +1,5 @@
 #include "levels/linux/pulse_volume_backend.h"
 
-#include <QFile>
 #include <algorithm>
 #include <cmath>
 
@@ -9,19 +8,11 @@
 
 namespace tindra {
 
-namespace {
-
-std::optional<PulseSample::Sound> tickSound() {
-  QFile file(QStringLiteral(":/sounds/tindra-volume-tick.wav"));
-  return file.open(QIODevice::ReadOnly) ? PulseSample::fromWav(file.readAll()) : std::nullopt;
-}
-
-}  // namespace
-
 PulseVolumeBackend::PulseVolumeBackend(std::shared_ptr<PulseConnection> connection, QObject* parent)
     : VolumeBackend(parent),
       connection_(std::move(connection)),
-      tick_(*connection_, "tindra-volume-tick", tickSound()) {
+      tick_(*connection_, "tindra-volume-tick",
+            PulseSample::fromResource(QStringLiteral(":/sounds/tindra-volume-tick.wav"))) {
   setCheck(DiagnosticsLog::Outcome::ok, Sentence(QT_TR_NOOP("connecting to the sound server"), tr));
   connect(connection_.get(), &PulseConnection::readyChanged, this, [this](bool ready) {
     answered_ = answered_ || ready;

@@ -89,6 +89,13 @@ TEST(PulseSampleTest, TakesSixteenBitPcmWavAndNothingElse) {
   EXPECT_FALSE(PulseSample::fromWav(eightBit));
   EXPECT_FALSE(PulseSample::fromWav("RIFF\x04\0\0\0WAVE"));
   EXPECT_FALSE(PulseSample::fromWav(QByteArray()));
+
+  // Compiled in uncompressed, the sound is read where it lies: the same frames, no copy.
+  const auto compiledIn = PulseSample::fromResource(":/sounds/tindra-volume-tick.wav");
+  ASSERT_TRUE(compiledIn);
+  EXPECT_EQ(compiledIn->frames, sound->frames);
+  EXPECT_EQ(compiledIn->frames.capacity(), 0) << "a copy on the heap";
+  EXPECT_FALSE(PulseSample::fromResource(":/sounds/none.wav"));
 }
 
 // Runs last in this program: the server it leaves behind is one the test started itself.
