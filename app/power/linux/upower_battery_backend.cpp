@@ -1,5 +1,7 @@
 #include "power/linux/upower_battery_backend.h"
 
+#include <algorithm>
+
 #include "base/dbus/dbus_names.h"
 #include "base/dbus/dbus_value.h"
 
@@ -19,7 +21,9 @@ UPowerBatteryBackend::UPowerBatteryBackend(QDBusConnection bus, QObject* parent)
               DBusServiceFollower::Activation::start),
       profiles_(bus, profilesService, {{profilesPath, profilesService}},
                 DBusServiceFollower::Activation::start) {
-  setCheck(DiagnosticsLog::Outcome::ok, Sentence(QT_TR_NOOP("asking UPower for the battery"), tr));
+  battery_ = {DiagnosticsLog::Outcome::ok,
+              Sentence(QT_TR_NOOP("asking UPower for the battery"), tr)};
+  showCheck();
   followUPower();
   followProfiles();
 }
@@ -33,9 +37,10 @@ void UPowerBatteryBackend::followUPower() {
   connect(&upower_, &DBusServiceFollower::read, this, [this](const QVariantMap& properties) {
     device_ = UPowerDevice{};
     apply(properties);
-    setCheck(DiagnosticsLog::Outcome::ok,
-             reading() ? Sentence(QT_TR_NOOP("reading the battery from UPower"), tr)
-                       : Sentence(QT_TR_NOOP("UPower answers and reports no battery"), tr));
+    battery_ = {DiagnosticsLog::Outcome::ok,
+                reading() ? Sentence(QT_TR_NOOP("reading the battery from UPower"), tr)
+                          : Sentence(QT_TR_NOOP("UPower answers and reports no battery"), tr)};
+    showCheck();
   });
   connect(&upower_, &DBusServiceFollower::changed, this, &UPowerBatteryBackend::apply);
   const auto doesNotAnswer = [this](const QDBusError& error) {
@@ -49,12 +54,14 @@ void UPowerBatteryBackend::followUPower() {
   });
 }
 
-// No power-profiles-daemon, or none that answers: no low power mode to show.
+// No power-profiles-daemon, or none that answers: no low power mode to show. Many machines have
+// none, so its absence is only said; its leaving, or not answering, is a fault until it is back.
 void UPowerBatteryBackend::followProfiles() {
   const auto profileOf = [](const QVariantMap& properties) {
     return dbus::typed<QString>(properties, QStringLiteral("ActiveProfile"));
   };
   connect(&profiles_, &DBusServiceFollower::read, this, [this, profileOf](const QVariantMap& read) {
+    setProfilesCheck({});
     setPowerSaver(profileOf(read) == QLatin1String("power-saver"));
   });
   connect(&profiles_, &DBusServiceFollower::changed, this,
@@ -63,10 +70,42 @@ void UPowerBatteryBackend::followProfiles() {
               setPowerSaver(*profile == QLatin1String("power-saver"));
             }
           });
-  const auto none = [this] { setPowerSaver(false); };
-  connect(&profiles_, &DBusServiceFollower::missing, this, none);
-  connect(&profiles_, &DBusServiceFollower::readFailed, this, none);
-  connect(&profiles_, &DBusServiceFollower::vanished, this, none);
+  const auto none = [this](DiagnosticsLog::Outcome outcome, const Sentence& why) {
+    setProfilesCheck(ServiceCheck{outcome, why});
+    setPowerSaver(false);
+  };
+  connect(&profiles_, &DBusServiceFollower::missing, this, [none] {
+    none(DiagnosticsLog::Outcome::ok,
+         Sentence(QT_TR_NOOP("no power-profiles-daemon: low power mode is not shown"), tr));
+  });
+  connect(&profiles_, &DBusServiceFollower::readFailed, this, [none](const QDBusError& error) {
+    none(DiagnosticsLog::Outcome::degraded,
+         Sentence(QT_TR_NOOP("power-profiles-daemon does not answer (%1): low power mode is not "
+                             "shown"),
+                  tr)
+             .arg(error.name()));
+  });
+  connect(&profiles_, &DBusServiceFollower::vanished, this, [none] {
+    none(DiagnosticsLog::Outcome::degraded,
+         Sentence(QT_TR_NOOP("power-profiles-daemon went away: low power mode is not shown until "
+                             "it returns"),
+                  tr));
+  });
+}
+
+void UPowerBatteryBackend::setProfilesCheck(std::optional<ServiceCheck> check) {
+  profilesCheck_ = std::move(check);
+  showCheck();
+}
+
+// One line for both services, the battery's first; the worse of the two outcomes.
+void UPowerBatteryBackend::showCheck() {
+  if (!profilesCheck_) {
+    setCheck(battery_.outcome, battery_.text);
+    return;
+  }
+  setCheck(std::max(battery_.outcome, profilesCheck_->outcome),
+           battery_.text.followedBy(profilesCheck_->text));
 }
 
 void UPowerBatteryBackend::setPowerSaver(bool powerSaver) {
@@ -76,7 +115,8 @@ void UPowerBatteryBackend::setPowerSaver(bool powerSaver) {
 
 void UPowerBatteryBackend::drop(const Sentence& why) {
   device_ = UPowerDevice{};  // a profile change must not bring the old battery back
-  setCheck(DiagnosticsLog::Outcome::degraded, why);
+  battery_ = {DiagnosticsLog::Outcome::degraded, why};
+  showCheck();
   publish(std::nullopt);
 }
 
