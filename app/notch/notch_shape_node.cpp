@@ -2,7 +2,6 @@
 
 #include <QPainter>
 #include <QQuickWindow>
-#include <QSGClipNode>
 #include <algorithm>
 
 namespace tindra {
@@ -42,15 +41,10 @@ void NotchShapeNode::render(const RenderState* state) {
   auto* painter = static_cast<QPainter*>(
       window_->rendererInterface()->getResource(window_, QSGRendererInterface::PainterResource));
   if (!painter) return;
-  // The renderer has clipped the painter to rect() and hands the clips of the items above as a
-  // region in window coordinates; clipList() is set only by the hardware renderers.
+  // The renderer has clipped the painter to rect(); the software renderer hands the clip nodes
+  // above (what clipList() holds for the hardware renderers) as one region in window coordinates.
   if (const QRegion* clip = state->clipRegion(); clip && !clip->isEmpty()) {
     painter->setClipRegion(*clip, Qt::IntersectClip);
-  }
-  for (const QSGClipNode* clip = clipList(); clip; clip = clip->clipList()) {
-    const QTransform toWindow = clip->matrix() ? clip->matrix()->toTransform() : QTransform();
-    painter->setTransform(toWindow);
-    painter->setClipRect(clip->clipRect(), Qt::IntersectClip);
   }
   painter->setTransform(matrix() ? matrix()->toTransform() : QTransform());
   painter->setOpacity(inheritedOpacity());
