@@ -18,6 +18,7 @@ struct NotchShape {
   // The outline as whole pixels, for the window mask.
   QRegion region() const;
   bool contains(const QPointF& point) const { return path().contains(point); }
+  bool operator==(const NotchShape&) const = default;
 };
 
 }  // namespace tindra

@@ -1,52 +1,30 @@
 #include "notch/notch_shape_item.h"
 
-#include <QPainter>
+#include <QQuickWindow>
+#include <QSGRendererInterface>
 #include <QtQml>
-#include <algorithm>
 
 namespace tindra {
 
-NotchShapeItem::NotchShapeItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
-  setAntialiasing(true);
+NotchShapeItem::NotchShapeItem(QQuickItem* parent) : QQuickItem(parent) {
+  setFlag(ItemHasContents);
 }
 
-namespace {
-
-// The glow is this many strokes of growing width laid over each other, so that it is brightest
-// at the edge and fades inwards over half the widest stroke.
-constexpr int glowLayers = 6;
-constexpr double glowLayerWidth = 3;
-constexpr double glowLayerAlpha = 0.15;
-
-}  // namespace
-
-void NotchShapeItem::paint(QPainter* painter) {
-  painter->setRenderHint(QPainter::Antialiasing);
-  const QPainterPath path = shape_.path();
-  painter->fillPath(path, color_);
-  if (glow_ > 0 || (rimWidth_ > 0 && rimColor_.alpha() > 0)) paintAura(*painter, path);
-}
-
-// Strokes centred on the outline, clipped to its inside. Along the display's top edge there is
-// nothing to light, so that edge is left out.
-void NotchShapeItem::paintAura(QPainter& painter, const QPainterPath& path) const {
-  painter.save();
-  painter.setClipPath(path);
-  painter.setClipRect(QRectF(0, shape_.body.top() + 1, width(), height()), Qt::IntersectClip);
-  if (glow_ > 0) {
-    QColor layer = glowColor_;
-    layer.setAlphaF(static_cast<float>(std::clamp(glow_, 0.0, 1.0) * glowLayerAlpha));
-    for (int i = glowLayers; i > 0; --i) {
-      painter.strokePath(path, QPen(layer, i * glowLayerWidth));
-    }
+QSGNode* NotchShapeItem::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
+  // Tindra renders with the software scene graph only (main sets it); a picture of the shape for
+  // another API would be code no run of ours ever draws, so the shape is left out, loudly.
+  if (window()->rendererInterface()->graphicsApi() != QSGRendererInterface::Software) {
+    static const bool warned = [] {
+      qWarning("NotchShape draws only with the software scene graph; the notch has no outline");
+      return true;
+    }();
+    (void)warned;
+    delete old;
+    return nullptr;
   }
-  if (rimWidth_ > 0) painter.strokePath(path, QPen(rimColor_, 2 * rimWidth_));
-  painter.restore();
-}
-
-void NotchShapeItem::changed() {
-  emit shapeChanged();
-  update();
+  auto* node = old ? static_cast<NotchShapeNode*>(old) : new NotchShapeNode(window());
+  node->setLook(look_);
+  return node;
 }
 
 }  // namespace tindra
