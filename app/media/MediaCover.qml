@@ -2,7 +2,7 @@ import QtQuick
 import Tindra
 
 // The track's cover; until it arrives (or when there is none), a tile with a note.
-Rectangle {
+Item {
     id: root
 
     property real size: 24
@@ -10,23 +10,19 @@ Rectangle {
 
     width: root.size
     height: root.size
-    radius: Math.max(4, root.size / 6)
-    gradient: Gradient {
-        GradientStop { position: 0; color: "#ff375f" }
-        GradientStop { position: 1; color: "#8e3bd8" }
-    }
-    Text {
-        anchors.centerIn: parent
-        visible: !cover.visible
-        text: "\u266a"
-        color: "white"
-        font.pixelSize: root.size * 0.55
-    }
     CoverImage {
         id: cover
         anchors.fill: parent
-        radius: root.radius
-        visible: root.model !== undefined && root.model.hasCover
+        radius: Math.max(4, root.size / 6)
         image: root.model ? root.model.cover : undefined
+        tileTop: "#ff375f"
+        tileBottom: "#8e3bd8"
+    }
+    Text {
+        anchors.centerIn: parent
+        visible: !(root.model !== undefined && root.model.hasCover)
+        text: "\u266a"
+        color: "white"
+        font.pixelSize: root.size * 0.55
     }
 }

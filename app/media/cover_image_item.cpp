@@ -1,5 +1,6 @@
 #include "media/cover_image_item.h"
 
+#include <QLinearGradient>
 #include <QPainter>
 #include <QPainterPath>
 
@@ -19,12 +20,32 @@ void CoverImageItem::setRadius(double radius) {
   update();
 }
 
+void CoverImageItem::setTileTop(const QColor& color) {
+  if (color == tileTop_) return;
+  tileTop_ = color;
+  emit imageChanged();
+  update();
+}
+
+void CoverImageItem::setTileBottom(const QColor& color) {
+  if (color == tileBottom_) return;
+  tileBottom_ = color;
+  emit imageChanged();
+  update();
+}
+
 void CoverImageItem::paint(QPainter* painter) {
-  if (image_.isNull()) return;
   painter->setRenderHint(QPainter::Antialiasing);
   painter->setRenderHint(QPainter::SmoothPixmapTransform);
   QPainterPath clip;
   clip.addRoundedRect(boundingRect(), radius_, radius_);
+  if (image_.isNull()) {
+    QLinearGradient tile(0, 0, 0, height());
+    tile.setColorAt(0, tileTop_);
+    tile.setColorAt(1, tileBottom_);
+    painter->fillPath(clip, tile);
+    return;
+  }
   painter->setClipPath(clip);
   // Fill the square, cropping the longer side of a cover that is not square.
   const QSizeF target = boundingRect().size();
