@@ -224,16 +224,47 @@ void EdsCalendarFeed::makeView() {
     for (const QString& member : viewSignals) {
       backend_->followSignal(viewPath_, viewInterface, member);
     }
-    const QDBusMessage startView =
-        QDBusMessage::createMethodCall(busName_, viewPath_, viewInterface, QStringLiteral("Start"));
-    backend_->call(startView, [this, view](const QDBusMessage& started) {
-      if (view != views_ || started.type() != QDBusMessage::ErrorMessage) return;
-      setProblem(DiagnosticsLog::Outcome::degraded,
-                 Sentence(QT_TR_NOOP("Evolution Data Server's view of the calendar does not "
-                                     "start: %1"),
-                          tr)
-                     .arg(Sentence::verbatim(started.errorMessage())));
+    // Without its first components: while a view sends those, Evolution Data Server holds
+    // back any change for up to two seconds (and more, its timer counting whole seconds), even
+    // after Complete, so an event added just after a start or a new window showed that late.
+    // The calendar is listed once the view is complete instead (listAll).
+    QDBusMessage flags = QDBusMessage::createMethodCall(busName_, viewPath_, viewInterface,
+                                                        QStringLiteral("SetFlags"));
+    flags << 0u;
+    backend_->call(flags, [this, view](const QDBusMessage&) {
+      if (view != views_) return;
+      const QDBusMessage startView = QDBusMessage::createMethodCall(
+          busName_, viewPath_, viewInterface, QStringLiteral("Start"));
+      backend_->call(startView, [this, view](const QDBusMessage& started) {
+        if (view != views_ || started.type() != QDBusMessage::ErrorMessage) return;
+        setProblem(DiagnosticsLog::Outcome::degraded,
+                   Sentence(QT_TR_NOOP("Evolution Data Server's view of the calendar does not "
+                                       "start: %1"),
+                            tr)
+                       .arg(Sentence::verbatim(started.errorMessage())));
+      });
     });
+  });
+}
+
+// The view's changes that came before this answer are in the list (each is sent once made), so
+// the list replaces them; those after it are applied to it.
+void EdsCalendarFeed::listAll() {
+  QDBusMessage call = calendarCall(QStringLiteral("GetObjectList"));
+  call << query(calendar_.kind, readOptions().windowStart, readOptions().windowEnd);
+  backend_->call(call, [this, view = views_](const QDBusMessage& answer) {
+    if (view != views_) return;
+    const auto components = dbus::argument<QStringList>(answer);
+    if (!components) {
+      setProblem(DiagnosticsLog::Outcome::degraded,
+                 Sentence(QT_TR_NOOP("Evolution Data Server could not list the calendar: %1"), tr)
+                     .arg(Sentence::verbatim(answer.errorMessage())));
+      return;
+    }
+    components_.clear();
+    addComponents(*components);
+    complete_ = true;
+    scheduleRead();
   });
 }
 
@@ -257,7 +288,6 @@ void EdsCalendarFeed::onViewSignal(const QDBusMessage& message) {
   } else if (member == QLatin1String("ObjectsRemoved")) {
     removeComponents(dbus::argument<QStringList>(message).value_or(QStringList()));
   } else if (member == QLatin1String("Complete")) {
-    complete_ = true;
     restart_.setInterval(firstRestart * 1000);  // it works again
     const QString error = dbus::argument<QString>(message, 1).value_or(QString());
     if (!dbus::argument<QString>(message).value_or(QString()).isEmpty()) {
@@ -265,6 +295,7 @@ void EdsCalendarFeed::onViewSignal(const QDBusMessage& message) {
                  Sentence(QT_TR_NOOP("Evolution Data Server could not list the calendar: %1"), tr)
                      .arg(Sentence::verbatim(error)));
     }
+    if (!complete_) listAll();
   }
   scheduleRead();
 }
