@@ -71,6 +71,11 @@ EdsCalendarFeed::EdsCalendarFeed(const EdsCalendar& calendar, ICalendarReadOptio
                   tr));
     restartFactoryLater();
   });
+  reopen_.setSingleShot(true);
+  reopen_.setInterval(firstRestart * 1000);
+  connect(&reopen_, &QTimer::timeout, this, [this] {
+    if (factory_.present()) open();
+  });
   restart_.setSingleShot(true);
   restart_.setInterval(firstRestart * 1000);
   connect(&restart_, &QTimer::timeout, this, [this] {
@@ -142,6 +147,7 @@ void EdsCalendarFeed::start() {
 }
 
 void EdsCalendarFeed::open() {
+  reopen_.stop();
   retireBackend();
   const quint64 opening = ++openings_;
   QDBusMessage call = QDBusMessage::createMethodCall(factoryService, factoryPath, factoryInterface,
@@ -157,8 +163,14 @@ void EdsCalendarFeed::open() {
       setProblem(DiagnosticsLog::Outcome::degraded,
                  Sentence(QT_TR_NOOP("Evolution Data Server cannot open the calendar: %1"), tr)
                      .arg(Sentence::verbatim(answer.errorMessage())));
+      // The factory hears of a new source from the registry a moment after Tindra may, more
+      // so while it reconnects to a registry that restarted; it is asked again, less and less
+      // often.
+      reopen_.start();
+      reopen_.setInterval(std::min(reopen_.interval() * 2, maxRestart * 1000));
       return;
     }
+    reopen_.setInterval(firstRestart * 1000);
     onOpened(*path, *busName);
   });
 }

@@ -8,7 +8,8 @@
 // calendar is read once at the start, not once per batch.
 // When the factory or the calendar's backend leaves, the events last read stay shown and the
 // calendar is opened again when the factory is back; a factory that crashed is started again
-// through the bus after a pause that doubles while it keeps failing. Every call is asynchronous.
+// through the bus, and a calendar it would not open is asked for again, after a pause that
+// doubles while it keeps failing. Every call is asynchronous.
 #pragma once
 
 #include <QDBusConnection>
@@ -93,6 +94,7 @@ class EdsCalendarFeed final : public CalendarFeed {
   bool complete_ = false;  // the calendar was listed since the view started
   QTimer readSoon_;        // one reading for the signals of one turn of the event loop
   QTimer restart_;         // starts the factory again after it left
+  QTimer reopen_;          // opens the calendar again after the factory refused to
   std::shared_ptr<std::atomic<quint64>> readings_ = std::make_shared<std::atomic<quint64>>(0);
 };
 
