@@ -204,7 +204,10 @@ void EdsCalendarFeed::onOpened(const QString& path, const QString& busName) {
     lost(Sentence(QT_TR_NOOP("the calendar's backend went away: the events last read are kept "
                              "until it is open again"),
                   tr));
-    if (factory_.present()) open();
+    // A calendar the factory serves itself goes with it, and this may be heard before the
+    // factory's own going: opening it again now would start a crashed factory at once, past
+    // restartFactoryLater's pause. The factory's return opens it then.
+    if (factory_.present() && busName_ != factoryService) open();
   };
   connect(backend_, &DBusServiceFollower::vanished, this, gone);
   connect(backend_, &DBusServiceFollower::missing, this, gone);
