@@ -3,6 +3,7 @@
 #include <QDBusObjectPath>
 #include <QDateTime>
 #include <QRegularExpression>
+#include <utility>
 
 #include "base/dbus/dbus_reply.h"
 
@@ -262,8 +263,8 @@ void EdsCalendarFeed::makeView() {
   });
 }
 
-// The view's changes that came before this answer are in the list (each is sent once made), so
-// the list replaces them; those after it are applied to it.
+// The list replaces what the view told before its answer, which is told again over it: a change
+// the list was taken too early for is not lost, and one it holds is only applied twice.
 void EdsCalendarFeed::listAll() {
   QDBusMessage call = calendarCall(QStringLiteral("GetObjectList"));
   call << query(calendar_.kind, readOptions().windowStart, readOptions().windowEnd);
@@ -278,6 +279,7 @@ void EdsCalendarFeed::listAll() {
     }
     components_.clear();
     addComponents(*components);
+    for (const QDBusMessage& change : std::exchange(unlisted_, {})) apply(change);
     complete_ = true;
     scheduleRead();
   });
@@ -287,6 +289,7 @@ void EdsCalendarFeed::closeView() {
   ++views_;
   complete_ = false;
   components_.clear();
+  unlisted_.clear();
   if (viewPath_.isEmpty() || backend_ == nullptr) return;
   for (const QString& member : viewSignals) {
     backend_->unfollowSignal(viewPath_, viewInterface, member);
@@ -297,12 +300,10 @@ void EdsCalendarFeed::closeView() {
 
 void EdsCalendarFeed::onViewSignal(const QDBusMessage& message) {
   if (message.path() != viewPath_ || message.interface() != viewInterface) return;
-  const QString& member = message.member();
-  if (member == QLatin1String("ObjectsAdded") || member == QLatin1String("ObjectsModified")) {
-    addComponents(dbus::argument<QStringList>(message).value_or(QStringList()));
-  } else if (member == QLatin1String("ObjectsRemoved")) {
-    removeComponents(dbus::argument<QStringList>(message).value_or(QStringList()));
-  } else if (member == QLatin1String("Complete")) {
+  if (message.member() != QLatin1String("Complete")) {
+    if (!complete_) unlisted_.append(message);
+    apply(message);
+  } else {
     restart_.setInterval(firstRestart * 1000);  // it works again
     const QString error = dbus::argument<QString>(message, 1).value_or(QString());
     if (!dbus::argument<QString>(message).value_or(QString()).isEmpty()) {
@@ -313,6 +314,15 @@ void EdsCalendarFeed::onViewSignal(const QDBusMessage& message) {
     if (!complete_) listAll();
   }
   scheduleRead();
+}
+
+void EdsCalendarFeed::apply(const QDBusMessage& change) {
+  const QStringList texts = dbus::argument<QStringList>(change).value_or(QStringList());
+  if (change.member() == QLatin1String("ObjectsRemoved")) {
+    removeComponents(texts);
+  } else {
+    addComponents(texts);  // added or modified
+  }
 }
 
 void EdsCalendarFeed::addComponents(const QStringList& components) {

@@ -63,6 +63,8 @@ class EdsCalendarFeed final : public CalendarFeed {
   void listAll();
   void closeView();
   void onViewSignal(const QDBusMessage& message);
+  // A view's ObjectsAdded, ObjectsModified or ObjectsRemoved.
+  void apply(const QDBusMessage& change);
   void addComponents(const QStringList& components);
   void removeComponents(const QStringList& keys);
   void askZones(const QByteArray& component);
@@ -86,6 +88,7 @@ class EdsCalendarFeed final : public CalendarFeed {
   quint64 openings_ = 0;
   quint64 views_ = 0;
   QMap<QString, QByteArray> components_;  // by key
+  QList<QDBusMessage> unlisted_;          // the view's changes until the calendar is listed
   // Those of the last reading, read again for new options while a new view fills components_
   // or the backend is away; shared with components_ (implicitly) while the view holds the same.
   QMap<QString, QByteArray> lastRead_;
