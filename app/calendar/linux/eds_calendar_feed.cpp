@@ -3,6 +3,7 @@
 #include <QDBusObjectPath>
 #include <QDateTime>
 #include <QRegularExpression>
+#include <utility>
 
 #include "base/dbus/dbus_reply.h"
 
@@ -70,6 +71,11 @@ EdsCalendarFeed::EdsCalendarFeed(const EdsCalendar& calendar, ICalendarReadOptio
                              "last read are kept until it returns"),
                   tr));
     restartFactoryLater();
+  });
+  reopen_.setSingleShot(true);
+  reopen_.setInterval(firstRestart * 1000);
+  connect(&reopen_, &QTimer::timeout, this, [this] {
+    if (factory_.present()) open();
   });
   restart_.setSingleShot(true);
   restart_.setInterval(firstRestart * 1000);
@@ -142,6 +148,7 @@ void EdsCalendarFeed::start() {
 }
 
 void EdsCalendarFeed::open() {
+  reopen_.stop();
   retireBackend();
   const quint64 opening = ++openings_;
   QDBusMessage call = QDBusMessage::createMethodCall(factoryService, factoryPath, factoryInterface,
@@ -157,8 +164,14 @@ void EdsCalendarFeed::open() {
       setProblem(DiagnosticsLog::Outcome::degraded,
                  Sentence(QT_TR_NOOP("Evolution Data Server cannot open the calendar: %1"), tr)
                      .arg(Sentence::verbatim(answer.errorMessage())));
+      // The factory hears of a new source from the registry a moment after Tindra may, more
+      // so while it reconnects to a registry that restarted; it is asked again, less and less
+      // often.
+      reopen_.start();
+      reopen_.setInterval(std::min(reopen_.interval() * 2, maxRestart * 1000));
       return;
     }
+    reopen_.setInterval(firstRestart * 1000);
     onOpened(*path, *busName);
   });
 }
@@ -192,7 +205,10 @@ void EdsCalendarFeed::onOpened(const QString& path, const QString& busName) {
     lost(Sentence(QT_TR_NOOP("the calendar's backend went away: the events last read are kept "
                              "until it is open again"),
                   tr));
-    if (factory_.present()) open();
+    // A calendar the factory serves itself goes with it, and this may be heard before the
+    // factory's own going: opening it again now would start a crashed factory at once, past
+    // restartFactoryLater's pause. The factory's return opens it then.
+    if (factory_.present() && busName_ != factoryService) open();
   };
   connect(backend_, &DBusServiceFollower::vanished, this, gone);
   connect(backend_, &DBusServiceFollower::missing, this, gone);
@@ -224,16 +240,48 @@ void EdsCalendarFeed::makeView() {
     for (const QString& member : viewSignals) {
       backend_->followSignal(viewPath_, viewInterface, member);
     }
-    const QDBusMessage startView =
-        QDBusMessage::createMethodCall(busName_, viewPath_, viewInterface, QStringLiteral("Start"));
-    backend_->call(startView, [this, view](const QDBusMessage& started) {
-      if (view != views_ || started.type() != QDBusMessage::ErrorMessage) return;
-      setProblem(DiagnosticsLog::Outcome::degraded,
-                 Sentence(QT_TR_NOOP("Evolution Data Server's view of the calendar does not "
-                                     "start: %1"),
-                          tr)
-                     .arg(Sentence::verbatim(started.errorMessage())));
+    // Without its first components: while a view sends those, Evolution Data Server holds
+    // back any change for up to two seconds (and more, its timer counting whole seconds), even
+    // after Complete, so an event added just after a start or a new window showed that late.
+    // The calendar is listed once the view is complete instead (listAll).
+    QDBusMessage flags = QDBusMessage::createMethodCall(busName_, viewPath_, viewInterface,
+                                                        QStringLiteral("SetFlags"));
+    flags << 0u;
+    backend_->call(flags, [this, view](const QDBusMessage&) {
+      if (view != views_) return;
+      const QDBusMessage startView = QDBusMessage::createMethodCall(
+          busName_, viewPath_, viewInterface, QStringLiteral("Start"));
+      backend_->call(startView, [this, view](const QDBusMessage& started) {
+        if (view != views_ || started.type() != QDBusMessage::ErrorMessage) return;
+        setProblem(DiagnosticsLog::Outcome::degraded,
+                   Sentence(QT_TR_NOOP("Evolution Data Server's view of the calendar does not "
+                                       "start: %1"),
+                            tr)
+                       .arg(Sentence::verbatim(started.errorMessage())));
+      });
     });
+  });
+}
+
+// The list replaces what the view told before its answer, which is told again over it: a change
+// the list was taken too early for is not lost, and one it holds is only applied twice.
+void EdsCalendarFeed::listAll() {
+  QDBusMessage call = calendarCall(QStringLiteral("GetObjectList"));
+  call << query(calendar_.kind, readOptions().windowStart, readOptions().windowEnd);
+  backend_->call(call, [this, view = views_](const QDBusMessage& answer) {
+    if (view != views_) return;
+    const auto components = dbus::argument<QStringList>(answer);
+    if (!components) {
+      setProblem(DiagnosticsLog::Outcome::degraded,
+                 Sentence(QT_TR_NOOP("Evolution Data Server could not list the calendar: %1"), tr)
+                     .arg(Sentence::verbatim(answer.errorMessage())));
+      return;
+    }
+    components_.clear();
+    addComponents(*components);
+    for (const QDBusMessage& change : std::exchange(unlisted_, {})) apply(change);
+    complete_ = true;
+    scheduleRead();
   });
 }
 
@@ -241,6 +289,7 @@ void EdsCalendarFeed::closeView() {
   ++views_;
   complete_ = false;
   components_.clear();
+  unlisted_.clear();
   if (viewPath_.isEmpty() || backend_ == nullptr) return;
   for (const QString& member : viewSignals) {
     backend_->unfollowSignal(viewPath_, viewInterface, member);
@@ -251,13 +300,10 @@ void EdsCalendarFeed::closeView() {
 
 void EdsCalendarFeed::onViewSignal(const QDBusMessage& message) {
   if (message.path() != viewPath_ || message.interface() != viewInterface) return;
-  const QString& member = message.member();
-  if (member == QLatin1String("ObjectsAdded") || member == QLatin1String("ObjectsModified")) {
-    addComponents(dbus::argument<QStringList>(message).value_or(QStringList()));
-  } else if (member == QLatin1String("ObjectsRemoved")) {
-    removeComponents(dbus::argument<QStringList>(message).value_or(QStringList()));
-  } else if (member == QLatin1String("Complete")) {
-    complete_ = true;
+  if (message.member() != QLatin1String("Complete")) {
+    if (!complete_) unlisted_.append(message);
+    apply(message);
+  } else {
     restart_.setInterval(firstRestart * 1000);  // it works again
     const QString error = dbus::argument<QString>(message, 1).value_or(QString());
     if (!dbus::argument<QString>(message).value_or(QString()).isEmpty()) {
@@ -265,8 +311,18 @@ void EdsCalendarFeed::onViewSignal(const QDBusMessage& message) {
                  Sentence(QT_TR_NOOP("Evolution Data Server could not list the calendar: %1"), tr)
                      .arg(Sentence::verbatim(error)));
     }
+    if (!complete_) listAll();
   }
   scheduleRead();
+}
+
+void EdsCalendarFeed::apply(const QDBusMessage& change) {
+  const QStringList texts = dbus::argument<QStringList>(change).value_or(QStringList());
+  if (change.member() == QLatin1String("ObjectsRemoved")) {
+    removeComponents(texts);
+  } else {
+    addComponents(texts);  // added or modified
+  }
 }
 
 void EdsCalendarFeed::addComponents(const QStringList& components) {

@@ -3,11 +3,13 @@
 // window replaces the view), which sends the calendar's components as they are added, changed
 // and removed. The components the view holds, with the calendar's own definitions of the time
 // zones they name, are read as one document by the reader every calendar shares, so recurrences
-// and moved occurrences are expanded as in any iCalendar file. Nothing is read until the view
-// has sent what it holds, so a large calendar is read once at the start, not once per batch.
+// and moved occurrences are expanded as in any iCalendar file. The view sends changes only: once
+// it is complete the calendar is listed in one call, and nothing is read before that, so a large
+// calendar is read once at the start, not once per batch.
 // When the factory or the calendar's backend leaves, the events last read stay shown and the
 // calendar is opened again when the factory is back; a factory that crashed is started again
-// through the bus after a pause that doubles while it keeps failing. Every call is asynchronous.
+// through the bus, and a calendar it would not open is asked for again, after a pause that
+// doubles while it keeps failing. Every call is asynchronous.
 #pragma once
 
 #include <QDBusConnection>
@@ -58,8 +60,11 @@ class EdsCalendarFeed final : public CalendarFeed {
   void open();
   void onOpened(const QString& path, const QString& busName);
   void makeView();
+  void listAll();
   void closeView();
   void onViewSignal(const QDBusMessage& message);
+  // A view's ObjectsAdded, ObjectsModified or ObjectsRemoved.
+  void apply(const QDBusMessage& change);
   void addComponents(const QStringList& components);
   void removeComponents(const QStringList& keys);
   void askZones(const QByteArray& component);
@@ -83,14 +88,16 @@ class EdsCalendarFeed final : public CalendarFeed {
   quint64 openings_ = 0;
   quint64 views_ = 0;
   QMap<QString, QByteArray> components_;  // by key
+  QList<QDBusMessage> unlisted_;          // the view's changes until the calendar is listed
   // Those of the last reading, read again for new options while a new view fills components_
   // or the backend is away; shared with components_ (implicitly) while the view holds the same.
   QMap<QString, QByteArray> lastRead_;
   QMap<QString, QByteArray> zones_;  // VTIMEZONE by TZID; empty when the calendar has none
   int zonesAsked_ = 0;
-  bool complete_ = false;  // the view has sent all it held
+  bool complete_ = false;  // the calendar was listed since the view started
   QTimer readSoon_;        // one reading for the signals of one turn of the event loop
   QTimer restart_;         // starts the factory again after it left
+  QTimer reopen_;          // opens the calendar again after the factory refused to
   std::shared_ptr<std::atomic<quint64>> readings_ = std::make_shared<std::atomic<quint64>>(0);
 };
 
