@@ -1,6 +1,6 @@
 #include "calendar/linux/calendar_feed.h"
 
-#include "base/heap_tuning.h"
+#include "base/linux/idle_pages_release.h"
 #include "base/qt_text.h"
 
 namespace tindra {
@@ -85,7 +85,7 @@ std::optional<CalendarFeed::Reading> CalendarFeed::read(const Gather& gather,
   reading.texts = std::move(texts);
   // libical builds a tree many times the document's size and frees it in small pieces, which
   // the allocator would otherwise keep for good.
-  giveBackFreedHeap();
+  IdlePagesRelease::giveBackFreedHeap();
   return reading;
 }
 
