@@ -9,7 +9,6 @@
 #include <QLocale>
 #include <QQuickWindow>
 #include <QTextStream>
-#include <QTimer>
 #include <QTranslator>
 #include <chrono>
 #include <cstdio>
@@ -33,8 +32,6 @@
 #include "tindra_app.h"
 
 namespace {
-
-constexpr std::chrono::seconds startupSettled{5};
 
 int runFocusCommand(int argc, char* argv[]) {
   QCoreApplication app(argc, argv);
@@ -111,13 +108,12 @@ int main(int argc, char* argv[]) {
   tindra::reportNoticeLatencyIfAsked(tindra.activities());
   tindra::reportStallsIfAsked();
   tindra::reportKeyLatencyIfAsked(*tindra.providers().get<tindra::HudProvider>().viewModel());
-  // Start-up's temporaries (compiling the QML, the first layout, the first readings) are freed
-  // by the time the notch has settled; what they leave in the heap goes back once.
-  QTimer::singleShot(startupSettled, [] { tindra::giveBackFreedHeap(); });
   if (!options.isSet(demo)) {
-    // Most of the program's and the libraries' pages were touched only while starting; once the
-    // notch has drawn and the providers have had their first answers, they go back, and those
-    // an opened notch touched go back after it has drawn nothing for a quarter of an hour.
+    // Most of the program's and the libraries' pages were touched only while starting, and
+    // start-up's temporaries (compiling the QML, the first layout, the first readings) are freed
+    // by then; once the notch has drawn and the providers have had their first answers, both go
+    // back, and what an opened notch touched goes back after it has drawn nothing for a quarter
+    // of an hour.
     tindra::IdlePagesRelease idlePages(std::chrono::seconds(10), std::chrono::minutes(15));
     idlePages.watchFrames();
     QObject::connect(&tindra.notches(), &tindra::NotchScreenManager::windowsChanged, &idlePages,

@@ -2,17 +2,15 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
 #include <QTest>
 #include <QTimer>
 #include <fstream>
 
 #include "banners/fake_notification_source.h"
-#include "base/activity_center.h"
 #include "focus/fake_focus_status_source.h"
 #include "settings/settings_keys.h"
-#include "settings/settings_store.h"
 #include "testing/picture_checks.h"
+#include "testing/provider_test_context.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
@@ -37,14 +35,13 @@ class BannerProviderTest : public ::testing::Test {
     source_ = source.get();
     auto opener = std::make_unique<RecordingOpener>();
     opener_ = opener.get();
-    provider_ = std::make_unique<BannerProvider>(
-        ProviderContext{activities_, settings_, diagnostics_}, std::move(source), focus_,
-        std::move(opener), BannerApps::defaults());
+    provider_ = std::make_unique<BannerProvider>(context_, std::move(source), focus_,
+                                                 std::move(opener), BannerApps::defaults());
   }
 
   void enable(bool calls, bool messages) {
-    ASSERT_TRUE(settings_.write(settings::experimentalCallNotices, calls));
-    ASSERT_TRUE(settings_.write(settings::experimentalMessageNotices, messages));
+    ASSERT_TRUE(context_.settings().write(settings::experimentalCallNotices, calls));
+    ASSERT_TRUE(context_.settings().write(settings::experimentalMessageNotices, messages));
   }
 
   static DesktopNotification message(quint32 id, std::string body = "See you at <b>noon</b>") {
@@ -59,10 +56,7 @@ class BannerProviderTest : public ::testing::Test {
     return {.id = id, .appName = "Phone", .summary = "Ana", .category = std::move(category)};
   }
 
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
-  ActivityCenter activities_{settings_};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_;
   std::shared_ptr<FakeFocusStatusSource> focus_ = std::make_shared<FakeFocusStatusSource>();
   FakeNotificationSource* source_ = nullptr;
   RecordingOpener* opener_ = nullptr;
@@ -82,14 +76,14 @@ TEST_F(BannerProviderTest, ARingingCallLastsUntilItsNotificationCloses) {
   enable(true, false);
   provider_->start();
   source_->send(call(4));
-  EXPECT_EQ(activities_.current(), ActivityKind::incomingCall);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::incomingCall);
   EXPECT_TRUE(provider_->viewModel()->ringing());
   EXPECT_EQ(provider_->viewModel()->callApp(), "Phone");
 
   source_->close(3);  // someone else's
-  EXPECT_EQ(activities_.current(), ActivityKind::incomingCall);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::incomingCall);
   source_->close(4);
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
   EXPECT_FALSE(provider_->viewModel()->showing());
 
   // A call nobody withdraws (its program died) stops ringing on its own.
@@ -101,14 +95,14 @@ TEST_F(BannerProviderTest, ARingingCallLastsUntilItsNotificationCloses) {
   EXPECT_EQ(limit->intervalAsDuration(), BannerProvider::longestRing);
   limit->start(1);  // two minutes are long for a test
   EXPECT_TRUE(QTest::qWaitFor([&] { return !provider_->viewModel()->ringing(); }));
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
 
   // A ringing notification replaced by the missed call stops ringing, and the missed call shows
   // with the calls, though messages are off.
   source_->send(call(5));
   source_->send(call(5, "call.unanswered"));
   EXPECT_FALSE(provider_->viewModel()->ringing());
-  EXPECT_EQ(activities_.current(), ActivityKind::message);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::message);
   EXPECT_TRUE(provider_->viewModel()->missedCall());
 }
 
@@ -116,7 +110,7 @@ TEST_F(BannerProviderTest, AMessageShowsWhoAndWhatWithAButtonThatOpensItsSender)
   enable(true, true);
   provider_->start();
   source_->send(message(7));
-  EXPECT_EQ(activities_.current(), ActivityKind::message);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::message);
   BannerViewModel& view = *provider_->viewModel();
   EXPECT_EQ(view.app(), "Chat");
   EXPECT_EQ(view.title(), "Ana");
@@ -142,7 +136,7 @@ TEST_F(BannerProviderTest, AMessageShowsWhoAndWhatWithAButtonThatOpensItsSender)
   EXPECT_GT(countPixels(panel, near(Qt::white), button), 40);
 
   source_->close(7);
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
   EXPECT_FALSE(view.hasMessage());
 }
 
@@ -152,10 +146,10 @@ TEST_F(BannerProviderTest, NothingShowsWhileTheDesktopKeepsBannersQuiet) {
   source_->send(call(1));
   source_->send(message(2));
   focus_->setFocused(true);  // do-not-disturb takes away what shows
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
   source_->send(call(3));
   source_->send(message(4));
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
   EXPECT_FALSE(provider_->viewModel()->showing());
 }
 
@@ -177,10 +171,10 @@ TEST_F(BannerProviderTest, HostileTextIsShownPlainAndShort) {
 }
 
 TEST_F(BannerProviderTest, TheUsersOwnAppListIsReadBesideTheSettings) {
-  const std::filesystem::path file = dir_.filePath("banner-apps.json").toStdString();
+  const std::filesystem::path file = context_.filePath("banner-apps.json").toStdString();
   std::ofstream(file) << R"({"messageApps": ["mail"]})";
   EXPECT_EQ(BannerProvider::userApps(file).messages, std::vector<std::string>{"mail"});
-  EXPECT_EQ(BannerProvider::userApps(dir_.filePath("none.json").toStdString()).messages,
+  EXPECT_EQ(BannerProvider::userApps(context_.filePath("none.json").toStdString()).messages,
             BannerApps::defaults().messages);
 }
 

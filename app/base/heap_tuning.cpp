@@ -26,10 +26,4 @@ void tuneHeapForLongRun() {
 #endif
 }
 
-void giveBackFreedHeap() {
-#if defined(__GLIBC__)
-  malloc_trim(0);
-#endif
-}
-
 }  // namespace tindra

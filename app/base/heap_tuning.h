@@ -8,11 +8,8 @@
 
 namespace tindra {
 
-// Before any thread starts: the first thing main does.
+// Before any thread starts: the first thing main does. What the heap frees is given back with
+// the idle file pages (IdlePagesRelease).
 void tuneHeapForLongRun();
-
-// Hands the heap's free pages back to the system: after large transient work, and once the first
-// frame has settled, when start-up's temporaries are gone.
-void giveBackFreedHeap();
 
 }  // namespace tindra

@@ -2,15 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "base/activity_center.h"
 #include "calendar/fake_calendar_backend.h"
 #include "calendar/upcoming_event_sound_log.h"
 #include "settings/settings_keys.h"
 #include "testing/manual_one_shot_scheduler.h"
 #include "testing/picture_checks.h"
+#include "testing/provider_test_context.h"
 #include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
 
@@ -43,8 +42,7 @@ class CalendarProviderTest : public ::testing::Test {
     auto backend = std::make_unique<FakeCalendarBackend>(tenOClock());
     backend_ = backend.get();
     provider_ = std::make_unique<CalendarProvider>(
-        ProviderContext{activities_, settings_, diagnostics_}, std::move(backend),
-        std::move(travel), sounds_, [this] { return now_; },
+        context_, std::move(backend), std::move(travel), sounds_, [this] { return now_; },
         [this](const QUrl& url) {
           opened_ << url;
           return true;
@@ -53,7 +51,7 @@ class CalendarProviderTest : public ::testing::Test {
   }
 
   void enable() {
-    (void)settings_.write(settings::calendarEnabled, true);
+    (void)context_.settings().write(settings::calendarEnabled, true);
     QCoreApplication::processEvents();
   }
   void advanceTo(double now) {
@@ -61,10 +59,7 @@ class CalendarProviderTest : public ::testing::Test {
     provider_->update();
   }
 
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
-  ActivityCenter activities_{settings_};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_;
   FakeCalendarBackend* backend_ = nullptr;
   std::shared_ptr<RecordedSounds> sounds_ = std::make_shared<RecordedSounds>();
   QList<QUrl> opened_;
@@ -77,7 +72,7 @@ TEST_F(CalendarProviderTest, FeaturesTheNextMeetingFromItsLeadTimeUntilItHasRunA
   provider_->start();
   CalendarViewModel& view = *provider_->viewModel();
   EXPECT_FALSE(view.enabled()) << "nothing is read while the calendar is off";
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
 
   enable();
   ASSERT_TRUE(view.featured());
@@ -85,7 +80,7 @@ TEST_F(CalendarProviderTest, FeaturesTheNextMeetingFromItsLeadTimeUntilItHasRunA
   EXPECT_EQ(view.earText(), "8 min");
   EXPECT_EQ(view.countdown(), "in 8 min");
   EXPECT_EQ(view.joinService(), "Zoom");
-  EXPECT_EQ(activities_.current(), ActivityKind::upcomingEvent);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::upcomingEvent);
   // The next change shown is the countdown's next minute, 60 s on, and the wake-up brings it.
   EXPECT_EQ(provider_->nextUpdate(), now_ + 60);
   EXPECT_EQ(wake_->aimed(), 60);
@@ -103,7 +98,7 @@ TEST_F(CalendarProviderTest, FeaturesTheNextMeetingFromItsLeadTimeUntilItHasRunA
   // Five minutes after its start it lets go; the agenda marks it under way.
   advanceTo(tenOClock() + 13 * 60);
   EXPECT_FALSE(view.featured());
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
   const QVariantList agenda = view.agenda();
   ASSERT_EQ(agenda.size(), 4) << "the declined sync is left out";
   EXPECT_EQ(agenda[0].toMap()["title"], "Ada's birthday") << "all-day events first";
@@ -111,7 +106,7 @@ TEST_F(CalendarProviderTest, FeaturesTheNextMeetingFromItsLeadTimeUntilItHasRunA
   EXPECT_EQ(agenda[2].toMap()["status"], "now");
   EXPECT_EQ(agenda[2].toMap()["joinService"], "Zoom");
 
-  (void)settings_.write(settings::calendarEnabled, false);
+  (void)context_.settings().write(settings::calendarEnabled, false);
   EXPECT_FALSE(wake_->isPending()) << "nothing wakes while the calendar is off";
 }
 
@@ -119,36 +114,35 @@ TEST_F(CalendarProviderTest, SettingsShapeWhatIsShown) {
   provider_->start();
   enable();
   CalendarViewModel& view = *provider_->viewModel();
-  (void)settings_.write(settings::calendarTimeFormat, EventTimeFormat::both);
+  (void)context_.settings().write(settings::calendarTimeFormat, EventTimeFormat::both);
   EXPECT_TRUE(view.earText().startsWith("8 min · "));
-  (void)settings_.write(settings::calendarPrivacyMode, true);
+  (void)context_.settings().write(settings::calendarPrivacyMode, true);
   EXPECT_EQ(view.title(), "Event");
   EXPECT_EQ(view.joinService(), "Zoom") << "the Join button stays in privacy mode";
   EXPECT_TRUE(view.reminders().isEmpty());
-  (void)settings_.write(settings::remindersEnabled, true);
+  (void)context_.settings().write(settings::remindersEnabled, true);
   ASSERT_EQ(view.reminders().size(), 2);
   EXPECT_EQ(view.reminders()[0].toMap()["title"], "Reminder");
   EXPECT_FALSE(view.reminders()[0].toMap()["done"].toBool()) << "open to-dos first";
-  (void)settings_.write(settings::calendarExcludedIdentifiers, {"work"});
+  (void)context_.settings().write(settings::calendarExcludedIdentifiers, {"work"});
   EXPECT_FALSE(view.featured());
   EXPECT_TRUE(view.agenda().isEmpty());
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
 }
 
 TEST_F(CalendarProviderTest, TheStartSoundPlaysOncePerMeetingAcrossRestarts) {
-  (void)settings_.write(settings::calendarEventSound, true);
+  (void)context_.settings().write(settings::calendarEventSound, true);
   provider_->start();
   enable();
   advanceTo(now_ + 60);
   EXPECT_EQ(sounds_->played, QStringList{"tindra-event"});
-  const auto log =
-      UpcomingEventSoundLog::fromJSON(JSONValue(settings_.read(settings::calendarEventSoundLog)));
+  const auto log = UpcomingEventSoundLog::fromJSON(
+      JSONValue(context_.settings().read(settings::calendarEventSoundLog)));
   EXPECT_EQ(log.played.size(), 1U);
 
   // A new provider, as after a restart, finds the log and stays quiet.
   auto restarted = std::make_unique<CalendarProvider>(
-      ProviderContext{activities_, settings_, diagnostics_},
-      std::make_unique<FakeCalendarBackend>(tenOClock()),
+      context_, std::make_unique<FakeCalendarBackend>(tenOClock()),
       std::make_unique<NullTravelTimeEstimator>(), sounds_, [this] { return now_; },
       [](const QUrl&) { return true; });
   restarted->start();
@@ -166,7 +160,7 @@ TEST_F(CalendarProviderTest, JoinOpensTheMeetingLinkWithTheDesktop) {
 }
 
 TEST_F(CalendarProviderTest, NoDepartureTimeIsShownWithoutATravelTimeSource) {
-  (void)settings_.write(settings::travelTimeEnabled, true);
+  (void)context_.settings().write(settings::travelTimeEnabled, true);
   provider_->start();
   enable();
   advanceTo(tenOClock() + 40 * 60);  // the review is over; lunch at 12:30 is next
@@ -182,7 +176,7 @@ class CalendarProviderTravelTest : public CalendarProviderTest {
 };
 
 TEST_F(CalendarProviderTravelTest, ADepartureTimeFollowsTheTripAndTheBuffer) {
-  (void)settings_.write(settings::travelTimeEnabled, true);
+  (void)context_.settings().write(settings::travelTimeEnabled, true);
   provider_->start();
   enable();
   advanceTo(tenOClock() + 40 * 60);
@@ -192,7 +186,7 @@ TEST_F(CalendarProviderTravelTest, ADepartureTimeFollowsTheTripAndTheBuffer) {
 }
 
 TEST_F(CalendarProviderTest, ViewsDrawTheMeetingItsJoinButtonAndTheAgenda) {
-  (void)settings_.write(settings::remindersEnabled, true);
+  (void)context_.settings().write(settings::remindersEnabled, true);
   provider_->start();
   enable();
   CalendarViewModel* view = provider_->viewModel();

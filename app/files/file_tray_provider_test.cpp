@@ -8,13 +8,13 @@
 #include <QTest>
 #include <filesystem>
 
-#include "base/activity_center.h"
 #include "base/diagnostics_log.h"
 #include "base/qt_text.h"
 #include "files/fake_file_tray_backend.h"
 #include "files/linux/posix_file_tray_backend.h"
 #include "settings/settings_keys.h"
 #include "testing/picture_checks.h"
+#include "testing/provider_test_context.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
@@ -29,7 +29,7 @@ bool waitFor(const std::function<bool()>& condition) {
 class FileTrayProviderTest : public ::testing::Test {
  protected:
   FileTrayProviderTest() {
-    EXPECT_TRUE(settings_.write(settings::experimentalFileTray, true));
+    EXPECT_TRUE(context_.settings().write(settings::experimentalFileTray, true));
     QDir().mkpath(files_.path());
   }
 
@@ -42,8 +42,7 @@ class FileTrayProviderTest : public ::testing::Test {
       });
     }
     auto provider = std::make_unique<FileTrayProvider>(
-        ProviderContext{activities_, settings_, diagnostics_}, std::move(fileSystem),
-        data_.path().toStdString(), [] { return 1000.0; });
+        context_, std::move(fileSystem), data_.path().toStdString(), [] { return 1000.0; });
     provider->start();
     return provider;
   }
@@ -58,12 +57,9 @@ class FileTrayProviderTest : public ::testing::Test {
     return tray.viewModel()->items().value(index).toMap();
   }
 
-  QTemporaryDir dir_;
+  ProviderTestContext context_;
   QTemporaryDir data_;
   QTemporaryDir files_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
-  ActivityCenter activities_{settings_};
-  DiagnosticsLog diagnostics_;
   QStringList opened_;
 };
 
@@ -105,14 +101,14 @@ TEST_F(FileTrayProviderTest, TheFileSystemIsTheBackends) {
   ASSERT_EQ(tray->tray().items().size(), 2u);
 
   files.invent("/invented/notes.txt", 7);  // replaced under its name
-  ASSERT_TRUE(settings_.write(settings::experimentalFileTray, false));
-  ASSERT_TRUE(settings_.write(settings::experimentalFileTray, true));  // drawn again
+  ASSERT_TRUE(context_.settings().write(settings::experimentalFileTray, false));
+  ASSERT_TRUE(context_.settings().write(settings::experimentalFileTray, true));  // drawn again
   tray->viewModel()->open(item(*tray, 1)["id"].toString());
   tray->viewModel()->open(item(*tray, 0)["id"].toString());
   EXPECT_TRUE(item(*tray, 1)["missing"].toBool());
   EXPECT_EQ(files.opened, std::vector<std::string>{"/invented/report.pdf"});
 
-  ASSERT_TRUE(settings_.write(settings::fileTrayMode, FileTrayStorageMode::copy));
+  ASSERT_TRUE(context_.settings().write(settings::fileTrayMode, FileTrayStorageMode::copy));
   files.invent("/invented/photo.jpg", 9);
   ASSERT_TRUE(tray->drop({url("/invented/photo.jpg")}));
   ASSERT_TRUE(waitFor([&] { return !tray->copying() && !tray->viewModel()->status().isEmpty(); }));
@@ -138,13 +134,13 @@ TEST_F(FileTrayProviderTest, TwentyItemsAndEachFileOnce) {
   auto again = started();
   EXPECT_EQ(again->tray().items(), tray->tray().items());
 
-  ASSERT_TRUE(settings_.write(settings::experimentalFileTray, false));
+  ASSERT_TRUE(context_.settings().write(settings::experimentalFileTray, false));
   EXPECT_FALSE(tray->drop({file("late")}));
   EXPECT_FALSE(tray->viewModel()->showing());
 }
 
 TEST_F(FileTrayProviderTest, CopiesAreMadeAsideWithProgressAndRemovedWithTheirItems) {
-  ASSERT_TRUE(settings_.write(settings::fileTrayMode, FileTrayStorageMode::copy));
+  ASSERT_TRUE(context_.settings().write(settings::fileTrayMode, FileTrayStorageMode::copy));
   auto tray = started();
   QDir().mkpath(files_.filePath("folder/inner"));
   QFile inner(files_.filePath("folder/inner/a.bin"));
@@ -174,7 +170,7 @@ TEST_F(FileTrayProviderTest, CopiesAreMadeAsideWithProgressAndRemovedWithTheirIt
 }
 
 TEST_F(FileTrayProviderTest, CopiesHoldTwoGigabytesExactlyAndAStoppedCopyLeavesNothing) {
-  ASSERT_TRUE(settings_.write(settings::fileTrayMode, FileTrayStorageMode::copy));
+  ASSERT_TRUE(context_.settings().write(settings::fileTrayMode, FileTrayStorageMode::copy));
   auto tray = started();
   ASSERT_TRUE(tray->drop({file("too-big.bin", 2'000'000'001)}));
   ASSERT_TRUE(waitFor([&] { return !tray->viewModel()->status().isEmpty(); }));
@@ -199,7 +195,7 @@ TEST_F(FileTrayProviderTest, AnUnreadableSavedListIsKeptAsideAndSaid) {
   saved.close();
   auto tray = started();
   EXPECT_TRUE(tray->tray().items().empty());
-  const DiagnosticsLog::Entry& said = diagnostics_.entries().back();
+  const DiagnosticsLog::Entry& said = context_.diagnostics().entries().back();
   EXPECT_EQ(said.outcome, DiagnosticsLog::Outcome::degraded);
   ASSERT_TRUE(said.text.english().contains("could not be read"))
       << said.text.english().toStdString();

@@ -2,14 +2,11 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
-#include "base/activity_center.h"
 #include "focus/fake_focus_status_source.h"
 #include "settings/settings_keys.h"
-#include "settings/settings_store.h"
 #include "shell/focus_command.h"
 #include "testing/picture_checks.h"
+#include "testing/provider_test_context.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
@@ -17,23 +14,17 @@ namespace {
 
 class FocusProviderTest : public ::testing::Test {
  protected:
-  FocusProviderTest() {
-    provider_ = std::make_unique<FocusProvider>(
-        ProviderContext{activities_, settings_, diagnostics_}, status_);
-  }
+  FocusProviderTest() { provider_ = std::make_unique<FocusProvider>(context_, status_); }
 
   // `tindra focus ...`, as a shortcut would run it; its exit status.
   int focusCommand(const QStringList& arguments) {
     QString output;
     QTextStream out(&output);
     QTextStream err(&errors_);
-    return FocusCommand::run(arguments, settings_, 1000.0, out, err);
+    return FocusCommand::run(arguments, context_.settings(), 1000.0, out, err);
   }
 
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
-  ActivityCenter activities_{settings_};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_;
   std::shared_ptr<FakeFocusStatusSource> status_ = std::make_shared<FakeFocusStatusSource>();
   std::unique_ptr<FocusProvider> provider_;
   QString errors_;
@@ -42,12 +33,12 @@ class FocusProviderTest : public ::testing::Test {
 TEST_F(FocusProviderTest, TheCommandNamesTheFocusAndTheDesktopsOwnIsAnUnnamedMoon) {
   provider_->start();
   EXPECT_FALSE(provider_->shown());
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
 
   ASSERT_EQ(focusCommand({"on", "--name", "Deep\nWork\n", "--symbol", "book"}), 0);
   using Shown = FocusPresentation::Shown;
   EXPECT_EQ(provider_->shown(), (Shown{"Deep Work", FocusSymbol::book}));
-  EXPECT_EQ(activities_.current(), ActivityKind::focus);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::focus);
   EXPECT_TRUE(provider_->viewModel()->indicator());
 
   // The desktop's do-not-disturb under a named Focus changes nothing shown.
@@ -59,18 +50,18 @@ TEST_F(FocusProviderTest, TheCommandNamesTheFocusAndTheDesktopsOwnIsAnUnnamedMoo
   status_->setFocused(false);
   EXPECT_FALSE(provider_->shown());
   EXPECT_EQ(provider_->lastTurnedOff(), (Shown{std::nullopt, FocusSymbol::moon}));
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
   EXPECT_FALSE(provider_->viewModel()->indicator());
 }
 
 TEST_F(FocusProviderTest, SettingsSilenceTheNoticeOrTheIndicator) {
   provider_->start();
-  ASSERT_TRUE(settings_.write(settings::focusKeepsIndicator, false));
+  ASSERT_TRUE(context_.settings().write(settings::focusKeepsIndicator, false));
   status_->setFocused(true);
   EXPECT_TRUE(provider_->shown());
   EXPECT_FALSE(provider_->viewModel()->indicator());
 
-  ASSERT_TRUE(settings_.write(settings::focusShown, false));
+  ASSERT_TRUE(context_.settings().write(settings::focusShown, false));
   EXPECT_FALSE(provider_->shown());
   EXPECT_FALSE(provider_->viewModel()->shown());
 }
@@ -82,7 +73,7 @@ TEST_F(FocusProviderTest, TheCommandRefusesWhatItCannotWrite) {
   EXPECT_EQ(focusCommand({"sideways"}), 2);
   EXPECT_EQ(focusCommand({"off", "--name", "x"}), 2);
   EXPECT_EQ(focusCommand({}), 2);
-  EXPECT_EQ(settings_.read(settings::focusFilterState), "");
+  EXPECT_EQ(context_.settings().read(settings::focusFilterState), "");
 }
 
 TEST_F(FocusProviderTest, TheNoticeShowsTheSymbolAndName) {

@@ -12,15 +12,13 @@
 #include <csignal>
 #include <random>
 
-#include "base/activity_center.h"
-#include "base/diagnostics_log.h"
 #include "levels/hud_provider.h"
 #include "levels/linux/pulse_volume_backend.h"
 #include "levels/linux/sysfs_backlight_backend.h"
 #include "levels/linux/upower_keyboard_backlight_backend.h"
 #include "levels/linux/x11_media_key_source.h"
-#include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/provider_test_context.h"
 #include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
@@ -88,7 +86,7 @@ class HudProviderDesktopTest : public ::testing::Test {
     auto keys = std::make_unique<X11MediaKeySource>();
     keys_ = keys.get();
     provider_ = std::make_unique<HudProvider>(
-        ProviderContext{activities_, settings_, diagnostics_},
+        context_,
         HudBackends{
             std::move(volume),
             std::make_unique<SysfsBacklightBackend>(folder_->path(), QDBusConnection::systemBus()),
@@ -101,7 +99,7 @@ class HudProviderDesktopTest : public ::testing::Test {
   HudViewModel& view() { return *provider_->viewModel(); }
   QString keysDiagnostic() const {
     QString text;
-    for (const auto& entry : diagnostics_.entries()) {
+    for (const auto& entry : context_.diagnostics().entries()) {
       if (entry.source == "keys") text = entry.text.english();
     }
     return text;
@@ -111,10 +109,7 @@ class HudProviderDesktopTest : public ::testing::Test {
   static inline std::unique_ptr<DBusMockService> logind_;
   // The sound server the test started in place of the session's, once that one was killed.
   static inline std::unique_ptr<QProcess> soundServer_;
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
-  ActivityCenter activities_{settings_};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_;
   X11MediaKeySource* keys_ = nullptr;
   PulseVolumeBackend* volume_ = nullptr;
   std::unique_ptr<HudProvider> provider_;
@@ -125,7 +120,7 @@ TEST_F(HudProviderDesktopTest, VolumeKeysChangeTheServerAndShowOnce) {
   press("XF86AudioRaiseVolume");
   ASSERT_TRUE(waitFor([] { return pactl({"get-sink-volume", "tindra_test"}).contains("56%"); }));
   EXPECT_EQ(view().percent(), 56);
-  EXPECT_EQ(activities_.current(), ActivityKind::hud);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::hud);
   QTest::qWait(300);  // the server's report of the write has come and gone
   EXPECT_EQ(shows.count(), 1);
 
@@ -153,7 +148,7 @@ TEST_F(HudProviderDesktopTest, AKeyAnotherProgramHoldsIsOnlyWatched) {
       << keysDiagnostic().toStdString();
   pactl({"set-sink-mute", "tindra_test", "1"});  // what that program does with the key
   ASSERT_TRUE(waitFor([&] { return view().muted(); }));
-  EXPECT_EQ(activities_.current(), ActivityKind::hud);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::hud);
 }
 
 TEST_F(HudProviderDesktopTest, BrightnessKeysWriteThroughLogind) {
@@ -215,7 +210,7 @@ TEST_F(HudProviderDesktopTest, FollowsTheSoundServerBackAfterEveryCrash) {
   // Diagnostics told each loss and the return.
   int wentAway = 0;
   QString last;
-  for (const auto& entry : diagnostics_.entries()) {
+  for (const auto& entry : context_.diagnostics().entries()) {
     if (entry.source != "volume") continue;
     last = entry.text.english();
     if (last.contains("went away")) ++wentAway;

@@ -3,17 +3,15 @@
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
-#include "base/activity_center.h"
 #include "base/diagnostics_log.h"
 #include "levels/fake_backlight_backend.h"
 #include "levels/fake_media_key_source.h"
 #include "levels/fake_volume_backend.h"
 #include "levels/fake_volume_sound_preference.h"
 #include "settings/settings_keys.h"
-#include "settings/settings_store.h"
 #include "testing/manual_one_shot_scheduler.h"
+#include "testing/provider_test_context.h"
 
 namespace tindra {
 namespace {
@@ -23,11 +21,7 @@ using Key = SystemDefinedKeyEvent::Key;
 // The provider on fakes, with a clock the test moves.
 class HudProviderTest : public ::testing::Test {
  protected:
-  HudProviderTest()
-      : settings_(dir_.filePath("settings.json").toStdString(), [] { return 0.0; }),
-        activities_(
-            settings_, [this] { return now_; },
-            std::unique_ptr<OneShotScheduler>(new ManualOneShotScheduler)) {
+  HudProviderTest() {
     auto volume = std::make_unique<FakeVolumeBackend>();
     auto display = std::make_unique<FakeBacklightBackend>("panel", 0.5);
     auto keyboard = std::make_unique<FakeBacklightBackend>("keyboard", 0.5);
@@ -39,25 +33,21 @@ class HudProviderTest : public ::testing::Test {
     keyboard_ = keyboard.get();
     keys_ = keys.get();
     provider_ = std::make_unique<HudProvider>(
-        ProviderContext{activities_, settings_, diagnostics_},
-        HudBackends{std::move(volume), std::move(display), std::move(keyboard), std::move(keys),
-                    nullptr, std::move(volumeSound)});
+        context_, HudBackends{std::move(volume), std::move(display), std::move(keyboard),
+                              std::move(keys), nullptr, std::move(volumeSound)});
   }
 
   HudViewModel& view() { return *provider_->viewModel(); }
   QString lastDiagnostic(const QString& source) const {
     QString text;
-    for (const auto& entry : diagnostics_.entries()) {
+    for (const auto& entry : context_.diagnostics().entries()) {
       if (entry.source == source) text = entry.text.english();
     }
     return text;
   }
 
-  QTemporaryDir dir_;
   double now_ = 100;
-  SettingsStore settings_;
-  ActivityCenter activities_;
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_{[this] { return now_; }, std::make_unique<ManualOneShotScheduler>()};
   FakeVolumeBackend* volume_;
   FakeBacklightBackend* display_;
   FakeBacklightBackend* keyboard_;
@@ -69,7 +59,8 @@ class HudProviderTest : public ::testing::Test {
 TEST_F(HudProviderTest, VolumeKeysStepFromWhatWasWrittenAndShowItOnce) {
   provider_->start();
   QSignalSpy changes(&view(), &HudViewModel::changed);
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);  // the first reading shows nothing
+  EXPECT_EQ(context_.activities().current(),
+            ActivityKind::idle);  // the first reading shows nothing
   EXPECT_TRUE(keys_->holds(Key::soundUp));
   EXPECT_TRUE(keys_->holds(Key::soundUp, KeyModifiers::option() | KeyModifiers::shift()));
   EXPECT_FALSE(keys_->holds(Key::soundUp, KeyModifiers::option()));  // Option alone stays
@@ -77,7 +68,7 @@ TEST_F(HudProviderTest, VolumeKeysStepFromWhatWasWrittenAndShowItOnce) {
   keys_->tap(Key::soundUp);  // 0.6 lies between grid points: on to 10/16
   EXPECT_EQ(volume_->reading()->level, 0.625);
   EXPECT_EQ(view().percent(), 63);
-  EXPECT_EQ(activities_.current(), ActivityKind::hud);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::hud);
   EXPECT_EQ(changes.count(), 1);  // the server's echo of the write is not a second show
 
   // A late echo of the first write, after a second press, neither shows nor moves the bar back.
@@ -101,7 +92,7 @@ TEST_F(HudProviderTest, VolumeKeysStepFromWhatWasWrittenAndShowItOnce) {
   keys_->tap(Key::soundUp);
   EXPECT_FALSE(volume_->reading()->muted);
   EXPECT_EQ(volume_->feedbackPlayed, 1);
-  ASSERT_TRUE(settings_.write(settings::volumeFeedbackFallback, true));
+  ASSERT_TRUE(context_.settings().write(settings::volumeFeedbackFallback, true));
   keys_->tap(Key::soundUp);
   EXPECT_EQ(volume_->feedbackPlayed, 2);
 }
@@ -116,11 +107,11 @@ TEST_F(HudProviderTest, TheDesktopsVolumeSoundChoiceWinsOverTheFallback) {
     keys_->tap(Key::soundDown, modifiers);
     return volume_->feedbackPlayed > before;
   };
-  ASSERT_TRUE(settings_.write(settings::volumeFeedbackFallback, true));
+  ASSERT_TRUE(context_.settings().write(settings::volumeFeedbackFallback, true));
   volumeSound_->publish(false);
   EXPECT_FALSE(plays({}));
   EXPECT_TRUE(plays(KeyModifiers::shift()));
-  ASSERT_TRUE(settings_.write(settings::volumeFeedbackFallback, false));
+  ASSERT_TRUE(context_.settings().write(settings::volumeFeedbackFallback, false));
   volumeSound_->publish(true);
   EXPECT_TRUE(plays({}));
   EXPECT_FALSE(plays(KeyModifiers::shift()));
@@ -129,7 +120,7 @@ TEST_F(HudProviderTest, TheDesktopsVolumeSoundChoiceWinsOverTheFallback) {
   EXPECT_TRUE(plays(KeyModifiers::shift()));
   // The app-wide sounds switch silences it whatever the desktop says.
   volumeSound_->publish(true);
-  ASSERT_TRUE(settings_.write(settings::playSounds, false));
+  ASSERT_TRUE(context_.settings().write(settings::playSounds, false));
   EXPECT_FALSE(plays({}));
   EXPECT_TRUE(lastDiagnostic("volume sound").contains("invented volume sound setting"));
 }
@@ -147,10 +138,10 @@ TEST_F(HudProviderTest, ChangesMadeElsewhereShowUnlessTheyComeWithANewOutput) {
   // The keyboard light is watched only while its setting is on.
   keyboard_->change(0.2);
   EXPECT_EQ(changes.count(), 2);
-  ASSERT_TRUE(settings_.write(settings::experimentalKeyboardBacklight, true));
+  ASSERT_TRUE(context_.settings().write(settings::experimentalKeyboardBacklight, true));
   keyboard_->change(0.3);
   EXPECT_EQ(view().kind(), "keyboardBacklight");
-  ASSERT_TRUE(settings_.write(settings::volumeHUDEnabled, false));
+  ASSERT_TRUE(context_.settings().write(settings::volumeHUDEnabled, false));
   volume_->publish(VolumeReading{"headphones", 0.1, false, AudioTransport::usb});
   EXPECT_EQ(view().kind(), "keyboardBacklight");
 }
@@ -167,9 +158,9 @@ TEST_F(HudProviderTest, KeysAreHeldOnlyWhereTindraCanChangeTheLevel) {
   EXPECT_FALSE(keys_->holds(Key::brightnessDown));
   EXPECT_EQ(provider_->keyContext().brightness, BrightnessAccess::readOnly);
 
-  ASSERT_TRUE(settings_.write(settings::volumeHUDEnabled, false));
+  ASSERT_TRUE(context_.settings().write(settings::volumeHUDEnabled, false));
   EXPECT_FALSE(keys_->holds(Key::soundUp));
-  ASSERT_TRUE(settings_.write(settings::volumeHUDEnabled, true));
+  ASSERT_TRUE(context_.settings().write(settings::volumeHUDEnabled, true));
   volume_->publish(VolumeReading{"fixed", 1, false, AudioTransport::hdmi, false, false});
   EXPECT_FALSE(keys_->holds(Key::soundUp));  // an output without a volume yields its keys
   volume_->publish(std::nullopt);
@@ -177,7 +168,7 @@ TEST_F(HudProviderTest, KeysAreHeldOnlyWhereTindraCanChangeTheLevel) {
 }
 
 TEST_F(HudProviderTest, LightKeysStepTheLightAndIgnoredKeyboardWritesGiveTheKeysBack) {
-  ASSERT_TRUE(settings_.write(settings::experimentalKeyboardBacklight, true));
+  ASSERT_TRUE(context_.settings().write(settings::experimentalKeyboardBacklight, true));
   provider_->start();
   keys_->tap(Key::brightnessDown);
   EXPECT_EQ(display_->reading()->level, 0.4375);
@@ -202,34 +193,34 @@ TEST_F(HudProviderTest, LightKeysStepTheLightAndIgnoredKeyboardWritesGiveTheKeys
 TEST_F(HudProviderTest, AnUnreadableKeyboardLightTurnsItsSettingOffUntilTurnedOnAgain) {
   using Trouble = HudProvider::KeyboardTrouble;
   QSignalSpy troubles(provider_.get(), &HudProvider::keyboardTroubleChanged);
-  ASSERT_TRUE(settings_.write(settings::experimentalKeyboardBacklight, true));
+  ASSERT_TRUE(context_.settings().write(settings::experimentalKeyboardBacklight, true));
   provider_->start();
   EXPECT_EQ(provider_->keyboardTrouble(), Trouble::none);
   ASSERT_TRUE(keys_->holds(Key::illuminationUp));
 
   keyboard_->reportUnreadable(Sentence::verbatim("lid closed"));
   EXPECT_EQ(provider_->keyboardTrouble(), Trouble::unreadable);
-  EXPECT_FALSE(settings_.read(settings::experimentalKeyboardBacklight));
+  EXPECT_FALSE(context_.settings().read(settings::experimentalKeyboardBacklight));
   EXPECT_FALSE(keys_->holds(Key::illuminationUp));
   // The light answering on its own does not undo what Settings says.
   keyboard_->change(0.3);
   EXPECT_EQ(provider_->keyboardTrouble(), Trouble::unreadable);
   EXPECT_EQ(keyboard_->readAgainCount, 0);
 
-  ASSERT_TRUE(settings_.write(settings::experimentalKeyboardBacklight, true));
+  ASSERT_TRUE(context_.settings().write(settings::experimentalKeyboardBacklight, true));
   EXPECT_EQ(keyboard_->readAgainCount, 1);
   EXPECT_EQ(provider_->keyboardTrouble(), Trouble::none);
   EXPECT_TRUE(keys_->holds(Key::illuminationUp));
   // Unreadable again: off again, said once more.
   const auto before = troubles.count();
   keyboard_->reportUnreadable(Sentence::verbatim("lid closed"));
-  EXPECT_FALSE(settings_.read(settings::experimentalKeyboardBacklight));
+  EXPECT_FALSE(context_.settings().read(settings::experimentalKeyboardBacklight));
   EXPECT_EQ(troubles.count(), before + 1);
 }
 
 TEST_F(HudProviderTest, AKeyboardLightThatIsNotThereIsNotFoundOnlyOnceLookedFor) {
   HudProvider provider(
-      ProviderContext{activities_, settings_, diagnostics_},
+      context_,
       HudBackends{std::make_unique<FakeVolumeBackend>(),
                   std::make_unique<FakeBacklightBackend>("panel", 0.5),
                   std::make_unique<BacklightBackend::Null>(Sentence::verbatim("no system bus")),
@@ -237,10 +228,10 @@ TEST_F(HudProviderTest, AKeyboardLightThatIsNotThereIsNotFoundOnlyOnceLookedFor)
   provider.start();
   // Not looked for while its setting is off.
   EXPECT_EQ(provider.keyboardTrouble(), HudProvider::KeyboardTrouble::none);
-  ASSERT_TRUE(settings_.write(settings::experimentalKeyboardBacklight, true));
+  ASSERT_TRUE(context_.settings().write(settings::experimentalKeyboardBacklight, true));
   EXPECT_EQ(provider.keyboardTrouble(), HudProvider::KeyboardTrouble::notFound);
   // Not turned off: nothing was read that could be wrong, and a light may come with a dock.
-  EXPECT_TRUE(settings_.read(settings::experimentalKeyboardBacklight));
+  EXPECT_TRUE(context_.settings().read(settings::experimentalKeyboardBacklight));
 }
 
 }  // namespace

@@ -3,12 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
-#include "base/activity_center.h"
 #include "lockscreen/fake_lock_state_source.h"
 #include "settings/settings_keys.h"
-#include "settings/settings_store.h"
+#include "testing/provider_test_context.h"
 
 namespace tindra {
 namespace {
@@ -22,21 +20,18 @@ class LockScreenProviderTest : public ::testing::Test {
     auto source = std::make_unique<FakeLockStateSource>();
     source_ = source.get();
     provider_ = std::make_unique<LockScreenProvider>(
-        ProviderContext{activities_, settings_, diagnostics_}, std::move(source),
-        LockSessionGuard(dir_.path().toStdString(), boot, "Debian 12"), [] { return 5000.0; });
+        context_, std::move(source),
+        LockSessionGuard(context_.path().toStdString(), boot, "Debian 12"), [] { return 5000.0; });
     provider_->start();
   }
   std::optional<LockSessionRecord> record() const {
-    const auto stored = DurableFile(dir_.filePath("lock-session.json").toStdString()).read();
+    const auto stored = DurableFile(context_.filePath("lock-session.json").toStdString()).read();
     if (!stored) return std::nullopt;
     const auto decoded = LockSessionRecord::decode(*stored);
     return decoded ? std::optional(*decoded) : std::nullopt;
   }
 
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
-  ActivityCenter activities_{settings_};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_;
   FakeLockStateSource* source_ = nullptr;
   std::unique_ptr<LockScreenProvider> provider_;
 };
@@ -61,32 +56,34 @@ TEST_F(LockScreenProviderTest, EachLockedStretchIsAGuardedSessionAndTheNotchStep
 }
 
 TEST_F(LockScreenProviderTest, AStopWhileLockedTurnsTheFeaturesOffWithANotice) {
-  ASSERT_TRUE(settings_.write(settings::experimentalLockScreen, true));
+  ASSERT_TRUE(context_.settings().write(settings::experimentalLockScreen, true));
   launch("boot-1");
   source_->send(Event::locked);
   provider_.reset();  // Tindra dies while the screen is locked
 
   launch("boot-1");
-  EXPECT_FALSE(settings_.read(settings::experimentalLockScreen));
-  const auto notice = LockScreenNotice::fromSettingText(settings_.read(settings::lockScreenNotice));
+  EXPECT_FALSE(context_.settings().read(settings::experimentalLockScreen));
+  const auto notice =
+      LockScreenNotice::fromSettingText(context_.settings().read(settings::lockScreenNotice));
   ASSERT_TRUE(notice);
   EXPECT_EQ(notice->reason, LockScreenNotice::Reason::stoppedWhileLocked);
-  EXPECT_EQ(settings_.read(settings::lockScreenNotchNotice), "");  // that one was off
+  EXPECT_EQ(context_.settings().read(settings::lockScreenNotchNotice), "");  // that one was off
   EXPECT_EQ(record(), LockSessionRecord::fresh());
 }
 
 TEST_F(LockScreenProviderTest, ARestartWhileLockedIsForgivenOnce) {
-  ASSERT_TRUE(settings_.write(settings::lockScreenNotch, true));
+  ASSERT_TRUE(context_.settings().write(settings::lockScreenNotch, true));
   launch("boot-1");
   source_->send(Event::locked);
   launch("boot-2");
-  EXPECT_TRUE(settings_.read(settings::lockScreenNotch));
+  EXPECT_TRUE(context_.settings().read(settings::lockScreenNotch));
   EXPECT_EQ(record()->restartStrikes, 1);
   source_->send(Event::locked);
   launch("boot-3");
-  EXPECT_FALSE(settings_.read(settings::lockScreenNotch));
+  EXPECT_FALSE(context_.settings().read(settings::lockScreenNotch));
   EXPECT_EQ(
-      LockScreenNotice::fromSettingText(settings_.read(settings::lockScreenNotchNotice))->reason,
+      LockScreenNotice::fromSettingText(context_.settings().read(settings::lockScreenNotchNotice))
+          ->reason,
       LockScreenNotice::Reason::restartedWhileLocked);
 }
 

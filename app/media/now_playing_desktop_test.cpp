@@ -12,22 +12,19 @@
 #include <QDBusVariant>
 #include <QImage>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "base/activity_center.h"
-#include "base/diagnostics_log.h"
 #include "media/adapter_now_playing_source.h"
 #include "media/now_playing_provider.h"
 #include "media/offline_artwork_fetcher.h"
 #include "media/platform_adapter_launch.h"
 #include "settings/settings_keys.h"
-#include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
 #include "testing/host_redirecting_artwork_fetcher.h"
 #include "testing/loopback_http_server.h"
 #include "testing/mpv_player.h"
 #include "testing/picture_checks.h"
+#include "testing/provider_test_context.h"
 #include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 #include "testing/view_shot.h"
@@ -57,11 +54,7 @@ bool waitFor(const std::function<bool()>& condition) {
 class NowPlayingDesktopTest : public ::testing::Test {
  protected:
   static void SetUpTestSuite() {
-    dir_ = std::make_unique<QTemporaryDir>();
-    settings_ = std::make_unique<SettingsStore>(dir_->filePath("settings.json").toStdString(),
-                                                [] { return 1'800'000'000.0; });
-    activities_ = std::make_unique<ActivityCenter>(*settings_);
-    diagnostics_ = std::make_unique<DiagnosticsLog>();
+    context_ = std::make_unique<ProviderTestContext>();
     player_ = std::make_unique<DBusMockService>(QDBusConnection::sessionBus(), busName,
                                                 QStringList{busName, path, playerInterface});
     QString error;
@@ -91,8 +84,7 @@ class NowPlayingDesktopTest : public ::testing::Test {
     fetcher_ = fetcher.get();
     const AdapterLaunch launch = platformAdapterLaunch();
     provider_ = std::make_unique<NowPlayingProvider>(
-        ProviderContext{*activities_, *settings_, *diagnostics_},
-        [launch] { return std::make_unique<AdapterNowPlayingSource>(launch); },
+        *context_, [launch] { return std::make_unique<AdapterNowPlayingSource>(launch); },
         std::make_unique<AdapterProbe>(launch), std::move(fetcher));
     provider_->start();
   }
@@ -100,8 +92,7 @@ class NowPlayingDesktopTest : public ::testing::Test {
     provider_.reset();
     player_.reset();
     server_.reset();
-    activities_.reset();
-    settings_.reset();
+    context_.reset();
   }
 
   void SetUp() override {
@@ -123,10 +114,7 @@ class NowPlayingDesktopTest : public ::testing::Test {
   static constexpr const char* spotifyCover = "https://i.scdn.co/image/ab67orange";
   static inline const QColor orange{255, 140, 0};
   static inline const QColor blue{20, 90, 255};
-  static inline std::unique_ptr<QTemporaryDir> dir_;
-  static inline std::unique_ptr<SettingsStore> settings_;
-  static inline std::unique_ptr<ActivityCenter> activities_;
-  static inline std::unique_ptr<DiagnosticsLog> diagnostics_;
+  static inline std::unique_ptr<ProviderTestContext> context_;
   static inline std::unique_ptr<DBusMockService> player_;
   static inline std::unique_ptr<LoopbackHTTPServer> server_;
   static inline HostRedirectingArtworkFetcher* fetcher_ = nullptr;
@@ -144,11 +132,13 @@ TEST_F(NowPlayingDesktopTest, SpotifyCoversAreFetchedInBothFormsAndOtherHostsNev
   // The tint choice reaches the bar of the cover on screen at once.
   EXPECT_FALSE(view().barColor().isValid());
   QSignalSpy covers(&view(), &NowPlayingViewModel::coverChanged);
-  ASSERT_TRUE(settings_->write(settings::nowPlayingProgressTint, NowPlayingProgressTint::artwork));
+  ASSERT_TRUE(context_->settings().write(settings::nowPlayingProgressTint,
+                                         NowPlayingProgressTint::artwork));
   EXPECT_EQ(covers.count(), 1);
   EXPECT_TRUE(view().barColor().isValid());
   viewShot(panel, &view(), {300, 124}, "media-panel-spotify-cover-tinted");
-  ASSERT_TRUE(settings_->write(settings::nowPlayingProgressTint, NowPlayingProgressTint::standard));
+  ASSERT_TRUE(context_->settings().write(settings::nowPlayingProgressTint,
+                                         NowPlayingProgressTint::standard));
   EXPECT_FALSE(view().barColor().isValid());
 
   // The older page form is fetched from the image host; the page host is never asked.
@@ -206,14 +196,10 @@ TEST(NowPlayingRecoveryTest, FollowsThePlayerBackAfterEveryCrash) {
   if (const QString missing = MpvPlayer::missing(); !missing.isEmpty()) {
     SKIP_OR_FAIL_ON_CI(missing.toStdString());
   }
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
+  ProviderTestContext context;
   const AdapterLaunch launch = platformAdapterLaunch();
   NowPlayingProvider provider(
-      ProviderContext{activities, settings, diagnostics},
-      [launch] { return std::make_unique<AdapterNowPlayingSource>(launch); },
+      context, [launch] { return std::make_unique<AdapterNowPlayingSource>(launch); },
       std::make_unique<AdapterProbe>(launch), std::make_unique<OfflineArtworkFetcher>());
   provider.start();
   const NowPlayingViewModel& view = *provider.viewModel();
@@ -244,7 +230,7 @@ TEST(NowPlayingRecoveryTest, FollowsThePlayerBackAfterEveryCrash) {
 
   int left = 0;
   QString last;
-  for (const auto& entry : diagnostics.entries()) {
+  for (const auto& entry : context.diagnostics().entries()) {
     last = entry.text.english();
     if (last.contains("left")) ++left;
   }

@@ -6,16 +6,14 @@
 
 #include <QFile>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "base/activity_center.h"
 #include "base/diagnostics_log.h"
 #include "media/fake_now_playing_source.h"
 #include "media/offline_artwork_fetcher.h"
 #include "settings/settings_keys.h"
-#include "settings/settings_store.h"
 #include "testing/manual_one_shot_scheduler.h"
+#include "testing/provider_test_context.h"
 
 namespace tindra {
 namespace {
@@ -32,7 +30,7 @@ class NowPlayingProviderTest : public ::testing::Test {
           AdapterLaunch{"/bin/sh", {}, {"-c", probeScript->toStdString()}, {}, ""});
     }
     provider_ = std::make_unique<NowPlayingProvider>(
-        ProviderContext{activities_, settings_, diagnostics_},
+        context_,
         [this] {
           ++sourcesMade_;
           auto source = std::make_unique<FakeNowPlayingSource>([] { return now; });
@@ -44,26 +42,26 @@ class NowPlayingProviderTest : public ::testing::Test {
   // Starts the provider and waits for its self-test's result (after the line saying it runs).
   void start() {
     provider_->start();
-    ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() >= 2; }, 5000));
+    ASSERT_TRUE(
+        QTest::qWaitFor([this] { return context_.diagnostics().entries().size() >= 2; }, 5000));
   }
-  DiagnosticsLog::Outcome lastOutcome() const { return diagnostics_.entries().back().outcome; }
+  DiagnosticsLog::Outcome lastOutcome() const {
+    return context_.diagnostics().entries().back().outcome;
+  }
 
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return now; }};
   ManualOneShotScheduler* expiry_ = new ManualOneShotScheduler;
-  ActivityCenter activities_{settings_, [] { return 0.0; },
-                             std::unique_ptr<OneShotScheduler>(expiry_)};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_{[] { return 0.0; }, std::unique_ptr<OneShotScheduler>(expiry_)};
   std::unique_ptr<NowPlayingProvider> provider_;
   FakeNowPlayingSource* source_ = nullptr;
   int sourcesMade_ = 0;
 };
 
 TEST_F(NowPlayingProviderTest, PlayingShowsThePausedTrackLingersAndNothingPlayingEnds) {
-  ASSERT_TRUE(settings_.write(settings::nowPlayingPausedLinger, NowPlayingPausedLinger::long_));
+  ASSERT_TRUE(
+      context_.settings().write(settings::nowPlayingPausedLinger, NowPlayingPausedLinger::long_));
   makeProvider(std::nullopt);
   provider_->start();
-  EXPECT_EQ(activities_.current(), ActivityKind::nowPlaying);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::nowPlaying);
   EXPECT_FALSE(expiry_->isPending());  // shown for as long as it plays
   EXPECT_EQ(provider_->viewModel()->title(), "Invented Track 1");
 
@@ -83,7 +81,7 @@ TEST_F(NowPlayingProviderTest, PlayingShowsThePausedTrackLingersAndNothingPlayin
   EXPECT_FALSE(expiry_->isPending());
 
   source_->report(std::nullopt);
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
   EXPECT_FALSE(provider_->viewModel()->hasTrack());
 }
 
@@ -129,7 +127,7 @@ TEST_F(NowPlayingProviderTest, DiagnosticsTellWhichPlayerIsFollowedAndWhenItLeav
   provider_->start();
   const auto told = [this] {
     QStringList lines;
-    for (const auto& entry : diagnostics_.entries()) {
+    for (const auto& entry : context_.diagnostics().entries()) {
       if (entry.text.english().contains("follow") || entry.text.english().contains("left")) {
         lines << entry.text.english();
       }
@@ -170,29 +168,32 @@ TEST_F(NowPlayingProviderTest, DraggingTheBarShowsTheKnobThereAndLettingGoSeeks)
 }
 
 TEST_F(NowPlayingProviderTest, TheSourceRunsOnlyWhileTheAdapterPassesItsSelfTest) {
-  const QString flag = dir_.filePath("broken");
+  const QString flag = context_.filePath("broken");
   makeProvider(QStringLiteral("[ -e '%1' ] && exit 3; exit 0").arg(flag));
   start();
   ASSERT_EQ(sourcesMade_, 1);
   // The test's result, the source's own check, then the player it follows.
-  ASSERT_EQ(diagnostics_.entries().size(), 4);
-  EXPECT_EQ(diagnostics_.entries()[1].outcome, DiagnosticsLog::Outcome::ok);
-  EXPECT_TRUE(diagnostics_.entries()[2].text.english().contains("invented track"));
-  EXPECT_EQ(diagnostics_.entries()[3].text.english(), "following tindra-demo");
-  EXPECT_EQ(activities_.current(), ActivityKind::nowPlaying);
+  ASSERT_EQ(context_.diagnostics().entries().size(), 4);
+  EXPECT_EQ(context_.diagnostics().entries()[1].outcome, DiagnosticsLog::Outcome::ok);
+  EXPECT_TRUE(context_.diagnostics().entries()[2].text.english().contains("invented track"));
+  EXPECT_EQ(context_.diagnostics().entries()[3].text.english(), "following tindra-demo");
+  EXPECT_EQ(context_.activities().current(), ActivityKind::nowPlaying);
 
   // Repeated failures bring a retest; passing keeps the source, failing drops it.
   emit source_->repeatedFailure();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 5; }, 5000));
+  ASSERT_TRUE(
+      QTest::qWaitFor([this] { return context_.diagnostics().entries().size() == 5; }, 5000));
   EXPECT_TRUE(provider_->hasSource());
   QFile(flag).open(QIODevice::WriteOnly);
   emit source_->repeatedFailure();
-  ASSERT_TRUE(QTest::qWaitFor([this] { return diagnostics_.entries().size() == 7; }, 5000));
-  EXPECT_EQ(diagnostics_.entries()[5].outcome, DiagnosticsLog::Outcome::failed);
-  EXPECT_TRUE(diagnostics_.entries()[5].text.english().contains("exit status 3"));
-  EXPECT_EQ(diagnostics_.entries()[6].text.english(), "tindra-demo left: nothing is playing");
+  ASSERT_TRUE(
+      QTest::qWaitFor([this] { return context_.diagnostics().entries().size() == 7; }, 5000));
+  EXPECT_EQ(context_.diagnostics().entries()[5].outcome, DiagnosticsLog::Outcome::failed);
+  EXPECT_TRUE(context_.diagnostics().entries()[5].text.english().contains("exit status 3"));
+  EXPECT_EQ(context_.diagnostics().entries()[6].text.english(),
+            "tindra-demo left: nothing is playing");
   EXPECT_FALSE(provider_->hasSource());
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
   EXPECT_EQ(sourcesMade_, 1);
 }
 
@@ -202,14 +203,14 @@ TEST_F(NowPlayingProviderTest, NoSourceIsStartedWhenTheTestFailsOrSettingsAskFor
   EXPECT_EQ(lastOutcome(), DiagnosticsLog::Outcome::failed);
   EXPECT_EQ(sourcesMade_, 0);
 
-  diagnostics_.record(lcNowPlaying(), "test", DiagnosticsLog::Outcome::ok,
-                      Sentence::verbatim("separator"));
-  ASSERT_TRUE(
-      settings_.write(settings::nowPlayingSourceMode, NowPlayingSourceMode::appleScriptOnly));
+  context_.diagnostics().record(lcNowPlaying(), "test", DiagnosticsLog::Outcome::ok,
+                                Sentence::verbatim("separator"));
+  ASSERT_TRUE(context_.settings().write(settings::nowPlayingSourceMode,
+                                        NowPlayingSourceMode::appleScriptOnly));
   makeProvider(QStringLiteral("exit 0"));
   provider_->start();
   EXPECT_EQ(lastOutcome(), DiagnosticsLog::Outcome::degraded);
-  EXPECT_TRUE(diagnostics_.entries().back().text.english().contains("player scripts"));
+  EXPECT_TRUE(context_.diagnostics().entries().back().text.english().contains("player scripts"));
   QTest::qWait(100);
   EXPECT_EQ(sourcesMade_, 0);
 }

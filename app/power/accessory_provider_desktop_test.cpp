@@ -5,16 +5,13 @@
 
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "base/activity_center.h"
-#include "base/diagnostics_log.h"
 #include "levels/linux/pulse_volume_backend.h"
 #include "power/accessory_provider.h"
 #include "power/linux/bluez_accessory_backend.h"
-#include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/provider_test_context.h"
 #include "testing/skip_or_fail_on_ci.h"
 
 namespace tindra {
@@ -58,18 +55,14 @@ class AccessoryProviderDesktopTest : public ::testing::Test {
   }
 
   static inline std::unique_ptr<DBusMockService> bluez_;
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
   double now_ = 100;
-  ActivityCenter activities_{settings_, [this] { return now_; }};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_{[this] { return now_; }};
 };
 
 TEST_F(AccessoryProviderDesktopTest, ChoosingTheHeadsetAsOutputIsToldButNotRightAfterItConnects) {
   auto output = std::make_shared<PulseVolumeBackend>();
-  AccessoryProvider provider({activities_, settings_, diagnostics_},
-                             std::make_unique<BlueZAccessoryBackend>(QDBusConnection::systemBus()),
-                             output);
+  AccessoryProvider provider(
+      context_, std::make_unique<BlueZAccessoryBackend>(QDBusConnection::systemBus()), output);
   provider.start();
   ASSERT_TRUE(waitFor([&] { return output->reading().has_value(); }));
   ASSERT_TRUE(waitFor([&] { return provider.backend().ready(); }));  // BlueZ has answered
@@ -88,7 +81,7 @@ TEST_F(AccessoryProviderDesktopTest, ChoosingTheHeadsetAsOutputIsToldButNotRight
   pactl({"set-default-sink", headsetSink});  // the user's choice, later
   ASSERT_TRUE(waitFor([&] { return view.notice() == "routed"; }));
   EXPECT_EQ(view.noticeAccessory()["name"], "Studio Headphones");
-  EXPECT_EQ(activities_.current(), ActivityKind::accessory);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::accessory);
   ASSERT_EQ(bluez_->call("/", "DisconnectDevice", {"hci0", headset}, "org.bluez.Mock"), QString());
 }
 
@@ -96,16 +89,15 @@ TEST_F(AccessoryProviderDesktopTest, ChoosingTheHeadsetAsOutputIsToldButNotRight
 // has started, and its first answer is no news of a connection.
 TEST_F(AccessoryProviderDesktopTest, HeadphonesAlreadyConnectedAtStartAreNoNews) {
   ASSERT_EQ(bluez_->call("/", "ConnectDevice", {"hci0", headset}, "org.bluez.Mock"), QString());
-  AccessoryProvider provider({activities_, settings_, diagnostics_},
-                             std::make_unique<BlueZAccessoryBackend>(QDBusConnection::systemBus()),
-                             nullptr);
+  AccessoryProvider provider(
+      context_, std::make_unique<BlueZAccessoryBackend>(QDBusConnection::systemBus()), nullptr);
   AccessoryViewModel& view = *provider.viewModel();
   QSignalSpy notices(&view, &AccessoryViewModel::noticeChanged);
   provider.start();
   ASSERT_TRUE(waitFor([&] { return view.accessories().size() == 1; }));
   QTest::qWait(100);
   EXPECT_EQ(notices.count(), 0);
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
   ASSERT_EQ(bluez_->call("/", "DisconnectDevice", {"hci0", headset}, "org.bluez.Mock"), QString());
 }
 

@@ -3,14 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
-#include "base/activity_center.h"
 #include "levels/fake_volume_backend.h"
 #include "power/fake_accessory_backend.h"
 #include "settings/settings_keys.h"
-#include "settings/settings_store.h"
 #include "testing/picture_checks.h"
+#include "testing/provider_test_context.h"
 #include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
 
@@ -31,16 +29,11 @@ class AccessoryProviderTest : public ::testing::Test {
   AccessoryProviderTest() {
     auto backend = std::make_unique<FakeAccessoryBackend>();
     backend_ = backend.get();
-    provider_ =
-        std::make_unique<AccessoryProvider>(ProviderContext{activities_, settings_, diagnostics_},
-                                            std::move(backend), output_, sounds_);
+    provider_ = std::make_unique<AccessoryProvider>(context_, std::move(backend), output_, sounds_);
   }
 
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
   double now_ = 100;
-  ActivityCenter activities_{settings_, [this] { return now_; }};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_{[this] { return now_; }};
   std::shared_ptr<RecordedSounds> sounds_ = std::make_shared<RecordedSounds>();
   std::shared_ptr<FakeVolumeBackend> output_ = std::make_shared<FakeVolumeBackend>();
   FakeAccessoryBackend* backend_ = nullptr;
@@ -50,27 +43,27 @@ class AccessoryProviderTest : public ::testing::Test {
 TEST_F(AccessoryProviderTest, ConnectionsAndFallingBatteriesBecomeNotices) {
   provider_->start();  // the invented earbuds were there already: no notice
   AccessoryViewModel& view = *provider_->viewModel();
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
   EXPECT_EQ(view.accessories().size(), 1);
 
   const BluetoothAccessory buds = backend_->connected().front();
   backend_->setConnected({buds, headphones(64)});
-  EXPECT_EQ(activities_.current(), ActivityKind::accessory);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::accessory);
   EXPECT_EQ(view.notice(), "connected");
   EXPECT_EQ(view.noticeAccessory()["main"], 64);
   EXPECT_EQ(sounds_->played, QStringList{"tindra-charging"});
-  activities_.reset();
+  context_.activities().reset();
 
   backend_->setConnected({buds, headphones(19)});
   EXPECT_EQ(view.notice(), "low");
   EXPECT_EQ(view.noticePart(), "main");
   EXPECT_EQ(sounds_->played.size(), 2);
 
-  ASSERT_TRUE(settings_.write(settings::accessoryDisconnectNotice, false));
-  activities_.reset();
+  ASSERT_TRUE(context_.settings().write(settings::accessoryDisconnectNotice, false));
+  context_.activities().reset();
   backend_->setConnected({headphones(19)});
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
-  ASSERT_TRUE(settings_.write(settings::accessoryDisconnectNotice, true));
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
+  ASSERT_TRUE(context_.settings().write(settings::accessoryDisconnectNotice, true));
   backend_->setConnected({});
   EXPECT_EQ(view.notice(), "disconnected");
   EXPECT_FALSE(view.hasContent());
@@ -82,7 +75,7 @@ TEST_F(AccessoryProviderTest, SoundMovingToAnAccessoryIsToldOnceButNotForItsOwnC
   QSignalSpy notices(&view, &AccessoryViewModel::noticeChanged);
   const BluetoothAccessory buds = backend_->connected().front();
   output_->routeTo("bluez_output.0A_00_00_00_00_01.1", buds.address);
-  EXPECT_EQ(activities_.current(), ActivityKind::accessory);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::accessory);
   EXPECT_EQ(view.notice(), "routed");
   EXPECT_EQ(view.noticeAccessory()["name"], "Invented Buds");
   EXPECT_TRUE(sounds_->played.isEmpty());  // the sound itself is there now
@@ -90,11 +83,11 @@ TEST_F(AccessoryProviderTest, SoundMovingToAnAccessoryIsToldOnceButNotForItsOwnC
   EXPECT_EQ(notices.count(), 1);
 
   // Switched off, live.
-  ASSERT_TRUE(settings_.write(settings::accessoryRouteNotice, false));
+  ASSERT_TRUE(context_.settings().write(settings::accessoryRouteNotice, false));
   output_->routeTo("invented-output", std::nullopt);
   output_->routeTo("bluez_output.0A_00_00_00_00_01.1", buds.address);
   EXPECT_EQ(notices.count(), 1);
-  ASSERT_TRUE(settings_.write(settings::accessoryRouteNotice, true));
+  ASSERT_TRUE(context_.settings().write(settings::accessoryRouteNotice, true));
 
   // Headphones connect and the sound server switches to them a moment later: one notice.
   output_->routeTo("invented-output", std::nullopt);
@@ -115,9 +108,10 @@ TEST_F(AccessoryProviderTest, TheBatteryStyleAndLowLevelFollowTheSettings) {
   EXPECT_EQ(view.batteryStyle(), "percentage");
   EXPECT_EQ(view.lowThreshold(), 20);
   QSignalSpy drawing(&view, &AccessoryViewModel::drawingChanged);
-  ASSERT_TRUE(settings_.write(settings::accessoryBatteryStyle, AccessoryBatteryStyle::ring));
+  ASSERT_TRUE(
+      context_.settings().write(settings::accessoryBatteryStyle, AccessoryBatteryStyle::ring));
   EXPECT_EQ(view.batteryStyle(), "ring");
-  ASSERT_TRUE(settings_.write(settings::accessoryLowThreshold, 90));
+  ASSERT_TRUE(context_.settings().write(settings::accessoryLowThreshold, 90));
   EXPECT_EQ(view.lowThreshold(), 50);  // the highest threshold offered
   EXPECT_EQ(drawing.count(), 2);
 }

@@ -3,13 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QSignalSpy>
-#include <QTemporaryDir>
 
-#include "base/activity_center.h"
 #include "power/fake_battery_backend.h"
 #include "settings/settings_keys.h"
-#include "settings/settings_store.h"
 #include "testing/picture_checks.h"
+#include "testing/provider_test_context.h"
 #include "testing/recorded_sounds.h"
 #include "testing/view_shot.h"
 
@@ -21,8 +19,7 @@ class BatteryProviderTest : public ::testing::Test {
   BatteryProviderTest() {
     auto backend = std::make_unique<FakeBatteryBackend>();
     backend_ = backend.get();
-    provider_ = std::make_unique<BatteryProvider>(
-        ProviderContext{activities_, settings_, diagnostics_}, std::move(backend), sounds_);
+    provider_ = std::make_unique<BatteryProvider>(context_, std::move(backend), sounds_);
   }
 
   static BatteryStatus onBattery(int percent) {
@@ -30,10 +27,7 @@ class BatteryProviderTest : public ::testing::Test {
   }
   static BatteryStatus charging(int percent) { return BatteryStatus(percent, true, true, false); }
 
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
-  ActivityCenter activities_{settings_};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_;
   FakeBatteryBackend* backend_ = nullptr;
   std::shared_ptr<RecordedSounds> sounds_ = std::make_shared<RecordedSounds>();
   std::unique_ptr<BatteryProvider> provider_;
@@ -59,28 +53,28 @@ TEST_F(BatteryProviderTest, ViewModelFollowsReadingsAndSignalsOnlyRealChanges) {
 
 TEST_F(BatteryProviderTest, EveryChangeOfTheServiceCheckReachesDiagnostics) {
   provider_->start();
-  ASSERT_EQ(diagnostics_.entries().size(), 1);
-  EXPECT_EQ(diagnostics_.entries().front().source, "battery");
-  EXPECT_TRUE(diagnostics_.entries().front().text.english().contains("invented"));
+  ASSERT_EQ(context_.diagnostics().entries().size(), 1);
+  EXPECT_EQ(context_.diagnostics().entries().front().source, "battery");
+  EXPECT_TRUE(context_.diagnostics().entries().front().text.english().contains("invented"));
 
   backend_->setCheck(DiagnosticsLog::Outcome::degraded,
                      Sentence::verbatim("the service went away"));
   backend_->setCheck(DiagnosticsLog::Outcome::degraded,
                      Sentence::verbatim("the service went away"));
-  ASSERT_EQ(diagnostics_.entries().size(), 2);
-  EXPECT_EQ(diagnostics_.entries().back().outcome, DiagnosticsLog::Outcome::degraded);
+  ASSERT_EQ(context_.diagnostics().entries().size(), 2);
+  EXPECT_EQ(context_.diagnostics().entries().back().outcome, DiagnosticsLog::Outcome::degraded);
 }
 
 TEST_F(BatteryProviderTest, PowerChangesAndTheLowWarningBecomeNoticesWithTheirSounds) {
   provider_->start();  // 76 % on battery: the first reading is no change of power
   BatteryViewModel& view = *provider_->viewModel();
-  EXPECT_EQ(activities_.current(), ActivityKind::idle);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::idle);
 
   backend_->setReading(charging(76));
-  EXPECT_EQ(activities_.current(), ActivityKind::batteryAlert);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::batteryAlert);
   EXPECT_EQ(view.notice(), "pluggedIn");
   EXPECT_EQ(sounds_->played, QStringList{"tindra-charging"});
-  activities_.reset();
+  context_.activities().reset();
 
   backend_->setReading(onBattery(76));
   EXPECT_EQ(view.notice(), "unplugged");  // no sound for this one
@@ -93,8 +87,8 @@ TEST_F(BatteryProviderTest, PowerChangesAndTheLowWarningBecomeNoticesWithTheirSo
   backend_->setReading(onBattery(19));  // warned once until charged
   EXPECT_EQ(notices.count(), 0);
 
-  ASSERT_TRUE(settings_.write(settings::playSounds, false));
-  ASSERT_TRUE(settings_.write(settings::batteryPluggedInNotice, false));
+  ASSERT_TRUE(context_.settings().write(settings::playSounds, false));
+  ASSERT_TRUE(context_.settings().write(settings::batteryPluggedInNotice, false));
   backend_->setReading(charging(19));  // the setting is off: no notice, but the warning re-arms
   EXPECT_EQ(notices.count(), 0);
   backend_->setReading(onBattery(19));
@@ -142,12 +136,13 @@ TEST_F(BatteryProviderTest, NoticesAndTheSectionAreDrawn) {
 }
 
 TEST_F(BatteryProviderTest, TheOldPowerNoticeSettingIsSplitOnce) {
-  ASSERT_TRUE(settings_.writeStored("batteryPowerNotices", JSONValue(false)));
-  ASSERT_TRUE(settings_.write(settings::batteryUnpluggedNotice, true));
+  ASSERT_TRUE(context_.settings().writeStored("batteryPowerNotices", JSONValue(false)));
+  ASSERT_TRUE(context_.settings().write(settings::batteryUnpluggedNotice, true));
   provider_->start();
-  EXPECT_FALSE(settings_.read(settings::batteryPluggedInNotice));
-  EXPECT_TRUE(settings_.read(settings::batteryUnpluggedNotice));  // the user's own choice stays
-  EXPECT_EQ(settings_.stored("batteryPowerNotices"), nullptr);
+  EXPECT_FALSE(context_.settings().read(settings::batteryPluggedInNotice));
+  EXPECT_TRUE(
+      context_.settings().read(settings::batteryUnpluggedNotice));  // the user's own choice stays
+  EXPECT_EQ(context_.settings().stored("batteryPowerNotices"), nullptr);
 }
 
 }  // namespace

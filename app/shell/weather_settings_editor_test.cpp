@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
-#include "base/activity_center.h"
 #include "settings/settings_keys.h"
+#include "testing/provider_test_context.h"
 #include "testing/view_shot.h"
 #include "weather/fake_weather.h"
 
@@ -13,17 +11,13 @@ namespace tindra {
 namespace {
 
 TEST(WeatherSettingsEditorTest, APlacePickedOrGivenWinsAndIsSaidInUse) {
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  (void)settings.write(settings::weatherEnabled, true);
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
+  ProviderTestContext context;
+  (void)context.settings().write(settings::weatherEnabled, true);
   const double now = 1653040800;
-  WeatherProvider weather({activities, settings, diagnostics},
-                          std::make_unique<FakeLocationSource>(),
+  WeatherProvider weather(context, std::make_unique<FakeLocationSource>(),
                           std::make_shared<FakeForecastTransport>([now] { return now; }),
-                          {dir.filePath("snapshot.json").toStdString(),
-                           dir.filePath("weather.json").toStdString(),
+                          {context.filePath("snapshot.json").toStdString(),
+                           context.filePath("weather.json").toStdString(),
                            {},
                            "Etc/UTC"},
                           [now] { return now; });
@@ -44,7 +38,7 @@ TEST(WeatherSettingsEditorTest, APlacePickedOrGivenWinsAndIsSaidInUse) {
   emit editor.unit().activated(2);
   // Saved for the next start.
   const auto kept = WeatherPreferences::decoded(
-      DurableFile(dir.filePath("weather.json").toStdString()).read().value_or(""));
+      DurableFile(context.filePath("weather.json").toStdString()).read().value_or(""));
   EXPECT_EQ(kept.contact, "me@example.org");
   EXPECT_EQ(kept.unit, TemperatureUnit::fahrenheit);
   EXPECT_EQ(kept.locationName, "Buenos Aires");

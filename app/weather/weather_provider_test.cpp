@@ -3,12 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <QFile>
-#include <QTemporaryDir>
 
-#include "base/activity_center.h"
 #include "settings/settings_keys.h"
 #include "testing/manual_one_shot_scheduler.h"
 #include "testing/picture_checks.h"
+#include "testing/provider_test_context.h"
 #include "testing/view_shot.h"
 
 namespace tindra {
@@ -47,7 +46,7 @@ struct SetLocation final : LocationSource {
 class WeatherProviderTest : public ::testing::Test {
  protected:
   WeatherProviderTest() {
-    QFile zones(dir_.filePath("zone.tab"));
+    QFile zones(context_.filePath("zone.tab"));
     EXPECT_TRUE(zones.open(QIODevice::WriteOnly));
     zones.write("NO\t+5955+01045\tEurope/Oslo\nIN\t+2232+08822\tAsia/Kolkata\n");
     zones.close();
@@ -77,13 +76,13 @@ class WeatherProviderTest : public ::testing::Test {
     location_ = location.get();
     auto wake = std::make_unique<ManualOneShotScheduler>();
     wake_ = wake.get();
-    WeatherProvider::Places places{dir_.filePath("data/weather-snapshot.json").toStdString(),
-                                   dir_.filePath("config/weather.json").toStdString(),
-                                   {dir_.filePath("zone.tab").toStdString()},
+    WeatherProvider::Places places{context_.filePath("data/weather-snapshot.json").toStdString(),
+                                   context_.filePath("config/weather.json").toStdString(),
+                                   {context_.filePath("zone.tab").toStdString()},
                                    std::move(timeZone)};
     auto provider = std::make_unique<WeatherProvider>(
-        ProviderContext{activities_, settings_, diagnostics_}, std::move(location), transport_,
-        std::move(places), [this] { return now_; }, std::move(wake));
+        context_, std::move(location), transport_, std::move(places), [this] { return now_; },
+        std::move(wake));
     provider->start();
     return provider;
   }
@@ -92,10 +91,7 @@ class WeatherProviderTest : public ::testing::Test {
     provider.update();
   }
 
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
-  ActivityCenter activities_{settings_};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_;
   std::shared_ptr<CannedForecast> transport_ = std::make_shared<CannedForecast>();
   SetLocation* location_ = nullptr;
   ManualOneShotScheduler* wake_ = nullptr;  // of the provider made last
@@ -103,7 +99,7 @@ class WeatherProviderTest : public ::testing::Test {
 };
 
 TEST_F(WeatherProviderTest, ShowsTheWeatherOnFirstRunAndARestartWithinExpiresAsksNothing) {
-  (void)settings_.write(settings::weatherEnabled, true);
+  (void)context_.settings().write(settings::weatherEnabled, true);
   auto weather = makeProvider();
   // The first position is the time zone's city, rounded before it leaves the machine.
   ASSERT_EQ(transport_->requests.size(), 1U);
@@ -132,7 +128,7 @@ TEST_F(WeatherProviderTest, ShowsTheWeatherOnFirstRunAndARestartWithinExpiresAsk
 }
 
 TEST_F(WeatherProviderTest, FailuresKeepTheSnapshotAndNothingIsAskedWhileOffline) {
-  (void)settings_.write(settings::weatherEnabled, true);
+  (void)context_.settings().write(settings::weatherEnabled, true);
   auto weather = makeProvider();
   HTTPResponse busy;
   busy.status = 503;
@@ -143,7 +139,7 @@ TEST_F(WeatherProviderTest, FailuresKeepTheSnapshotAndNothingIsAskedWhileOffline
   EXPECT_TRUE(weather->viewModel()->available()) << "the last snapshot stays while fresh";
   EXPECT_EQ(weather->nextLook(), lateEvening + 3600 + 600) << "ten minutes, whatever failed";
   EXPECT_EQ(wake_->aimed(), 600);
-  EXPECT_NE(diagnostics_.entries().back().outcome, DiagnosticsLog::Outcome::ok);
+  EXPECT_NE(context_.diagnostics().entries().back().outcome, DiagnosticsLog::Outcome::ok);
 
   weather->setOnline(false);
   advanceTo(*weather, lateEvening + 3600 + 700);
@@ -160,11 +156,11 @@ TEST_F(WeatherProviderTest, FailuresKeepTheSnapshotAndNothingIsAskedWhileOffline
 }
 
 TEST_F(WeatherProviderTest, ThePositionComesFromTheUserThenGeoClueThenTheTimeZone) {
-  (void)settings_.write(settings::weatherEnabled, true);
+  (void)context_.settings().write(settings::weatherEnabled, true);
   EXPECT_EQ(makeProvider("Asia/Calcutta")->positionSource(), "the time zone Asia/Calcutta")
       << "an old name of a listed zone";
   transport_->requests.clear();
-  QFile::remove(dir_.filePath("data/weather-snapshot.json"));
+  QFile::remove(context_.filePath("data/weather-snapshot.json"));
   auto nowhere = makeProvider("Etc/Nowhere");
   EXPECT_TRUE(transport_->requests.empty());
   EXPECT_EQ(nowhere->viewModel()->unavailable(), "Waiting for location access");
@@ -195,21 +191,23 @@ TEST_F(WeatherProviderTest, ThePositionComesFromTheUserThenGeoClueThenTheTimeZon
 // asked drew again with the clock read before it: the snapshot was from its future, so never
 // fresh, and the weather never showed.
 TEST_F(WeatherProviderTest, AnAnswerThatComesAtOnceIsShownWhenTheClockMovesOn) {
-  (void)settings_.write(settings::weatherEnabled, true);
+  (void)context_.settings().write(settings::weatherEnabled, true);
   auto location = std::make_unique<SetLocation>();
   location->set(GeoCoordinate{59.91, 10.75});
   double ticking = lateEvening;
-  WeatherProvider weather(
-      {activities_, settings_, diagnostics_}, std::move(location), transport_,
-      {dir_.filePath("s.json").toStdString(), dir_.filePath("w.json").toStdString(), {}, ""},
-      [&ticking] { return ticking += 0.001; });
+  WeatherProvider weather(context_, std::move(location), transport_,
+                          {context_.filePath("s.json").toStdString(),
+                           context_.filePath("w.json").toStdString(),
+                           {},
+                           ""},
+                          [&ticking] { return ticking += 0.001; });
   transport_->stamp = [&ticking] { return ticking += 0.001; };
   weather.start();
   EXPECT_TRUE(weather.viewModel()->available());
 }
 
 TEST_F(WeatherProviderTest, ViewsDrawTheWeatherByDayAndByNight) {
-  (void)settings_.write(settings::weatherEnabled, true);
+  (void)context_.settings().write(settings::weatherEnabled, true);
   struct Shots {
     QString symbol;
     QImage panel, idle;
@@ -225,7 +223,7 @@ TEST_F(WeatherProviderTest, ViewsDrawTheWeatherByDayAndByNight) {
                          {180, 156}, "weather-panel-" + name),
                 viewShot(QUrl("qrc:/Tindra/weather/WeatherIdleItem.qml"), weather->viewModel(),
                          {90, 24}, "weather-idle-" + name)};
-    QFile::remove(dir_.filePath("data/weather-snapshot.json"));
+    QFile::remove(context_.filePath("data/weather-snapshot.json"));
     return shots;
   };
   const PixelTest sunny = hueOf("#ffd60a");

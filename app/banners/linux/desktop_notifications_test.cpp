@@ -10,7 +10,6 @@
 #include <QElapsedTimer>
 #include <QProcess>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
 #include "banners/banner_provider.h"
@@ -27,6 +26,7 @@
 #include "settings/settings_keys.h"
 #include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/provider_test_context.h"
 #include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
@@ -203,37 +203,35 @@ TEST_F(DesktopNotificationsTest, GLibsNotificationsAreReadToo) {
 }
 
 TEST_F(DesktopNotificationsTest, CallsAndMessagesReachTheNotchAndQuietWithDoNotDisturb) {
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
-  const ProviderContext context{activities, settings, diagnostics};
+  ProviderTestContext context;
   auto focusSource = std::make_shared<NotificationServerFocusSource>(QDBusConnection::sessionBus());
   FocusProvider focus(context, focusSource);
   BannerProvider banners(
       context, std::make_unique<DBusNotificationMonitor>(QDBusConnection::sessionBus()),
       focusSource, std::make_unique<DesktopEntryOpener>(), BannerApps::defaults());
-  ASSERT_TRUE(settings.write(settings::experimentalCallNotices, true));
-  ASSERT_TRUE(settings.write(settings::experimentalMessageNotices, true));
+  ASSERT_TRUE(context.settings().write(settings::experimentalCallNotices, true));
+  ASSERT_TRUE(context.settings().write(settings::experimentalMessageNotices, true));
   setInhibited(false);
   focus.start();
   banners.start();
   ASSERT_TRUE(waitFor([&] { return focusSource->focused() == false; }));
   ASSERT_TRUE(waitFor([&] {
-    return std::ranges::any_of(diagnostics.entries(), [](const DiagnosticsLog::Entry& entry) {
-      return entry.text.english().startsWith("reading notification");
-    });
+    return std::ranges::any_of(context.diagnostics().entries(),
+                               [](const DiagnosticsLog::Entry& entry) {
+                                 return entry.text.english().startsWith("reading notification");
+                               });
   }));
 
   const quint32 ringing = pythonNotify("Phone", "Ana", "", "call.incoming", "");
-  ASSERT_TRUE(waitFor([&] { return activities.current() == ActivityKind::incomingCall; }));
+  ASSERT_TRUE(
+      waitFor([&] { return context.activities().current() == ActivityKind::incomingCall; }));
   closeNotification(ringing);
-  ASSERT_TRUE(waitFor([&] { return activities.current() == ActivityKind::idle; }));
+  ASSERT_TRUE(waitFor([&] { return context.activities().current() == ActivityKind::idle; }));
 
   QElapsedTimer sent;
   sent.start();
   run(QStringLiteral("notify-send"), {"--app-name=Chat", "--category=im.received", "Ana", "Hi"});
-  ASSERT_TRUE(waitFor([&] { return activities.current() == ActivityKind::message; }));
+  ASSERT_TRUE(waitFor([&] { return context.activities().current() == ActivityKind::message; }));
   std::printf("notify-send to the message activity: %lld ms (the client's start included)\n",
               static_cast<long long>(sent.elapsed()));
   EXPECT_EQ(banners.viewModel()->body(), "Hi");
@@ -280,19 +278,15 @@ TEST_F(DesktopNotificationsTest, AServerThatGoesAndComesBackIsFollowed) {
 // The server crashing at random moments, with a message shown or while the monitor is still
 // being attached: after each return a message sent to the new server reaches the notch.
 TEST_F(DesktopNotificationsTest, MessagesReachTheNotchAgainAfterEachOfManyServerCrashes) {
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
-  const ProviderContext context{activities, settings, diagnostics};
+  ProviderTestContext context;
   auto owned = std::make_unique<DBusNotificationMonitor>(QDBusConnection::sessionBus());
   const DBusNotificationMonitor& monitor = *owned;
   BannerProvider banners(
       context, std::move(owned),
       std::make_shared<NotificationServerFocusSource>(QDBusConnection::sessionBus()),
       std::make_unique<DesktopEntryOpener>(), BannerApps::defaults());
-  ASSERT_TRUE(settings.write(settings::experimentalCallNotices, true));
-  ASSERT_TRUE(settings.write(settings::experimentalMessageNotices, true));
+  ASSERT_TRUE(context.settings().write(settings::experimentalCallNotices, true));
+  ASSERT_TRUE(context.settings().write(settings::experimentalMessageNotices, true));
   banners.start();
   const BannerViewModel& view = *banners.viewModel();
 
@@ -332,8 +326,9 @@ TEST_F(DesktopNotificationsTest, MessagesReachTheNotchAgainAfterEachOfManyServer
   std::printf("notification server drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
   EXPECT_EQ(report.failure, QString());
   EXPECT_EQ(report.restarts, 20);
-  EXPECT_GE(entriesSaying(diagnostics, "no notification server runs"), report.restarts);
-  EXPECT_GE(entriesSaying(diagnostics, "reading notification banners"), report.restarts + 1);
+  EXPECT_GE(entriesSaying(context.diagnostics(), "no notification server runs"), report.restarts);
+  EXPECT_GE(entriesSaying(context.diagnostics(), "reading notification banners"),
+            report.restarts + 1);
 }
 
 TEST(DesktopFocusTest, GnomesBannerSwitchIsDoNotDisturb) {
@@ -443,33 +438,32 @@ TEST_F(DesktopLockTest, LockSignalsHintsAndTheScreenSaverReachThePresence) {
 }
 
 TEST_F(DesktopLockTest, AStopWhileLockedIsFoundAtTheNextStart) {
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
-  ASSERT_TRUE(settings.write(settings::experimentalLockScreen, true));
+  ProviderTestContext context;
+  ASSERT_TRUE(context.settings().write(settings::experimentalLockScreen, true));
   const std::string boot = LockSessionGuard::readBootID();
   ASSERT_EQ(boot.size(), 36u) << boot;  // a UUID
   const auto start = [&] {
     auto provider = std::make_unique<LockScreenProvider>(
-        ProviderContext{activities, settings, diagnostics},
+        context,
         std::make_unique<LogindLockSource>(QDBusConnection::systemBus(),
                                            QDBusConnection::sessionBus()),
-        LockSessionGuard(dir.path().toStdString(), boot, "Debian"), [] { return 100.0; });
+        LockSessionGuard(context.path().toStdString(), boot, "Debian"), [] { return 100.0; });
     provider->start();
     return provider;
   };
   auto tindra = start();
   ASSERT_TRUE(waitFor([&] {
-    return tindra->viewModel() && diagnostics.entries().back().text.english().contains("following");
+    return tindra->viewModel() &&
+           context.diagnostics().entries().back().text.english().contains("following");
   }));
   session("Lock");
   ASSERT_TRUE(waitFor([&] { return tindra->locked(); }));
   tindra.reset();  // killed while locked: the record keeps the open session
 
   tindra = start();
-  EXPECT_FALSE(settings.read(settings::experimentalLockScreen));
-  EXPECT_EQ(LockScreenNotice::fromSettingText(settings.read(settings::lockScreenNotice))->reason,
+  EXPECT_FALSE(context.settings().read(settings::experimentalLockScreen));
+  EXPECT_EQ(LockScreenNotice::fromSettingText(context.settings().read(settings::lockScreenNotice))
+                ->reason,
             LockScreenNotice::Reason::stoppedWhileLocked);
   session("Unlock");
 }
@@ -499,17 +493,14 @@ TEST_F(DesktopLockTest, LogindMissingAtStartOrLeavingIsSaidAndFollowedWhenItCome
 // logind crashing at random moments, each new one with the session locked when the last was
 // unlocked and the other way round: the lock follows every new logind, and each crash is said.
 TEST_F(DesktopLockTest, TheLockIsFollowedAgainAfterEachOfManyCrashesOfLogind) {
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
-  ASSERT_TRUE(settings.write(settings::experimentalLockScreen, true));
+  ProviderTestContext context;
+  ASSERT_TRUE(context.settings().write(settings::experimentalLockScreen, true));
   auto owned = std::make_unique<LogindLockSource>(QDBusConnection::systemBus(),
                                                   QDBusConnection::sessionBus());
   const LogindLockSource& source = *owned;
   LockScreenProvider provider(
-      {activities, settings, diagnostics}, std::move(owned),
-      LockSessionGuard(dir.path().toStdString(), LockSessionGuard::readBootID(), "Debian"),
+      context, std::move(owned),
+      LockSessionGuard(context.path().toStdString(), LockSessionGuard::readBootID(), "Debian"),
       [] { return 100.0; });
   provider.start();
   const auto following = [&] { return source.check().text.english().contains(sessionPath); };
@@ -532,8 +523,8 @@ TEST_F(DesktopLockTest, TheLockIsFollowedAgainAfterEachOfManyCrashesOfLogind) {
   std::printf("logind drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
   EXPECT_EQ(report.failure, QString());
   EXPECT_EQ(report.restarts, 20);
-  EXPECT_EQ(entriesSaying(diagnostics, "logind went away"), report.restarts);
-  EXPECT_GE(entriesSaying(diagnostics, "following the screen lock"), report.restarts + 1);
+  EXPECT_EQ(entriesSaying(context.diagnostics(), "logind went away"), report.restarts);
+  EXPECT_GE(entriesSaying(context.diagnostics(), "following the screen lock"), report.restarts + 1);
 
   // The last logind's own signals are heard, not only its hint.
   session(locked ? "Unlock" : "Lock");

@@ -1,5 +1,11 @@
 #include "base/linux/idle_pages_release.h"
 
+// <cstdlib> first: __GLIBC__, which the heap's trim depends on, is defined by the C library's
+// own headers, and is unknown before one of them.
+#include <cstdlib>
+#if defined(__GLIBC__)
+#include <malloc.h>
+#endif
 #include <sys/mman.h>
 
 #include <QFile>
@@ -156,7 +162,7 @@ void IdlePagesRelease::watchFrames() {
 // frame after a release to the next release.
 void IdlePagesRelease::framed() {
   sinceFrame_.start();
-  if (refused_ || timer_.isActive()) return;
+  if (timer_.isActive()) return;
   if (released_) timer_.setInterval(quiet_);
   timer_.start();
 }
@@ -173,13 +179,26 @@ void IdlePagesRelease::waited() {
   release();
 }
 
+// The heap goes back even where the file pages are refused: what an opened notch allocated is
+// freed by the time it has drawn nothing for long.
 void IdlePagesRelease::release() {
   QElapsedTimer took;
   took.start();
-  const Outcome outcome = releaseNow();
-  refused_ = outcome.refused;
-  qCDebug(lcApp) << "gave back the file pages of" << outcome.mappings << "mappings in"
-                 << took.nsecsElapsed() / 1000 << "µs";
+  Outcome outcome{.refused = true};
+  if (!refused_) {
+    outcome = releaseNow();
+    refused_ = outcome.refused;
+  }
+  giveBackFreedHeap();
+  qCDebug(lcApp) << "gave back the freed heap and the file pages of" << outcome.mappings
+                 << "mappings in" << took.nsecsElapsed() / 1000 << "µs";
+  emit released(outcome);
+}
+
+void IdlePagesRelease::giveBackFreedHeap() {
+#if defined(__GLIBC__)
+  malloc_trim(0);
+#endif
 }
 
 IdlePagesRelease::Outcome IdlePagesRelease::releaseNow() {

@@ -1,9 +1,11 @@
 // IdlePagesRelease: once Tindra has drawn its first frame and settled, hands back the pages of
 // its program and libraries that only starting needed (QML loading, type registration, the
-// first layout, and the neighbours the kernel maps around every page touched). Only file pages
-// nobody wrote to are dropped: the next touch maps them again from the page cache, as after the
-// kernel reclaimed them itself, so nothing changes but the resident count. Runs once, on the
-// main thread; where the kernel refuses, the log says so once and nothing else happens.
+// first layout, and the neighbours the kernel maps around every page touched), and what the
+// heap has freed (start-up's temporaries, later an opened notch's). Only file pages nobody wrote
+// to are dropped: the next touch maps them again from the page cache, as after the kernel
+// reclaimed them itself, so nothing changes but the resident count. Runs on the main thread,
+// once after start and once per long idle period; where the kernel refuses the file pages, the
+// log says so once and only the heap is given back after that.
 #pragma once
 
 #include <QElapsedTimer>
@@ -48,6 +50,13 @@ class IdlePagesRelease final : public QObject {
 
   // Drops the droppable pages of this process now.
   static Outcome releaseNow();
+  // Hands the heap's free pages back to the system: after large transient work, and with the
+  // file pages.
+  static void giveBackFreedHeap();
+
+ signals:
+  // After each release, the file pages' outcome.
+  void released(const tindra::IdlePagesRelease::Outcome& outcome);
 
  private:
   void framed();

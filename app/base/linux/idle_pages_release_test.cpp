@@ -4,10 +4,17 @@
 #include <sys/mman.h>
 #include <unistd.h>
 
+#include <QElapsedTimer>
 #include <QFile>
+#include <QQuickWindow>
 #include <QTemporaryDir>
+#include <QTest>
 #include <QtGlobal>
+#include <chrono>
+#include <cstdlib>
+#include <cstring>
 #include <string>
+#include <vector>
 
 namespace tindra {
 namespace {
@@ -125,6 +132,78 @@ TEST(IdlePagesRelease, DropsFilePagesAndKeepsWhatWasWritten) {
   EXPECT_EQ(residentKB(written), 4 * page / 1024);
   munmap(shared, 4 * page);
   munmap(written, 4 * page);
+}
+
+// The Rss of the heap's own mapping, in kB.
+long heapResidentKB() {
+  QFile smaps(QStringLiteral("/proc/self/smaps"));
+  if (!smaps.open(QIODevice::ReadOnly)) return -1;
+  bool inside = false;
+  for (const QByteArray& line : smaps.readAll().split('\n')) {
+    // Detail lines are "Key: value"; every other line opens a mapping.
+    const qsizetype colon = line.indexOf(':');
+    if (colon < 0 || line.left(colon).contains(' ')) inside = line.endsWith("[heap]");
+    if (inside && line.startsWith("Rss:")) return line.mid(4).trimmed().split(' ').front().toLong();
+  }
+  return -1;
+}
+
+#if defined(__GLIBC__)
+// What the heap freed below a block still in use goes back too, which free() alone never does.
+TEST(IdlePagesRelease, GivesBackTheHeapFreedBelowWhatIsStillInUse) {
+  constexpr std::size_t block = 64 * 1024;  // under the threshold for a mapping of its own
+  std::vector<char*> blocks;
+  for (int i = 0; i < 256; ++i) {
+    blocks.push_back(static_cast<char*>(std::malloc(block)));
+    std::memset(blocks.back(), 1, block);
+  }
+  for (std::size_t i = 0; i + 1 < blocks.size(); ++i) std::free(blocks[i]);
+  const long before = heapResidentKB();
+  ASSERT_GT(before, 8 * 1024);
+  IdlePagesRelease::giveBackFreedHeap();
+  EXPECT_LT(heapResidentKB(), before - 8 * 1024);
+  std::free(blocks.back());
+}
+#endif
+
+// Frames as an opened notch draws them: a release once the first frame has settled, then one per
+// quiet spell after frames; none while frames keep coming, and none again while nothing draws.
+TEST(IdlePagesRelease, ReleasesOnceAfterStartAndOncePerQuietSpell) {
+  using namespace std::chrono_literals;
+  constexpr auto quiet = 600ms;
+  QQuickWindow window;
+  window.resize(40, 40);
+  window.show();
+  IdlePagesRelease release(100ms, quiet);
+  release.watchFrames();
+  int releases = 0;
+  QElapsedTimer sinceFrame;
+  QObject::connect(&window, &QQuickWindow::frameSwapped, [&] { sinceFrame.start(); });
+  std::vector<qint64> idleAtRelease;
+  QObject::connect(&release, &IdlePagesRelease::released, [&] {
+    ++releases;
+    idleAtRelease.push_back(sinceFrame.elapsed());
+  });
+  const auto drawFor = [&](std::chrono::milliseconds span) {
+    QElapsedTimer drawing;
+    drawing.start();
+    while (drawing.elapsed() < span.count()) {
+      window.update();
+      QTest::qWait(15);
+    }
+  };
+
+  ASSERT_TRUE(QTest::qWaitFor([&] { return releases == 1; }, 5000));
+  drawFor(3 * quiet);
+  EXPECT_EQ(releases, 1);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return releases == 2; }, 5000));
+  EXPECT_GE(idleAtRelease.back(), quiet.count() * 9 / 10);
+  QTest::qWait(3 * quiet.count());
+  EXPECT_EQ(releases, 2);
+
+  drawFor(100ms);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return releases == 3; }, 5000));
+  EXPECT_GE(idleAtRelease.back(), quiet.count() * 9 / 10);
 }
 
 }  // namespace

@@ -1,6 +1,6 @@
 #include "calendar/linux/calendar_feed.h"
 
-#include "base/heap_tuning.h"
+#include "base/linux/idle_pages_release.h"
 #include "base/qt_text.h"
 
 namespace tindra {
@@ -38,9 +38,11 @@ void CalendarFeed::setReadOptions(ICalendarReadOptions options) {
   // A reading on its way is asked again with the new options; else the documents the feed has.
   if (pending_) {
     post(*pending_);
-  } else if (holdsDocuments()) {
-    post({documentsAgain(), {}, true});
+  } else if (std::optional<Gather> held = documentsAgain()) {
+    holdsDocuments_ = true;
+    post({std::move(*held), {}, true});
   } else {
+    holdsDocuments_ = false;
     post({[documents = documents_] { return std::optional(*documents); }, {}, true});
   }
   if (newWindow) windowChanged();
@@ -83,7 +85,7 @@ std::optional<CalendarFeed::Reading> CalendarFeed::read(const Gather& gather,
   reading.texts = std::move(texts);
   // libical builds a tree many times the document's size and frees it in small pieces, which
   // the allocator would otherwise keep for good.
-  giveBackFreedHeap();
+  IdlePagesRelease::giveBackFreedHeap();
   return reading;
 }
 
@@ -114,6 +116,13 @@ void CalendarFeed::finish(const Request& request, std::optional<Reading> reading
   take(std::move(*reading));
   publish();
   tell(Outcome::taken);
+}
+
+// The feed's documents are asked for once, only to learn whether it holds them: the gather is
+// dropped unrun, and a reading is taken only when it is the newest one posted.
+bool CalendarFeed::holdsDocuments() {
+  if (!holdsDocuments_) holdsDocuments_ = documentsAgain().has_value();
+  return *holdsDocuments_;
 }
 
 void CalendarFeed::take(Reading reading) {

@@ -52,9 +52,8 @@ class EdsCalendarFeed final : public CalendarFeed {
 
  protected:
   void windowChanged() override;
-  bool holdsDocuments() const override { return true; }
   // The components of the last reading and the zones, joined into one document on the reader.
-  Gather documentsAgain() override;
+  std::optional<Gather> documentsAgain() override;
 
  private:
   void open();

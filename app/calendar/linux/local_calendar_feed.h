@@ -24,8 +24,7 @@ class LocalCalendarFeed final : public CalendarFeed {
 
  protected:
   // Read from the disk again rather than kept: it is at hand there, and perhaps newer.
-  bool holdsDocuments() const override { return true; }
-  Gather documentsAgain() override;
+  std::optional<Gather> documentsAgain() override;
 
  private:
   void read();

@@ -4,17 +4,14 @@
 #include <gtest/gtest.h>
 
 #include <QProcess>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "base/activity_center.h"
-#include "base/diagnostics_log.h"
 #include "levels/fake_backlight_backend.h"
 #include "levels/fake_media_key_source.h"
 #include "levels/fake_volume_backend.h"
 #include "levels/hud_provider.h"
 #include "settings/settings_keys.h"
-#include "settings/settings_store.h"
+#include "testing/provider_test_context.h"
 
 namespace tindra {
 namespace {
@@ -43,19 +40,15 @@ class LevelCommandTest : public ::testing::Test {
     auto commands = std::make_unique<BusLevelCommandSource>(QDBusConnection::sessionBus());
     commands_ = commands.get();
     provider_ = std::make_unique<HudProvider>(
-        ProviderContext{activities_, settings_, diagnostics_},
-        HudBackends{std::move(volume), std::move(display),
-                    std::make_unique<FakeBacklightBackend>("keyboard", 0.5),
-                    std::make_unique<FakeMediaKeySource>(), std::move(commands)});
+        context_, HudBackends{std::move(volume), std::move(display),
+                              std::make_unique<FakeBacklightBackend>("keyboard", 0.5),
+                              std::make_unique<FakeMediaKeySource>(), std::move(commands)});
     provider_->start();
     ASSERT_TRUE(
         QTest::qWaitFor([&] { return commands_->check().text.english().contains("step"); }));
   }
 
-  QTemporaryDir dir_;
-  SettingsStore settings_{dir_.filePath("settings.json").toStdString(), [] { return 0.0; }};
-  ActivityCenter activities_{settings_};
-  DiagnosticsLog diagnostics_;
+  ProviderTestContext context_;
   FakeVolumeBackend* volume_ = nullptr;
   FakeBacklightBackend* display_ = nullptr;
   BusLevelCommandSource* commands_ = nullptr;
@@ -67,7 +60,7 @@ TEST_F(LevelCommandTest, CommandsStepTheLevelsAsTheirKeysWouldAndSayWhenTheyCann
   // Up to the next sixteenth, as the key goes; a fine step is a quarter of one.
   EXPECT_EQ(level({"volume", "up"}).exitCode, 0);
   EXPECT_DOUBLE_EQ(volume_->reading()->level, 10.0 / 16);
-  EXPECT_EQ(activities_.current(), ActivityKind::hud);
+  EXPECT_EQ(context_.activities().current(), ActivityKind::hud);
   EXPECT_EQ(level({"volume", "down", "--fine"}).exitCode, 0);
   EXPECT_DOUBLE_EQ(volume_->reading()->level, 10.0 / 16 - 1.0 / 64);
   EXPECT_EQ(level({"volume", "mute"}).exitCode, 0);
@@ -76,7 +69,7 @@ TEST_F(LevelCommandTest, CommandsStepTheLevelsAsTheirKeysWouldAndSayWhenTheyCann
   EXPECT_LT(display_->reading()->level, 0.5);
 
   // Turned off in Settings, the key is the desktop's: nothing changes, and the command says so.
-  ASSERT_TRUE(settings_.write(settings::volumeHUDEnabled, false));
+  ASSERT_TRUE(context_.settings().write(settings::volumeHUDEnabled, false));
   const double before = volume_->reading()->level;
   const Ran refused = level({"volume", "up"});
   EXPECT_EQ(refused.exitCode, 1);

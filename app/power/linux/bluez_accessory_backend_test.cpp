@@ -5,13 +5,11 @@
 
 #include <QDBusObjectPath>
 #include <QElapsedTimer>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "base/activity_center.h"
 #include "power/accessory_provider.h"
-#include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/provider_test_context.h"
 #include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
@@ -144,11 +142,8 @@ TEST_F(BlueZAccessoryBackendTest, TheHeadsetComesBackAfterEachOfManyCrashesOfBlu
   connectHeadset();
   auto owned = std::make_unique<BlueZAccessoryBackend>(QDBusConnection::systemBus());
   BlueZAccessoryBackend& backend = *owned;
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
-  AccessoryProvider provider({activities, settings, diagnostics}, std::move(owned), nullptr);
+  ProviderTestContext context;
+  AccessoryProvider provider(context, std::move(owned), nullptr);
   const AccessoryViewModel& view = *provider.viewModel();
   provider.start();
   const auto showsHeadset = [&] {
@@ -177,9 +172,9 @@ TEST_F(BlueZAccessoryBackendTest, TheHeadsetComesBackAfterEachOfManyCrashesOfBlu
   EXPECT_EQ(report.failure, QString());
   EXPECT_EQ(report.restarts, 20);
   const auto saying = [&](const QString& text) {
-    return std::ranges::count_if(diagnostics.entries(), [&](const DiagnosticsLog::Entry& entry) {
-      return entry.text.english().contains(text);
-    });
+    return std::ranges::count_if(
+        context.diagnostics().entries(),
+        [&](const DiagnosticsLog::Entry& entry) { return entry.text.english().contains(text); });
   };
   EXPECT_EQ(saying("BlueZ went away"), report.restarts);
   EXPECT_GE(saying("following BlueZ"), report.restarts + 1);

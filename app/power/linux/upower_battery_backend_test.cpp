@@ -8,14 +8,12 @@
 #include <QDBusVariant>
 #include <QElapsedTimer>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 #include <memory>
 
-#include "base/activity_center.h"
 #include "power/battery_provider.h"
-#include "settings/settings_store.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/provider_test_context.h"
 #include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
@@ -110,11 +108,8 @@ TEST_F(UPowerBatteryBackendTest, PowerSaverAndNoticesFollowTheServices) {
   setUpBattery(50);
   auto owned = std::make_unique<UPowerBatteryBackend>(QDBusConnection::systemBus());
   UPowerBatteryBackend& backend = *owned;
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
-  BatteryProvider provider({activities, settings, diagnostics}, std::move(owned));
+  ProviderTestContext context;
+  BatteryProvider provider(context, std::move(owned));
   provider.start();
   ASSERT_TRUE(waitFor([&] { return backend.reading() && backend.reading()->percent == 50; }));
   EXPECT_FALSE(backend.reading()->isLowPowerMode);
@@ -127,10 +122,11 @@ TEST_F(UPowerBatteryBackendTest, PowerSaverAndNoticesFollowTheServices) {
   QElapsedTimer sinceChange;
   sinceChange.start();
   setProperties({{"State", 1u}});
-  ASSERT_TRUE(waitFor([&] { return activities.current() == ActivityKind::batteryAlert; }));
+  ASSERT_TRUE(
+      waitFor([&] { return context.activities().current() == ActivityKind::batteryAlert; }));
   std::printf("UPower change to notice: %.2f ms\n", sinceChange.nsecsElapsed() / 1e6);
   EXPECT_EQ(provider.viewModel()->notice(), "pluggedIn");
-  activities.reset();
+  context.activities().reset();
   setProperties({{"State", 2u}, {"Percentage", 21.0}});
   ASSERT_TRUE(waitFor([&] { return provider.viewModel()->notice() == "unplugged"; }));
   setProperties({{"Percentage", 19.6}});
@@ -166,11 +162,8 @@ TEST_F(UPowerBatteryBackendTest, ABatteryComesBackAfterEachOfManyCrashesOfUPower
   setUpBattery(64);
   auto owned = std::make_unique<UPowerBatteryBackend>(QDBusConnection::systemBus());
   UPowerBatteryBackend& backend = *owned;
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
-  BatteryProvider provider({activities, settings, diagnostics}, std::move(owned));
+  ProviderTestContext context;
+  BatteryProvider provider(context, std::move(owned));
   const BatteryViewModel& view = *provider.viewModel();
   provider.start();
   ASSERT_TRUE(waitFor([&] { return view.percent() == 64 && !view.charging(); }));
@@ -198,10 +191,10 @@ TEST_F(UPowerBatteryBackendTest, ABatteryComesBackAfterEachOfManyCrashesOfUPower
   std::printf("UPower drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
   EXPECT_EQ(report.failure, QString());
   EXPECT_EQ(report.restarts, 20);
-  EXPECT_EQ(entriesSaying(diagnostics, "UPower went away"), report.restarts);
+  EXPECT_EQ(entriesSaying(context.diagnostics(), "UPower went away"), report.restarts);
   // Back with the battery, or back before the battery was set up on it.
-  EXPECT_GE(entriesSaying(diagnostics, "reading the battery from UPower") +
-                entriesSaying(diagnostics, "UPower answers and reports no battery"),
+  EXPECT_GE(entriesSaying(context.diagnostics(), "reading the battery from UPower") +
+                entriesSaying(context.diagnostics(), "UPower answers and reports no battery"),
             report.restarts + 1);
   EXPECT_EQ(backend.check().outcome, DiagnosticsLog::Outcome::ok);
 }
@@ -214,11 +207,8 @@ TEST_F(UPowerBatteryBackendTest, LowPowerModeComesBackAfterEachOfManyCrashesOfTh
   setProfile("power-saver");
   setUpBattery(64);
   auto owned = std::make_unique<UPowerBatteryBackend>(QDBusConnection::systemBus());
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
-  BatteryProvider provider({activities, settings, diagnostics}, std::move(owned));
+  ProviderTestContext context;
+  BatteryProvider provider(context, std::move(owned));
   const BatteryViewModel& view = *provider.viewModel();
   provider.start();
   ASSERT_TRUE(waitFor([&] { return view.lowPowerMode() && view.percent() == 64; }));

@@ -6,12 +6,11 @@
 
 #include <QElapsedTimer>
 #include <QSignalSpy>
-#include <QTemporaryDir>
 #include <QTest>
 
-#include "base/activity_center.h"
 #include "settings/settings_keys.h"
 #include "testing/dbus_mock_service.h"
+#include "testing/provider_test_context.h"
 #include "testing/restart_drill.h"
 #include "testing/skip_or_fail_on_ci.h"
 
@@ -85,17 +84,13 @@ struct NoRequests final : HTTPTransport {
 // GeoClue crashing at random moments, before or after it reports a position: each GeoClue that
 // returns is given a new client, and the position it reports reaches the weather.
 TEST_F(GeoClueLocationSourceTest, ThePositionIsFollowedAgainAfterEachOfManyCrashes) {
-  QTemporaryDir dir;
-  SettingsStore settings(dir.filePath("settings.json").toStdString(), [] { return 0.0; });
-  ASSERT_TRUE(settings.write(settings::weatherEnabled, true));
-  ActivityCenter activities(settings);
-  DiagnosticsLog diagnostics;
+  ProviderTestContext context;
+  ASSERT_TRUE(context.settings().write(settings::weatherEnabled, true));
   auto owned = std::make_unique<GeoClueLocationSource>(QDBusConnection::systemBus());
   GeoClueLocationSource& source = *owned;
-  WeatherProvider weather({activities, settings, diagnostics}, std::move(owned),
-                          std::make_shared<NoRequests>(),
-                          {dir.filePath("snapshot.json").toStdString(),
-                           dir.filePath("weather.json").toStdString(),
+  WeatherProvider weather(context, std::move(owned), std::make_shared<NoRequests>(),
+                          {context.filePath("snapshot.json").toStdString(),
+                           context.filePath("weather.json").toStdString(),
                            {},
                            "Europe/Oslo"},
                           [] { return 1.7e9; });
@@ -129,9 +124,10 @@ TEST_F(GeoClueLocationSourceTest, ThePositionIsFollowedAgainAfterEachOfManyCrash
   EXPECT_EQ(report.failure, QString());
   EXPECT_EQ(report.restarts, 20);
   const auto saying = [&](const QString& text) {
-    return std::ranges::count_if(diagnostics.entries(), [&](const DiagnosticsLog::Entry& entry) {
-      return entry.source == "weather" && entry.text.english().contains(text);
-    });
+    return std::ranges::count_if(
+        context.diagnostics().entries(), [&](const DiagnosticsLog::Entry& entry) {
+          return entry.source == "weather" && entry.text.english().contains(text);
+        });
   };
   EXPECT_GE(saying("GeoClue went away"), report.restarts);
   EXPECT_GE(saying("GeoClue gives the position"), report.restarts + 1);
