@@ -38,11 +38,9 @@ void CalendarFeed::setReadOptions(ICalendarReadOptions options) {
   // A reading on its way is asked again with the new options; else the documents the feed has.
   if (pending_) {
     post(*pending_);
-  } else if (std::optional<Gather> held = documentsAgain()) {
-    holdsDocuments_ = true;
-    post({std::move(*held), {}, true});
+  } else if (holdsDocuments()) {
+    post({documentsAgain(), {}, true});
   } else {
-    holdsDocuments_ = false;
     post({[documents = documents_] { return std::optional(*documents); }, {}, true});
   }
   if (newWindow) windowChanged();
@@ -116,13 +114,6 @@ void CalendarFeed::finish(const Request& request, std::optional<Reading> reading
   take(std::move(*reading));
   publish();
   tell(Outcome::taken);
-}
-
-// The feed's documents are asked for once, only to learn whether it holds them: the gather is
-// dropped unrun, and a reading is taken only when it is the newest one posted.
-bool CalendarFeed::holdsDocuments() {
-  if (!holdsDocuments_) holdsDocuments_ = documentsAgain().has_value();
-  return *holdsDocuments_;
 }
 
 void CalendarFeed::take(Reading reading) {

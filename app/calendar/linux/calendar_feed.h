@@ -59,9 +59,9 @@ class CalendarFeed : public QObject {
   virtual void windowChanged() {}
   // A feed that holds its documents' text itself (Evolution's components) or can get it again
   // at no cost (a file on this machine) gives it for new read options, and the text of the last
-  // reading is not kept. Any other (a fetched calendar) gives none and has the last reading's
-  // text read again. The answer stays the same for the feed's life.
-  virtual std::optional<Gather> documentsAgain() { return std::nullopt; }
+  // reading is not kept. Any other (a fetched calendar) has the last reading's text read again.
+  virtual bool holdsDocuments() const { return false; }
+  virtual Gather documentsAgain() { return {}; }
   // A problem in getting the documents at all (a failed fetch); the last good ones stay shown.
   void setProblem(DiagnosticsLog::Outcome outcome, const Sentence& text);
   const QString& location() const { return contents_.source.location; }
@@ -85,7 +85,6 @@ class CalendarFeed : public QObject {
   void finish(const Request& request, std::optional<Reading> reading);
   void take(Reading reading);
   void publish();
-  bool holdsDocuments();
 
   std::shared_ptr<SerialWorker> reader_;
   QString defaultName_;
@@ -93,9 +92,8 @@ class CalendarFeed : public QObject {
   ICalendarReadOptions options_;
   // The text of the last reading, unless the feed holds it itself.
   std::shared_ptr<const std::vector<std::string>> documents_;
-  std::optional<bool> holdsDocuments_;  // asked at the first reading
-  std::optional<Request> pending_;      // the newest reading asked for, until it is done
-  std::uint64_t posted_ = 0;            // readings asked for so far
+  std::optional<Request> pending_;  // the newest reading asked for, until it is done
+  std::uint64_t posted_ = 0;        // readings asked for so far
   CalendarContents contents_;
   std::optional<double> refreshInterval_;
   Sentence readProblem_;  // documents left out of the last reading

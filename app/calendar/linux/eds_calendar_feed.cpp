@@ -374,10 +374,10 @@ void EdsCalendarFeed::scheduleRead() {
 void EdsCalendarFeed::read() {
   if (!complete_ || zonesAsked_ > 0) return;
   lastRead_ = components_;
-  accept(*documentsAgain());
+  accept(documentsAgain());
 }
 
-std::optional<CalendarFeed::Gather> EdsCalendarFeed::documentsAgain() {
+CalendarFeed::Gather EdsCalendarFeed::documentsAgain() {
   const quint64 number = ++*readings_;
   return [components = lastRead_, zones = zones_, readings = readings_,
           number]() -> std::optional<std::vector<std::string>> {

@@ -52,8 +52,9 @@ class EdsCalendarFeed final : public CalendarFeed {
 
  protected:
   void windowChanged() override;
+  bool holdsDocuments() const override { return true; }
   // The components of the last reading and the zones, joined into one document on the reader.
-  std::optional<Gather> documentsAgain() override;
+  Gather documentsAgain() override;
 
  private:
   void open();

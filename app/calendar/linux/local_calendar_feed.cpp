@@ -73,14 +73,14 @@ void LocalCalendarFeed::read() {
                Sentence(QT_TR_NOOP("%1 is not there"), tr).arg(location()));
     return;
   }
-  accept(*documentsAgain(), [this](Outcome outcome) {
+  accept(documentsAgain(), [this](Outcome outcome) {
     if (outcome != Outcome::unavailable) return;
     setProblem(DiagnosticsLog::Outcome::degraded,
                Sentence(QT_TR_NOOP("%1 cannot be read"), tr).arg(location()));
   });
 }
 
-std::optional<CalendarFeed::Gather> LocalCalendarFeed::documentsAgain() {
+CalendarFeed::Gather LocalCalendarFeed::documentsAgain() {
   const QFileInfo info(location());
   return [path = info.absoluteFilePath(), isFolder = info.isDir()] {
     return documentsAt(path, isFolder);

@@ -24,7 +24,8 @@ class LocalCalendarFeed final : public CalendarFeed {
 
  protected:
   // Read from the disk again rather than kept: it is at hand there, and perhaps newer.
-  std::optional<Gather> documentsAgain() override;
+  bool holdsDocuments() const override { return true; }
+  Gather documentsAgain() override;
 
  private:
   void read();
