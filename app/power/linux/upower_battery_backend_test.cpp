@@ -212,6 +212,9 @@ TEST_F(UPowerBatteryBackendTest, LowPowerModeComesBackAfterEachOfManyCrashesOfTh
   const BatteryViewModel& view = *provider.viewModel();
   provider.start();
   ASSERT_TRUE(waitFor([&] { return view.lowPowerMode() && view.percent() == 64; }));
+  QStringList told;  // what Diagnostics says of the battery from here on
+  QObject::connect(&context.diagnostics(), &DiagnosticsLog::recorded, &context.diagnostics(),
+                   [&](const DiagnosticsLog::Entry& entry) { told << entry.text.english(); });
 
   QElapsedTimer drill;
   drill.start();
@@ -229,8 +232,12 @@ TEST_F(UPowerBatteryBackendTest, LowPowerModeComesBackAfterEachOfManyCrashesOfTh
   std::printf("power profiles drill: %lld ms\n", static_cast<long long>(drill.elapsed()));
   EXPECT_EQ(report.failure, QString());
   EXPECT_EQ(report.restarts, 20);
-  // The battery stayed with UPower all along.
+  // The battery stayed with UPower all along, and Diagnostics told of each crash and return.
   EXPECT_EQ(view.percent(), 64);
+  EXPECT_EQ(told.filter("power-profiles-daemon went away").size(), 20)
+      << told.join('\n').toStdString();
+  ASSERT_FALSE(told.isEmpty());
+  EXPECT_EQ(told.last(), "reading the battery from UPower");
 }
 
 }  // namespace
