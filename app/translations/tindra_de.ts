@@ -1322,6 +1322,17 @@
     </message>
 </context>
 <context>
+    <name>tindra::DisplayChangeLog</name>
+    <message>
+        <source>display %1 went away</source>
+        <translation>Bildschirm %1 ist weg</translation>
+    </message>
+    <message>
+        <source>display %1 is connected</source>
+        <translation>Bildschirm %1 ist angeschlossen</translation>
+    </message>
+</context>
+<context>
     <name>tindra::DisplaySelectionEditor</name>
     <message>
         <source>While the chosen display is not connected, the notch is on the main display.</source>
@@ -1772,6 +1783,18 @@
         <source>testing the now-playing adapter %1</source>
         <translation>testet den „Jetzt läuft“-Adapter %1</translation>
     </message>
+    <message>
+        <source>a player without a name</source>
+        <translation>ein Player ohne Namen</translation>
+    </message>
+    <message>
+        <source>following %1</source>
+        <translation>folgt %1</translation>
+    </message>
+    <message>
+        <source>%1 left: nothing is playing</source>
+        <translation>%1 ist weg: nichts wird abgespielt</translation>
+    </message>
 </context>
 <context>
     <name>tindra::OnboardingWindow</name>
@@ -2029,6 +2052,18 @@
     <message>
         <source>UPower went away: no battery is shown until it returns</source>
         <translation>UPower ist weg: keine Batterie wird gezeigt, bis es zurückkehrt</translation>
+    </message>
+    <message>
+        <source>no power-profiles-daemon: low power mode is not shown</source>
+        <translation>kein power-profiles-daemon: der Stromsparmodus wird nicht angezeigt</translation>
+    </message>
+    <message>
+        <source>power-profiles-daemon does not answer (%1): low power mode is not shown</source>
+        <translation>power-profiles-daemon antwortet nicht (%1): der Stromsparmodus wird nicht angezeigt</translation>
+    </message>
+    <message>
+        <source>power-profiles-daemon went away: low power mode is not shown until it returns</source>
+        <translation>power-profiles-daemon ist weg: der Stromsparmodus wird erst wieder angezeigt, wenn er zurück ist</translation>
     </message>
 </context>
 <context>

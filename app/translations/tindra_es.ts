@@ -1322,6 +1322,17 @@
     </message>
 </context>
 <context>
+    <name>tindra::DisplayChangeLog</name>
+    <message>
+        <source>display %1 went away</source>
+        <translation>la pantalla %1 ha desaparecido</translation>
+    </message>
+    <message>
+        <source>display %1 is connected</source>
+        <translation>la pantalla %1 está conectada</translation>
+    </message>
+</context>
+<context>
     <name>tindra::DisplaySelectionEditor</name>
     <message>
         <source>While the chosen display is not connected, the notch is on the main display.</source>
@@ -1772,6 +1783,18 @@
         <source>testing the now-playing adapter %1</source>
         <translation>probando el adaptador de reproducción %1</translation>
     </message>
+    <message>
+        <source>a player without a name</source>
+        <translation>un reproductor sin nombre</translation>
+    </message>
+    <message>
+        <source>following %1</source>
+        <translation>siguiendo a %1</translation>
+    </message>
+    <message>
+        <source>%1 left: nothing is playing</source>
+        <translation>%1 se ha ido: no se reproduce nada</translation>
+    </message>
 </context>
 <context>
     <name>tindra::OnboardingWindow</name>
@@ -2029,6 +2052,18 @@
     <message>
         <source>UPower went away: no battery is shown until it returns</source>
         <translation>UPower desapareció: no se muestra la batería hasta que vuelva</translation>
+    </message>
+    <message>
+        <source>no power-profiles-daemon: low power mode is not shown</source>
+        <translation>no hay power-profiles-daemon: no se muestra el modo de bajo consumo</translation>
+    </message>
+    <message>
+        <source>power-profiles-daemon does not answer (%1): low power mode is not shown</source>
+        <translation>power-profiles-daemon no responde (%1): no se muestra el modo de bajo consumo</translation>
+    </message>
+    <message>
+        <source>power-profiles-daemon went away: low power mode is not shown until it returns</source>
+        <translation>power-profiles-daemon se ha ido: no se muestra el modo de bajo consumo hasta que vuelva</translation>
     </message>
 </context>
 <context>

@@ -1322,6 +1322,17 @@
     </message>
 </context>
 <context>
+    <name>tindra::DisplayChangeLog</name>
+    <message>
+        <source>display %1 went away</source>
+        <translation>l’écran %1 a disparu</translation>
+    </message>
+    <message>
+        <source>display %1 is connected</source>
+        <translation>l’écran %1 est branché</translation>
+    </message>
+</context>
+<context>
     <name>tindra::DisplaySelectionEditor</name>
     <message>
         <source>While the chosen display is not connected, the notch is on the main display.</source>
@@ -1772,6 +1783,18 @@
         <source>testing the now-playing adapter %1</source>
         <translation>teste l’adaptateur «&#xa0;À l’écoute&#xa0;» %1</translation>
     </message>
+    <message>
+        <source>a player without a name</source>
+        <translation>un lecteur sans nom</translation>
+    </message>
+    <message>
+        <source>following %1</source>
+        <translation>suit %1</translation>
+    </message>
+    <message>
+        <source>%1 left: nothing is playing</source>
+        <translation>%1 est parti : rien n’est en lecture</translation>
+    </message>
 </context>
 <context>
     <name>tindra::OnboardingWindow</name>
@@ -2029,6 +2052,18 @@
     <message>
         <source>UPower went away: no battery is shown until it returns</source>
         <translation>UPower a disparu&#xa0;: aucune batterie n’est affichée jusqu’à son retour</translation>
+    </message>
+    <message>
+        <source>no power-profiles-daemon: low power mode is not shown</source>
+        <translation>pas de power-profiles-daemon : le mode économie d’énergie n’est pas affiché</translation>
+    </message>
+    <message>
+        <source>power-profiles-daemon does not answer (%1): low power mode is not shown</source>
+        <translation>power-profiles-daemon ne répond pas (%1) : le mode économie d’énergie n’est pas affiché</translation>
+    </message>
+    <message>
+        <source>power-profiles-daemon went away: low power mode is not shown until it returns</source>
+        <translation>power-profiles-daemon a disparu : le mode économie d’énergie n’est plus affiché jusqu’à son retour</translation>
     </message>
 </context>
 <context>

@@ -1322,6 +1322,17 @@
     </message>
 </context>
 <context>
+    <name>tindra::DisplayChangeLog</name>
+    <message>
+        <source>display %1 went away</source>
+        <translation>skjermen %1 ble borte</translation>
+    </message>
+    <message>
+        <source>display %1 is connected</source>
+        <translation>skjermen %1 er koblet til</translation>
+    </message>
+</context>
+<context>
     <name>tindra::DisplaySelectionEditor</name>
     <message>
         <source>While the chosen display is not connected, the notch is on the main display.</source>
@@ -1772,6 +1783,18 @@
         <source>testing the now-playing adapter %1</source>
         <translation>tester Spilles nå-adapteren %1</translation>
     </message>
+    <message>
+        <source>a player without a name</source>
+        <translation>en spiller uten navn</translation>
+    </message>
+    <message>
+        <source>following %1</source>
+        <translation>følger %1</translation>
+    </message>
+    <message>
+        <source>%1 left: nothing is playing</source>
+        <translation>%1 ble borte: ingenting spilles</translation>
+    </message>
 </context>
 <context>
     <name>tindra::OnboardingWindow</name>
@@ -2029,6 +2052,18 @@
     <message>
         <source>UPower went away: no battery is shown until it returns</source>
         <translation>UPower forsvant: batteriet vises ikke før den kommer tilbake</translation>
+    </message>
+    <message>
+        <source>no power-profiles-daemon: low power mode is not shown</source>
+        <translation>ingen power-profiles-daemon: strømsparingsmodus vises ikke</translation>
+    </message>
+    <message>
+        <source>power-profiles-daemon does not answer (%1): low power mode is not shown</source>
+        <translation>power-profiles-daemon svarer ikke (%1): strømsparingsmodus vises ikke</translation>
+    </message>
+    <message>
+        <source>power-profiles-daemon went away: low power mode is not shown until it returns</source>
+        <translation>power-profiles-daemon ble borte: strømsparingsmodus vises ikke før den er tilbake</translation>
     </message>
 </context>
 <context>
