@@ -209,6 +209,9 @@ DBusNotificationMonitor::DBusNotificationMonitor(QDBusConnection bus, QObject* p
   connect(&server_, &DBusServiceFollower::vanished, this, [this] {
     if (!running_) return;
     emit serverGone();
+    // Told now, not once the monitor is attached anew: a server that is back (or replaced)
+    // before that would otherwise leave no trace of its crash in Diagnostics.
+    setCheck(DiagnosticsLog::Outcome::degraded, noServer());
     attach(QString());
   });
 }
@@ -230,6 +233,12 @@ void DBusNotificationMonitor::stop() {
   detach();
   setCheck(DiagnosticsLog::Outcome::ok,
            Sentence(QT_TR_NOOP("calls and messages are off: notifications are not read"), tr));
+}
+
+Sentence DBusNotificationMonitor::noServer() {
+  return Sentence(QT_TR_NOOP("no notification server runs on the session bus: calls and messages "
+                             "show once one starts"),
+                  tr);
 }
 
 // The rules: both ways programs send notifications, the server's closing signal and, when a
@@ -283,11 +292,7 @@ void DBusNotificationMonitor::listen(Opened opened) {
                                       nullptr);
   qCInfo(lcBanners) << "Reading notification banners for calls and messages";
   if (owner_.isEmpty()) {
-    setCheck(
-        DiagnosticsLog::Outcome::degraded,
-        Sentence(QT_TR_NOOP("no notification server runs on the session bus: calls and messages "
-                            "show once one starts"),
-                 tr));
+    setCheck(DiagnosticsLog::Outcome::degraded, noServer());
   } else {
     setCheck(DiagnosticsLog::Outcome::ok,
              Sentence(QT_TR_NOOP("reading notification banners for calls and messages"), tr));

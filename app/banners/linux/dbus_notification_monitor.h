@@ -48,6 +48,7 @@ class DBusNotificationMonitor final : public NotificationSource {
     DesktopNotification notification;
   };
 
+  static Sentence noServer();
   std::vector<QByteArray> rules() const;
   // A connection of its own to the session bus, made a monitor of `rules`. Blocks: worker
   // threads only.

@@ -275,6 +275,43 @@ TEST_F(DesktopNotificationsTest, AServerThatGoesAndComesBackIsFollowed) {
   EXPECT_TRUE(waitFor([&] { return notified.count() == 1; }));
 }
 
+// A server waiting in the name's queue takes over in the same instant the crashed one leaves,
+// long before the monitor could be attached anew: the crash is still told. Both servers are
+// connections of the test's own, so that the name passes from one to the other in one step.
+TEST_F(DesktopNotificationsTest, AServerReplacedInTheSameInstantLeavesItsCrashInDiagnostics) {
+  ASSERT_TRUE(server_->stop());
+  const QString name = QStringLiteral("org.freedesktop.Notifications");
+  const auto serverConnection = [&](const QString& connection, auto option) {
+    QDBusConnection bus = QDBusConnection::connectToBus(QDBusConnection::SessionBus, connection);
+    return bus.interface()
+        ->registerService(name, option, QDBusConnectionInterface::DontAllowReplacement)
+        .value();
+  };
+  ASSERT_EQ(serverConnection("crashing server", QDBusConnectionInterface::DontQueueService),
+            QDBusConnectionInterface::ServiceRegistered);
+
+  DBusNotificationMonitor monitor(QDBusConnection::sessionBus());
+  std::vector<DiagnosticsLog::Outcome> outcomes;
+  QObject::connect(&monitor, &NotificationSource::checkChanged,
+                   [&] { outcomes.push_back(monitor.check().outcome); });
+  const auto reading = [&] {
+    return monitor.check().text.english().startsWith("reading notification");
+  };
+  monitor.start();
+  ASSERT_TRUE(waitFor(reading));
+  ASSERT_EQ(serverConnection("waiting server", QDBusConnectionInterface::QueueService),
+            QDBusConnectionInterface::ServiceQueued);
+  outcomes.clear();
+  QDBusConnection::disconnectFromBus(QStringLiteral("crashing server"));
+  EXPECT_TRUE(waitFor([&] { return outcomes.size() >= 2 && reading(); }));
+  ASSERT_FALSE(outcomes.empty());
+  EXPECT_EQ(outcomes.front(), DiagnosticsLog::Outcome::degraded);
+
+  QDBusConnection::disconnectFromBus(QStringLiteral("waiting server"));
+  QString error;
+  ASSERT_TRUE(server_->start(&error)) << error.toStdString();
+}
+
 // The server crashing at random moments, with a message shown or while the monitor is still
 // being attached: after each return a message sent to the new server reaches the notch.
 TEST_F(DesktopNotificationsTest, MessagesReachTheNotchAgainAfterEachOfManyServerCrashes) {
