@@ -73,12 +73,10 @@ EdsCalendarFeed::EdsCalendarFeed(const EdsCalendar& calendar, ICalendarReadOptio
     restartFactoryLater();
   });
   reopen_.setSingleShot(true);
-  reopen_.setInterval(firstRestart * 1000);
   connect(&reopen_, &QTimer::timeout, this, [this] {
     if (factory_.present()) open();
   });
   restart_.setSingleShot(true);
-  restart_.setInterval(firstRestart * 1000);
   connect(&restart_, &QTimer::timeout, this, [this] {
     if (factory_.present()) return;
     // Any call to its name starts it; its appearance is what the follower hears.
@@ -93,8 +91,7 @@ EdsCalendarFeed::EdsCalendarFeed(const EdsCalendar& calendar, ICalendarReadOptio
 // crashing is tried less and less often.
 void EdsCalendarFeed::restartFactoryLater() {
   if (restart_.isActive()) return;
-  restart_.start();
-  restart_.setInterval(std::min(restart_.interval() * 2, maxRestart * 1000));
+  restart_.start(restartPause_.take());
 }
 
 EdsCalendarFeed::~EdsCalendarFeed() {
@@ -167,11 +164,10 @@ void EdsCalendarFeed::open() {
       // The factory hears of a new source from the registry a moment after Tindra may, more
       // so while it reconnects to a registry that restarted; it is asked again, less and less
       // often.
-      reopen_.start();
-      reopen_.setInterval(std::min(reopen_.interval() * 2, maxRestart * 1000));
+      reopen_.start(reopenPause_.take());
       return;
     }
-    reopen_.setInterval(firstRestart * 1000);
+    reopenPause_.reset();
     onOpened(*path, *busName);
   });
 }
@@ -304,7 +300,7 @@ void EdsCalendarFeed::onViewSignal(const QDBusMessage& message) {
     if (!complete_) unlisted_.append(message);
     apply(message);
   } else {
-    restart_.setInterval(firstRestart * 1000);  // it works again
+    restartPause_.reset();  // it works again
     const QString error = dbus::argument<QString>(message, 1).value_or(QString());
     if (!dbus::argument<QString>(message).value_or(QString()).isEmpty()) {
       setProblem(DiagnosticsLog::Outcome::degraded,

@@ -16,8 +16,10 @@
 #include <QDBusMessage>
 #include <QMap>
 #include <QTimer>
+#include <algorithm>
 #include <atomic>
 #include <memory>
+#include <utility>
 
 #include "base/dbus/dbus_service_follower.h"
 #include "calendar/linux/calendar_feed.h"
@@ -96,8 +98,16 @@ class EdsCalendarFeed final : public CalendarFeed {
   int zonesAsked_ = 0;
   bool complete_ = false;  // the calendar was listed since the view started
   QTimer readSoon_;        // one reading for the signals of one turn of the event loop
-  QTimer restart_;         // starts the factory again after it left
-  QTimer reopen_;          // opens the calendar again after the factory refused to
+  // A pause that doubles each time it is taken, up to a ceiling, until the service works again.
+  struct DoublingPause {
+    int next = firstRestart * 1000;  // ms
+    int take() { return std::exchange(next, std::min(next * 2, maxRestart * 1000)); }
+    void reset() { next = firstRestart * 1000; }
+  };
+  QTimer restart_;  // starts the factory again after it left
+  DoublingPause restartPause_;
+  QTimer reopen_;  // opens the calendar again after the factory refused to
+  DoublingPause reopenPause_;
   std::shared_ptr<std::atomic<quint64>> readings_ = std::make_shared<std::atomic<quint64>>(0);
 };
 
