@@ -1,6 +1,8 @@
 #include "media/artwork_service.h"
 
+#include <QBuffer>
 #include <QFutureWatcher>
+#include <QImageReader>
 #include <QtConcurrent/QtConcurrentRun>
 #include <span>
 
@@ -18,12 +20,34 @@ ArtworkService::ArtworkService(ArtworkFetcher& fetcher, Allowed onlineLookup, Cl
       onlineLookup_(std::move(onlineLookup)),
       now_(std::move(now)) {}
 
+namespace {
+
+// Covers are PNG or JPEG nearly always. Named, the format is read by its own reader alone:
+// guessing would load every image plug-in there is to ask each (SVG's library among them),
+// and keep them loaded.
+const char* coverFormat(const QByteArray& bytes) {
+  if (bytes.startsWith("\x89PNG\r\n\x1a\n")) return "png";
+  if (bytes.startsWith("\xff\xd8\xff")) return "jpeg";
+  return nullptr;
+}
+
+}  // namespace
+
 std::optional<ArtworkService::Artwork> ArtworkService::decode(const QByteArray& bytes) {
-  QImage image = QImage::fromData(bytes);
-  if (image.isNull()) return std::nullopt;
-  if (image.width() > maxSide || image.height() > maxSide) {
-    image = image.scaled(maxSide, maxSide, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+  QBuffer buffer;
+  buffer.setData(bytes);
+  buffer.open(QIODevice::ReadOnly);
+  const char* format = coverFormat(bytes);
+  QImageReader reader(&buffer, format);
+  reader.setAutoDetectImageFormat(format == nullptr);
+  // A JPEG is decoded straight to the smaller size, without the whole picture in between.
+  if (const QSize size = reader.size();
+      size.isValid() && (size.width() > maxSide || size.height() > maxSide)) {
+    reader.setScaledSize(size.scaled(maxSide, maxSide, Qt::KeepAspectRatio));
+    reader.setQuality(100);  // the smooth scaling, not the fast one
   }
+  const QImage image = reader.read();
+  if (image.isNull()) return std::nullopt;
   // The tint is judged on a small copy: the dominant colour does not need every pixel.
   const QImage sample = image.scaled(32, 32, Qt::KeepAspectRatio, Qt::FastTransformation)
                             .convertToFormat(QImage::Format_RGBA8888);

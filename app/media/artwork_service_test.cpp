@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QBuffer>
 #include <QSignalSpy>
 #include <QTest>
 #include <map>
@@ -61,6 +62,17 @@ TEST_F(ArtworkServiceTest, EmbeddedCoversAreScaledAndTintedAndStaleOnesDropped) 
   EXPECT_GT(service_.current()->tint->red, 0.9);
   EXPECT_GT(service_.current()->tint->green, 0.7);
   EXPECT_FALSE(ArtworkService::decode(solidPng(QColor(120, 20, 20)))->tint.has_value());
+  // A JPEG, decoded straight to the cover's size.
+  QByteArray jpeg;
+  QBuffer out(&jpeg);
+  out.open(QIODevice::WriteOnly);
+  QImage wide(1600, 900, QImage::Format_RGB32);
+  wide.fill(QColor(250, 210, 40));
+  ASSERT_TRUE(wide.save(&out, "JPEG"));
+  const auto decoded = ArtworkService::decode(jpeg);
+  ASSERT_TRUE(decoded.has_value());
+  EXPECT_EQ(decoded->image.size(), QSize(ArtworkService::maxSide, ArtworkService::maxSide * 9 / 16));
+  EXPECT_GT(decoded->tint->green, 0.7);
 
   // The track moves on while its cover is being decoded: that cover never shows up.
   NowPlayingSnapshot again = yellow;
