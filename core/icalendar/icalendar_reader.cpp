@@ -203,6 +203,10 @@ class CalendarReader {
     } else if (zone == nullptr) {
       zone = local_;
     }
+    // That far off, the hours a zone moves a time by no longer matter, and libical would first
+    // work out every change of the zone's clocks up to that year, kept for as long as the
+    // process runs: an end mistyped in the year 620210 took minutes and megabytes.
+    if (time.year > lastZonedYear) zone = icaltimezone_get_utc_timezone();
     return static_cast<double>(icaltime_as_timet_with_zone(time, const_cast<icaltimezone*>(zone)));
   }
 
@@ -217,6 +221,9 @@ class CalendarReader {
     int days = 0;
     double seconds = 0;
   };
+  // Ten years at most: a longer "all-day" span is a mistake, not a holiday.
+  static constexpr int longestDays = 3660;
+  static constexpr int lastZonedYear = 2200;
 
   Length lengthOf(icalcomponent* event, icaltimetype start) {
     icaltimetype end = icaltime_null_time();
@@ -225,8 +232,8 @@ class CalendarReader {
     } else if (icalproperty* d = icalcomponent_get_first_property(event, ICAL_DURATION_PROPERTY)) {
       const icaldurationtype duration = icalproperty_get_duration(d);
       if (start.is_date != 0) {
-        // Ten years at most: a longer "all-day" span is a mistake, not a holiday.
-        const unsigned days = std::min(duration.days + (7 * duration.weeks), 3660U);
+        const unsigned days =
+            std::min(duration.days + (7 * duration.weeks), static_cast<unsigned>(longestDays));
         return {(duration.is_neg != 0) ? 0 : static_cast<int>(days), 0};
       }
       return {0, std::max(0.0, static_cast<double>(icaldurationtype_as_int(duration)))};
@@ -237,7 +244,7 @@ class CalendarReader {
       const double days = (static_cast<double>(icaltime_as_timet(end)) -
                            static_cast<double>(icaltime_as_timet(start))) /
                           86400.0;
-      return {std::max(0, static_cast<int>(std::lround(days))), 0};
+      return {static_cast<int>(std::clamp(std::lround(days), 0L, long{longestDays})), 0};
     }
     if (icaltime_is_null_time(end) != 0) return {};
     return {0, std::max(0.0, seconds(end) - seconds(start))};

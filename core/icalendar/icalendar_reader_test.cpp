@@ -302,5 +302,25 @@ TEST(ICalendarReaderTest, CapsRulesThatNeverEnd) {
   EXPECT_NE(withID(document, "work:plain"), nullptr) << "the rest of the document is read";
 }
 
+TEST(ICalendarReaderTest, EndsMistypedCenturiesAwayAreReadWithoutWorkingOutTheZoneUpToThem) {
+  // A day off to the year 9999, and a meeting in Oslo that ends then: the first is cut to ten
+  // years, the second ends on UTC's clock. Working out Oslo's clock changes up to the year
+  // first, as libical would, took minutes and kept megabytes for a year like 620210, which
+  // libical reads out of a garbled line.
+  const std::string text = calendar(
+      "BEGIN:VEVENT\r\nUID:off\r\nDTSTART;VALUE=DATE:20261101\r\n"
+      "DTEND;VALUE=DATE:99991231\r\nEND:VEVENT\r\n"
+      "BEGIN:VEVENT\r\nUID:long\r\nDTSTART;TZID=Europe/Oslo:20261026T090000\r\n"
+      "DTEND;TZID=Europe/Oslo:99991231T000000\r\nEND:VEVENT\r\n");
+  const ICalendarDocument document = read(text);
+  const CalendarEventInfo* off = withID(document, "work:off");
+  ASSERT_NE(off, nullptr);
+  EXPECT_NEAR(off->end - off->start, 3660 * 86400.0, 3600);
+  const CalendarEventInfo* meeting = withID(document, "work:long");
+  ASSERT_NE(meeting, nullptr);
+  EXPECT_EQ(meeting->start, utc(2026, 10, 26, 8));
+  EXPECT_EQ(meeting->end, utc(9999, 12, 31));
+}
+
 }  // namespace
 }  // namespace tindra
