@@ -71,7 +71,8 @@ TEST_F(ArtworkServiceTest, EmbeddedCoversAreScaledAndTintedAndStaleOnesDropped) 
   ASSERT_TRUE(wide.save(&out, "JPEG"));
   const auto decoded = ArtworkService::decode(jpeg);
   ASSERT_TRUE(decoded.has_value());
-  EXPECT_EQ(decoded->image.size(), QSize(ArtworkService::maxSide, ArtworkService::maxSide * 9 / 16));
+  EXPECT_EQ(decoded->image.size(),
+            QSize(ArtworkService::maxSide, ArtworkService::maxSide * 9 / 16));
   EXPECT_GT(decoded->tint->green, 0.7);
 
   // The track moves on while its cover is being decoded: that cover never shows up.
