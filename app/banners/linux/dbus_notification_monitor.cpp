@@ -2,6 +2,7 @@
 
 #include <dbus/dbus.h>
 
+#include <QFutureWatcher>
 #include <QTimer>
 #include <QtConcurrent/QtConcurrentRun>
 #include <algorithm>
@@ -260,12 +261,17 @@ std::vector<QByteArray> DBusNotificationMonitor::rules() const {
 void DBusNotificationMonitor::attach(const QString& owner) {
   detach();
   owner_ = owner;
-  QtConcurrent::run(&DBusNotificationMonitor::open, rules())
-      .then(this, [this, attempt = attempt_](QFuture<Opened> done) {
-        // Taken, not copied: the connection closes with its last holder.
-        Opened opened = done.takeResult();
-        if (attempt == attempt_) listen(std::move(opened));
-      });
+  // A watcher of the monitor's own, not a continuation: a monitor destroyed while a connection
+  // is still being opened takes its watcher with it, and the connection is dropped as it
+  // arrives (a continuation would find its context gone).
+  auto* opening = new QFutureWatcher<Opened>(this);
+  connect(opening, &QFutureWatcherBase::finished, this, [this, opening, attempt = attempt_] {
+    opening->deleteLater();
+    // Taken, not copied: the connection closes with its last holder.
+    Opened opened = opening->future().takeResult();
+    if (attempt == attempt_) listen(std::move(opened));
+  });
+  opening->setFuture(QtConcurrent::run(&DBusNotificationMonitor::open, rules()));
 }
 
 void DBusNotificationMonitor::listen(Opened opened) {
