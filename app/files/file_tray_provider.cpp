@@ -9,6 +9,7 @@
 #include "base/diagnostics_log.h"
 #include "base/logging_categories.h"
 #include "base/qt_text.h"
+#include "base/run_off_thread.h"
 #include "base/wall_clock.h"
 #include "files/fake_file_tray_backend.h"
 #include "settings/settings_keys.h"
@@ -144,13 +145,9 @@ bool FileTrayProvider::drop(const QList<QUrl>& urls) {
     return true;
   }
   // Folders can be large: they are measured off the main thread, then admitted.
-  auto* measuring = new QFutureWatcher<std::vector<FileTrayCopyRequest>>(this);
-  connect(measuring, &QFutureWatcherBase::finished, this, [this, measuring, status] {
-    measuring->deleteLater();
-    measured(measuring->result(), status);
-  });
-  measuring->setFuture(
-      QtConcurrent::run([&backend = *backend_, paths] { return backend.measure(paths); }));
+  runOffThread(
+      this, [&backend = *backend_, paths] { return backend.measure(paths); },
+      [this, status](std::vector<FileTrayCopyRequest> requests) { measured(requests, status); });
   return true;
 }
 

@@ -1,12 +1,11 @@
 #include "media/artwork_service.h"
 
 #include <QBuffer>
-#include <QFutureWatcher>
 #include <QImageReader>
-#include <QtConcurrent/QtConcurrentRun>
 #include <span>
 
 #include "base/logging_categories.h"
+#include "base/run_off_thread.h"
 #include "nowplaying/accent_color_policy.h"
 #include "nowplaying/artwork_url_policy.h"
 #include "nowplaying/itunes_artwork_search.h"
@@ -109,13 +108,8 @@ void ArtworkService::settle(std::optional<Artwork> artwork) {
 
 void ArtworkService::decodeAway(QByteArray bytes,
                                 std::function<void(std::optional<Artwork>)> then) {
-  auto* watcher = new QFutureWatcher<std::optional<Artwork>>(this);
-  connect(watcher, &QFutureWatcher<std::optional<Artwork>>::finished, this,
-          [watcher, then = std::move(then)] {
-            watcher->deleteLater();
-            then(watcher->result());
-          });
-  watcher->setFuture(QtConcurrent::run([bytes = std::move(bytes)] { return decode(bytes); }));
+  runOffThread(
+      this, [bytes = std::move(bytes)] { return decode(bytes); }, std::move(then));
 }
 
 void ArtworkService::download(const std::string& url,

@@ -2,14 +2,13 @@
 
 #include <dbus/dbus.h>
 
-#include <QFutureWatcher>
 #include <QTimer>
-#include <QtConcurrent/QtConcurrentRun>
 #include <algorithm>
 
 #include "base/assign_if_changed.h"
 #include "base/dbus/dbus_names.h"
 #include "base/logging_categories.h"
+#include "base/run_off_thread.h"
 
 namespace tindra {
 
@@ -261,17 +260,12 @@ std::vector<QByteArray> DBusNotificationMonitor::rules() const {
 void DBusNotificationMonitor::attach(const QString& owner) {
   detach();
   owner_ = owner;
-  // A watcher of the monitor's own, not a continuation: a monitor destroyed while a connection
-  // is still being opened takes its watcher with it, and the connection is dropped as it
-  // arrives (a continuation would find its context gone).
-  auto* opening = new QFutureWatcher<Opened>(this);
-  connect(opening, &QFutureWatcherBase::finished, this, [this, opening, attempt = attempt_] {
-    opening->deleteLater();
-    // Taken, not copied: the connection closes with its last holder.
-    Opened opened = opening->future().takeResult();
-    if (attempt == attempt_) listen(std::move(opened));
-  });
-  opening->setFuture(QtConcurrent::run(&DBusNotificationMonitor::open, rules()));
+  // Taken, not copied: the connection closes with its last holder.
+  runOffThread(
+      this, [rules = rules()] { return open(rules); },
+      [this, attempt = attempt_](Opened opened) {
+        if (attempt == attempt_) listen(std::move(opened));
+      });
 }
 
 void DBusNotificationMonitor::listen(Opened opened) {
