@@ -29,7 +29,7 @@ BluetoothAccessory accessoryOf(std::string_view properties) {
 }
 
 TEST(SystemProfilerBluetoothParser, ReadsAFullReport) {
-  std::ifstream file(TINDRA_TEST_DATA_DIR "/bluetooth-report.json");
+  std::ifstream file(TINDRA_CORE_DIR "/power/testdata/bluetooth-report.json");
   std::stringstream text;
   text << file.rdbuf();
   const std::vector<BluetoothAccessory> accessories = Parser::accessories(entries(text.str()));

@@ -16,7 +16,7 @@ using ParseError = METForecastParser::ParseError;
 const GeoCoordinate kOslo{59.91, 10.75};
 
 std::string testFile(const std::string& name) {
-  std::ifstream file(std::string(TINDRA_TEST_DATA_DIR) + "/" + name, std::ios::binary);
+  std::ifstream file(std::string(TINDRA_CORE_DIR "/weather/testdata/") + name, std::ios::binary);
   std::ostringstream bytes;
   bytes << file.rdbuf();
   return bytes.str();

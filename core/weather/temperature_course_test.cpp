@@ -11,7 +11,7 @@ namespace tindra {
 namespace {
 
 TEST(TemperatureCourseTest, GivesADaysHighAndLowFromTheRealForecastAndKeepsItsSteps) {
-  std::ifstream file(TINDRA_TEST_DATA_DIR "/met-complete-2022-05-18.json");
+  std::ifstream file(TINDRA_CORE_DIR "/weather/testdata/met-complete-2022-05-18.json");
   std::stringstream text;
   text << file.rdbuf();
   const auto document = METForecastParser::decode(text.str());
