@@ -38,41 +38,84 @@ class OpenedNotchTest : public ::testing::Test {
 
 struct DrawnText {
   QString text;
-  QRectF bounds;  // in the section row's coordinates
+  QRectF bounds;   // the item, in the section row's coordinates
+  QRectF painted;  // what its letters cover, in the same
+  QQuickItem* section;
   bool truncated;
 };
 
-// Every visible text under `item`.
-void collectTexts(QQuickItem* item, QQuickItem* row, std::vector<DrawnText>& texts) {
+// The part of a text item its letters cover, in its own coordinates.
+QRectF paintedArea(QQuickItem* text) {
+  const qreal width = text->property("contentWidth").toReal();
+  const qreal height = text->property("contentHeight").toReal();
+  const int horizontal = text->property("effectiveHorizontalAlignment").toInt();
+  const int vertical = text->property("verticalAlignment").toInt();
+  const qreal x = horizontal == Qt::AlignRight     ? text->width() - width
+                  : horizontal == Qt::AlignHCenter ? (text->width() - width) / 2
+                                                   : 0;
+  const qreal y = vertical == Qt::AlignBottom    ? text->height() - height
+                  : vertical == Qt::AlignVCenter ? (text->height() - height) / 2
+                                                 : 0;
+  return QRectF(x, y, width, height);
+}
+
+// Every visible text under `item`, with the section of `row` it is drawn in.
+void collectTexts(QQuickItem* item, QQuickItem* row, QQuickItem* section,
+                  std::vector<DrawnText>& texts) {
   if (!item->isVisible()) return;
   if (item->inherits("QQuickText") && !item->property("text").toString().trimmed().isEmpty()) {
     texts.push_back({item->property("text").toString(),
                      item->mapRectToItem(row, QRectF(0, 0, item->width(), item->height())),
+                     item->mapRectToItem(row, paintedArea(item)), section,
                      item->property("truncated").toBool()});
   }
-  for (QQuickItem* child : item->childItems()) collectTexts(child, row, texts);
+  for (QQuickItem* child : item->childItems()) {
+    collectTexts(child, row, item == row ? child : section, texts);
+  }
 }
 
-// Checks the opened panel's texts and returns them.
+std::string described(const DrawnText& text) {
+  const QRectF& area = text.painted;
+  return QStringLiteral("\"%1\" at %2,%3 %4x%5")
+      .arg(text.text)
+      .arg(area.x())
+      .arg(area.y())
+      .arg(area.width())
+      .arg(area.height())
+      .toStdString();
+}
+
+// Checks the opened panel's texts and returns them: none is cut, none reaches out of its section
+// or the panel, and none is drawn over another.
 QStringList expectWholeTexts(NotchWindow& window, const char* what) {
   SCOPED_TRACE(what);
   auto* row = window.rootObject()->findChild<QQuickItem*>(QStringLiteral("sectionRow"));
   std::vector<DrawnText> texts;
-  collectTexts(row, row, texts);
+  collectTexts(row, row, nullptr, texts);
   // The panel clips at its edge; half a pixel is rounding.
-  const QRectF room = QRectF(0, 0, row->width(), row->height()).adjusted(-0.5, -0.5, 0.5, 0.5);
+  const auto roomOf = [row](QQuickItem* item) {
+    return row->mapRectFromItem(item, QRectF(0, 0, item->width(), item->height()))
+        .adjusted(-0.5, -0.5, 0.5, 0.5);
+  };
+  const QRectF panel = roomOf(row);
   QStringList seen;
   for (const DrawnText& text : texts) {
     EXPECT_FALSE(text.truncated) << text.text.toStdString();
-    EXPECT_TRUE(room.contains(text.bounds))
-        << text.text.toStdString() << " at " << text.bounds.x() << "," << text.bounds.y() << " "
-        << text.bounds.width() << "x" << text.bounds.height();
+    EXPECT_TRUE(panel.contains(text.bounds)) << described(text);
+    EXPECT_TRUE(roomOf(text.section).contains(text.painted)) << described(text);
     seen << text.text;
+  }
+  for (auto a = texts.begin(); a != texts.end(); ++a) {
+    for (auto b = std::next(a); b != texts.end(); ++b) {
+      const QRectF both = a->painted.adjusted(0.5, 0.5, -0.5, -0.5) & b->painted;
+      EXPECT_TRUE(both.isEmpty()) << described(*a) << " over " << described(*b);
+    }
   }
   return seen;
 }
 
-TEST_F(OpenedNotchTest, NoTextIsCutWithTheInventedTrackMeetingAndWeather) {
+// The opened notch with the invented track, then with the meeting, calendar and weather on.
+void expectNothingCut(const QString& shotSuffix) {
   TindraApp app({.animated = false});
   NotchWindow& window = *app.notches().windows().front();
   window.open();
@@ -83,7 +126,7 @@ TEST_F(OpenedNotchTest, NoTextIsCutWithTheInventedTrackMeetingAndWeather) {
   // The idle layout has the battery; the section does not say it again without accessories
   // beside it.
   EXPECT_FALSE(playing.contains(QStringLiteral("Battery"))) << playing.join(" | ").toStdString();
-  keepScreenshot(grabDisplay().copy(window.geometry()), QStringLiteral("opened-playing"));
+  keepScreenshot(grabDisplay().copy(window.geometry()), "opened-playing" + shotSuffix);
 
   ASSERT_TRUE(app.settings().write(settings::calendarEnabled, true));
   ASSERT_TRUE(app.settings().write(settings::weatherEnabled, true));
@@ -94,7 +137,21 @@ TEST_F(OpenedNotchTest, NoTextIsCutWithTheInventedTrackMeetingAndWeather) {
   const QStringList meeting = expectWholeTexts(window, "meeting");
   EXPECT_TRUE(meeting.contains(QStringLiteral("Design review")))
       << meeting.join(" | ").toStdString();
-  keepScreenshot(grabDisplay().copy(window.geometry()), QStringLiteral("opened-meeting"));
+  keepScreenshot(grabDisplay().copy(window.geometry()), "opened-meeting" + shotSuffix);
+  window.close();
+  QTest::qWait(300);
+  keepScreenshot(grabDisplay().copy(window.geometry()), "closed-meeting" + shotSuffix);
+}
+
+TEST_F(OpenedNotchTest, NoTextIsCutWithTheInventedTrackMeetingAndWeather) {
+  expectNothingCut(QString());
+}
+
+// A 12-hour clock makes the widest times: the idle clock with its AM or PM, the agenda's ranges.
+TEST_F(OpenedNotchTest, NoTextIsCutWhereTheClockHasTwelveHours) {
+  QLocale::setDefault(QLocale(QLocale::English, QLocale::UnitedStates));
+  expectNothingCut(QStringLiteral("-12-hour"));
+  QLocale::setDefault(QLocale::system());
 }
 
 // The text item under `item` that says `text`, visible or not.

@@ -110,6 +110,16 @@ Column {
         id: list
         spacing: 1
 
+        // The time column is as wide as the longest time drawn ("11:30 AM–12:30 PM" where the
+        // clock has 12 hours); the titles take the rest.
+        readonly property real timeWidth: Math.max(74, Math.ceil(longestTime.advanceWidth) + 2)
+        TextMetrics {
+            id: longestTime
+            font.pixelSize: 11
+            text: root.shown.agenda.reduce(
+                (longest, event) => event.time.length > longest.length ? event.time : longest, "")
+        }
+
         // Rows are made only while the section is seen: a calendar that changes while the notch is
         // closed costs the event loop nothing.
         Repeater {
@@ -131,7 +141,7 @@ Column {
                 }
                 Text {
                     id: agendaTime
-                    width: 74
+                    width: list.timeWidth
                     anchors.verticalCenter: parent.verticalCenter
                     text: modelData.time
                     color: modelData.status === "now" ? "#30d158" : "#a1a1a6"

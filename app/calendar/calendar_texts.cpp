@@ -19,14 +19,21 @@ QString minutesText(std::int64_t minutes) {
   return tr("%1 h %2 min").arg(parts.hours).arg(parts.minutes);
 }
 
+// Some locales' short format (C's among them) carries seconds, which a meeting never has.
+QString meetingTimeFormat(const QLocale& locale) {
+  QString format = locale.timeFormat(QLocale::ShortFormat);
+  format.remove(QLatin1String(":ss"));
+  return format;
+}
+
+QTime localTime(double date) {
+  return QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(date * 1000)).time();
+}
+
 }  // namespace
 
 QString clockTime(double date, const QLocale& locale) {
-  const QDateTime time = QDateTime::fromMSecsSinceEpoch(static_cast<qint64>(date * 1000));
-  // Some locales' short format (C's among them) carries seconds, which a meeting never has.
-  QString format = locale.timeFormat(QLocale::ShortFormat);
-  format.remove(QLatin1String(":ss"));
-  return locale.toString(time.time(), format);
+  return locale.toString(localTime(date), meetingTimeFormat(locale));
 }
 
 QString ear(const EarText& ear, const QLocale& locale) {
@@ -67,9 +74,23 @@ QString departure(const DepartureAdvice& advice) {
   return {};
 }
 
+// A range within one half of a 12-hour day names the half once, on the side the locale writes
+// it: "9:30–10:00 AM", not "9:30 AM–10:00 AM", which is too wide for the agenda's time column.
 QString timeRange(double start, double end, bool allDay, const QLocale& locale) {
   if (allDay) return tr("All day");
-  return clockTime(start, locale) + QStringLiteral("–") + clockTime(end, locale);
+  const QTime from = localTime(start);
+  const QTime to = localTime(end);
+  QString first = clockTime(start, locale);
+  QString last = clockTime(end, locale);
+  if ((from.hour() < 12) == (to.hour() < 12)) {
+    const QString half = from.hour() < 12 ? locale.amText() : locale.pmText();
+    if (!half.isEmpty() && first.endsWith(half) && last.endsWith(half)) {
+      first = first.chopped(half.size()).trimmed();
+    } else if (!half.isEmpty() && first.startsWith(half) && last.startsWith(half)) {
+      last = last.sliced(half.size()).trimmed();
+    }
+  }
+  return first + QStringLiteral("–") + last;
 }
 
 QString serviceName(MeetingService service) {

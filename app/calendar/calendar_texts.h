@@ -18,7 +18,7 @@ QString ear(const EarText& ear, const QLocale& locale);
 QString countdown(const EventCountdown& countdown);
 // "Leave in 12 min", "Leave now", "3 min late".
 QString departure(const DepartureAdvice& advice);
-// "09:00–09:30", or "All day".
+// "09:00–09:30", "9:00–9:30 AM", "11:30 AM–12:30 PM", or "All day".
 QString timeRange(double start, double end, bool allDay, const QLocale& locale);
 // "14:00" for seconds since 1970, in the local time zone.
 QString clockTime(double date, const QLocale& locale);

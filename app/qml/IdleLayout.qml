@@ -19,11 +19,17 @@ Column {
         font.pixelSize: 12
         font.weight: Font.DemiBold
     }
+    // A 12-hour clock ("12:59 PM") is set smaller rather than reach the section beside it.
     Text {
+        width: root.width
+        height: 48
+        verticalAlignment: Text.AlignVCenter
         text: root.content.clock.timeText
         color: "white"
         font.pixelSize: 40
         font.weight: Font.Light
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 24
     }
     // A long date ("Wednesday 30 September") takes a second line rather than losing its end.
     Text {
