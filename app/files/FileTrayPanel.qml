@@ -125,10 +125,10 @@ Column {
                 id: area
                 anchors.fill: parent
                 anchors.rightMargin: 20
-                enabled: !row.modelData.missing
+                // A missing file's row takes the click and opens nothing.
                 drag.target: row.modelData.missing ? null : dragProxy
-                cursorShape: Qt.PointingHandCursor
-                onClicked: root.model.open(row.modelData.id)
+                cursorShape: row.modelData.missing ? Qt.ArrowCursor : Qt.PointingHandCursor
+                onClicked: if (!row.modelData.missing) root.model.open(row.modelData.id)
                 drag.onActiveChanged: {
                     if (drag.active && row.ownDrag) Window.window.dragFilesOut([row.modelData.url])
                 }

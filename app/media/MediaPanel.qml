@@ -89,15 +89,16 @@ Row {
                     color: Appearance.bar(root.model && root.model.barColor.valid ? root.model.barColor : "white")
                 }
             }
+            // Where the player cannot seek, the bar still takes the press and does nothing.
             MouseArea {
+                readonly property bool seekable: root.model !== undefined && root.model.canSeek
                 anchors.fill: parent
-                enabled: root.model !== undefined && root.model.canSeek
                 function scrubTo(x) {
                     root.model.drag(Math.max(0, Math.min(1, x / width)) * root.model.duration);
                 }
-                onPressed: (mouse) => scrubTo(mouse.x)
-                onPositionChanged: (mouse) => scrubTo(mouse.x)
-                onReleased: root.model.commitDrag()
+                onPressed: (mouse) => { if (seekable) scrubTo(mouse.x) }
+                onPositionChanged: (mouse) => { if (seekable) scrubTo(mouse.x) }
+                onReleased: if (seekable) root.model.commitDrag()
             }
         }
         Item {
@@ -121,29 +122,29 @@ Row {
             visible: root.model !== undefined && root.model.hasControls
             MediaButton {
                 glyph: "\u21c4"
-                enabled: root.model !== undefined && root.model.canShuffle
+                available: root.model !== undefined && root.model.canShuffle
                 lit: root.model !== undefined && root.model.shuffle > 0
                 onClicked: root.model.cycleShuffle()
             }
             MediaButton {
                 glyph: "\u25c0\u25c0"
-                enabled: root.model !== undefined && root.model.canGoPrevious
+                available: root.model !== undefined && root.model.canGoPrevious
                 onClicked: root.model.previous()
             }
             MediaButton {
                 glyph: root.model && root.model.playing ? "\u275a\u275a" : "\u25b6"
                 size: 16
-                enabled: root.model !== undefined && root.model.canPlayPause
+                available: root.model !== undefined && root.model.canPlayPause
                 onClicked: root.model.togglePlayPause()
             }
             MediaButton {
                 glyph: "\u25b6\u25b6"
-                enabled: root.model !== undefined && root.model.canGoNext
+                available: root.model !== undefined && root.model.canGoNext
                 onClicked: root.model.next()
             }
             MediaButton {
                 glyph: root.model && root.model.repeat === 1 ? "\u21bb1" : "\u21bb"
-                enabled: root.model !== undefined && root.model.canRepeat
+                available: root.model !== undefined && root.model.canRepeat
                 lit: root.model !== undefined && root.model.repeat > 0
                 onClicked: root.model.cycleRepeat()
             }

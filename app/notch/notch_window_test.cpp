@@ -204,6 +204,19 @@ QQuickItem* controlIn(NotchWindow& window, QQuickItem* item = nullptr) {
   return nullptr;
 }
 
+// The first control of the opened panel that is drawn grey: one the player cannot do now.
+QQuickItem* greyedControlIn(QQuickItem* item) {
+  if (!item->isVisible()) return nullptr;
+  if (const QVariant available = item->property("available");
+      available.isValid() && !available.toBool()) {
+    return item;
+  }
+  for (QQuickItem* child : item->childItems()) {
+    if (QQuickItem* found = greyedControlIn(child)) return found;
+  }
+  return nullptr;
+}
+
 // Put away by a swipe up, a click where no control is or (when asked) a drag up, the opened
 // notch stays closed under the pointer and opens again only once the pointer has left and come
 // back. Controls keep their clicks and drags.
@@ -244,6 +257,15 @@ TEST(NotchWindowOnDisplayTest, PutAwayItStaysClosedUntilThePointerLeavesAndComes
   QTest::mouseClick(&window, Qt::LeftButton, {}, onControl);
   QTest::qWait(400);
   EXPECT_TRUE(window.isExpanded()) << "a click on a control";
+  // The player can only play and pause: the other buttons are grey, and a click that meant one
+  // of them is no click on the empty area.
+  QQuickItem* greyed = greyedControlIn(window.rootObject());
+  ASSERT_NE(greyed, nullptr);
+  const QPoint onGreyed = greyed->mapToScene(greyed->boundingRect().center()).toPoint();
+  QCursor::setPos(window.screen(), window.geometry().topLeft() + onGreyed);
+  QTest::mouseClick(&window, Qt::LeftButton, {}, onGreyed);
+  QTest::qWait(400);
+  EXPECT_TRUE(window.isExpanded()) << "a click on a greyed control";
 
   QCursor::setPos(window.screen(), notch);
   QTest::mouseClick(&window, Qt::LeftButton, {}, camera);
