@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QAction>
 #include <QCheckBox>
 #include <QClipboard>
 #include <QComboBox>
@@ -22,6 +23,7 @@
 #include <QSpinBox>
 #include <QTemporaryDir>
 #include <QTest>
+#include <QTimer>
 #include <QTranslator>
 #include <map>
 #include <set>
@@ -144,6 +146,17 @@ TEST(SettingsHereTest, SaysWhatThisComputerLacks) {
 }
 
 TEST(OnboardingTest, ShowsOnTheFirstStartWithWhatWasFoundAndNeverAgain) {
+  {
+    // Quitting from the menu while it shows is no answer to it.
+    TindraApp app({.animated = false, .welcome = true});
+    ASSERT_NE(app.onboarding(), nullptr);
+    QTimer::singleShot(0, app.shell().quitAction(), &QAction::trigger);
+    QTimer stuck;
+    QObject::connect(&stuck, &QTimer::timeout, [] { QCoreApplication::exit(1); });
+    stuck.start(5000);
+    EXPECT_EQ(QCoreApplication::exec(), 0) << "the menu's Quit did not quit";
+    EXPECT_FALSE(app.settings().read(settings::onboardingCompleted));
+  }
   {
     TindraApp app({.animated = false, .welcome = true});
     OnboardingWindow* welcome = app.onboarding();

@@ -32,7 +32,11 @@ ShellActions::ShellActions(SettingsStore& settings, DiagnosticsLog& diagnostics,
       autostart_(AutostartEntry::forThisProgram()) {
   connect(&settingsAction_, &QAction::triggered, this, &ShellActions::openSettings);
   connect(&diagnosticsAction_, &QAction::triggered, this, &ShellActions::openDiagnostics);
-  connect(&quitAction_, &QAction::triggered, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+  // Out of the event loop without closing the windows first, as quit() would: quitting while the
+  // first start's introduction shows is no answer to it, and it shows again next time.
+  connect(
+      &quitAction_, &QAction::triggered, qApp, [] { QCoreApplication::exit(0); },
+      Qt::QueuedConnection);
   // The autostart entry itself is the setting; it is read again each time the menu opens.
   startAtLoginAction_.setCheckable(true);
   connect(&menu_, &QMenu::aboutToShow, this,
