@@ -78,15 +78,16 @@ QString departure(const DepartureAdvice& advice) {
 // it: "9:30–10:00 AM", not "9:30 AM–10:00 AM", which is too wide for the agenda's time column.
 QString timeRange(double start, double end, bool allDay, const QLocale& locale) {
   if (allDay) return tr("All day");
+  const QString format = meetingTimeFormat(locale);
   const QTime from = localTime(start);
   const QTime to = localTime(end);
-  QString first = clockTime(start, locale);
-  QString last = clockTime(end, locale);
-  if ((from.hour() < 12) == (to.hour() < 12)) {
-    const QString half = from.hour() < 12 ? locale.amText() : locale.pmText();
-    if (!half.isEmpty() && first.endsWith(half) && last.endsWith(half)) {
+  QString first = locale.toString(from, format);
+  QString last = locale.toString(to, format);
+  const QString half = from.hour() < 12 ? locale.amText() : locale.pmText();
+  if ((from.hour() < 12) == (to.hour() < 12) && !half.isEmpty()) {
+    if (first.endsWith(half) && last.endsWith(half)) {
       first = first.chopped(half.size()).trimmed();
-    } else if (!half.isEmpty() && first.startsWith(half) && last.startsWith(half)) {
+    } else if (first.startsWith(half) && last.startsWith(half)) {
       last = last.sliced(half.size()).trimmed();
     }
   }
