@@ -13,6 +13,7 @@
 #include "base/diagnostics_log.h"
 #include "base/logging_categories.h"
 #include "base/qt_text.h"
+#include "calendar/calendar_compact.h"
 #include "calendar/calendar_privacy.h"
 #include "calendar/calendar_texts.h"
 #include "calendar/departure_advisor.h"
@@ -324,12 +325,12 @@ std::unique_ptr<CalendarProvider> CalendarProvider::make(ProviderContext& contex
 }
 
 ProviderViews CalendarProvider::views() {
-  return {
-      .compact = {{ActivityKind::upcomingEvent, QStringLiteral("calendar/CalendarCompact.qml")}},
-      .sections = {{.name = QStringLiteral("calendar"),
-                    .title = QT_TRANSLATE_NOOP("PinnedSectionsEditor", "Calendar"),
-                    .rank = 30,
-                    .file = QStringLiteral("calendar/CalendarPanel.qml")}}};
+  return {.compact = {{.kind = ActivityKind::upcomingEvent,
+                       .make = ProviderViews::painted<CalendarCompact, CalendarViewModel>()}},
+          .sections = {{.name = QStringLiteral("calendar"),
+                        .title = QT_TRANSLATE_NOOP("PinnedSectionsEditor", "Calendar"),
+                        .rank = 30,
+                        .file = QStringLiteral("calendar/CalendarPanel.qml")}}};
 }
 
 }  // namespace tindra

@@ -190,7 +190,7 @@ TEST_F(CalendarProviderTest, ViewsDrawTheMeetingItsJoinButtonAndTheAgenda) {
   provider_->start();
   enable();
   CalendarViewModel* view = provider_->viewModel();
-  const QUrl compact = compactView<CalendarProvider>(ActivityKind::upcomingEvent);
+  const ViewRegistry::View compact = compactView<CalendarProvider>(ActivityKind::upcomingEvent);
   const PixelTest blue = hueOf("#0a84ff"), green = hueOf("#30d158");
   // Closed: the calendar's colour and the title, cut short, on the left; the minutes to go in
   // white on the right, and once it started "Now" in green.

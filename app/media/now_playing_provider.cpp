@@ -2,6 +2,7 @@
 #include "base/backend_selection.h"
 #include "media/adapter_now_playing_source.h"
 #include "media/fake_now_playing_source.h"
+#include "media/media_compact.h"
 #include "media/network_artwork_fetcher.h"
 #include "media/offline_artwork_fetcher.h"
 #include "media/platform_adapter_launch.h"
@@ -179,7 +180,8 @@ std::unique_ptr<NowPlayingProvider> NowPlayingProvider::make(ProviderContext& co
 }
 
 ProviderViews NowPlayingProvider::views() {
-  return {.compact = {{ActivityKind::nowPlaying, QStringLiteral("media/MediaCompact.qml")}},
+  return {.compact = {{.kind = ActivityKind::nowPlaying,
+                       .make = ProviderViews::painted<MediaCompact, NowPlayingViewModel>()}},
           .sections = {{.name = QStringLiteral("media"),
                         .title = QT_TRANSLATE_NOOP("PinnedSectionsEditor", "Now Playing"),
                         .rank = 20,

@@ -6,6 +6,10 @@
 // it away, like a click on the opened notch where no control takes it, dismisses it: it stays
 // closed under the pointer until the pointer has left. What it shows comes from the shared
 // NotchContent; the window keeps geometry, input and animation only.
+// The outline and the compact view are items of its own, drawn in C++. The rest (the opened
+// panel, compact views written in QML, the menu drawn inside) is a QML scene, made when first
+// needed (the pointer on the notch, at the latest as it opens) and let go a while after it was
+// last needed: a QML engine is most of what the program would hold at rest.
 #pragma once
 
 #include <functional>
@@ -15,9 +19,12 @@
 #include <QPointF>
 #include <QPointer>
 #include <QQuickRenderControl>
-#include <QQuickView>
+#include <QQuickWindow>
+#include <QTimer>
 #include <QVariantAnimation>
 #include <QWheelEvent>
+#include <chrono>
+#include <memory>
 
 #include "activity/activity_kind.h"
 #include "activity/notch_geometry.h"
@@ -34,7 +41,9 @@ namespace tindra {
 class ActivityCenter;
 class NotchContent;
 
-class NotchWindow : public QQuickView {
+class NotchShapeItem;
+
+class NotchWindow : public QQuickWindow {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("one per display, made by the app")
@@ -84,6 +93,12 @@ class NotchWindow : public QQuickView {
   const NotchGeometry& notchGeometry() const { return geometry_; }
   const NotchWindowLayout& layout() const { return layout_; }
 
+  // The QML scene's root item; null while there is none.
+  QQuickItem* sceneRoot() const;
+  // How long the scene is kept after it was last needed: long enough that a pointer passing now
+  // and then does not make it again each time (3 minutes unless set).
+  void setSceneKept(std::chrono::milliseconds kept) { sceneRelease_.setInterval(kept); }
+
   // Off: every change shows at once (screenshots, tests).
   void setAnimated(bool animated) { animated_ = animated; }
   // Takes files dropped on the notch; returns false to refuse them (they stay where they were).
@@ -123,6 +138,7 @@ class NotchWindow : public QQuickView {
 
  protected:
   bool event(QEvent* event) override;
+  void resizeEvent(QResizeEvent* event) override;
   // Where the pointer is, in global coordinates, for the level that shows on its display.
   virtual QPoint pointerPosition() const;
   // Whether the context menu is drawn inside the notch rather than as a menu window.
@@ -147,6 +163,12 @@ class NotchWindow : public QQuickView {
   bool handleDrag(QEvent* event);
   void handleWheel(const QWheelEvent& wheel);
   void swipe(SwipeDirection direction);
+  bool needsScene() const;
+  void followSceneNeed();
+  void makeScene();
+  void showCompact();
+  void flash();
+  Q_SLOT void updateOutline();
 
   QQuickRenderControl* renderControl_;  // a child, so that it outlives the scene's teardown
   ActivityCenter& activities_;
@@ -186,6 +208,18 @@ class NotchWindow : public QQuickView {
   QVariantAnimation compactAnimation_;
   QVariantAnimation stretchAnimation_;
   NextChange hoverDeadline_;  // the machine's pending deadline, when it has one
+
+  // Owned by the content item, under the scene.
+  NotchShapeItem* outline_;
+  QQuickItem* compactArea_;
+  std::unique_ptr<QQuickItem> compactView_;  // null where the scene draws the compact view
+  QMetaObject::Connection accentFollowed_;   // the compact model's bar colour
+  QVariantAnimation flashAnimation_;
+  double flash_ = 0;
+
+  struct Scene;
+  std::unique_ptr<Scene> scene_;
+  QTimer sceneRelease_;
 };
 
 }  // namespace tindra

@@ -68,6 +68,52 @@ TEST(NotchWindowOnDisplayTest, DrawnWhereItsGeometrySaysClosedAndOpened) {
   expectDrawnAt(grabDisplay(), closed.adjusted(-ears, 0, ears, 0), "closed again");
 }
 
+// At rest the closed notch is drawn without QML. A compact view written in QML, the pointer
+// coming onto the notch and the notch opening each make the QML scene; it is let go once nothing
+// has needed it for the time it is kept.
+TEST(NotchWindowOnDisplayTest, TheQmlSceneIsMadeOnlyWhileSomethingNeedsIt) {
+  SampleViewModels samples;  // outlives the views that show it
+  Displays displays;
+  displays.views_.setModel(QStringLiteral("media"), &samples.media);
+  displays.views_.setModel(QStringLiteral("focus"), &samples.focus);
+  displays.content_.refresh();
+  NotchWindow& window = *displays.manager_->windows().front();
+  window.setSceneKept(std::chrono::milliseconds(300));
+  const QPoint notch = window.geometry().topLeft() + window.notchRect().center().toPoint();
+  QCursor::setPos(window.screen(), notch + QPoint(0, 400));
+  const auto sceneGoes = [&] { return QTest::qWaitFor([&] { return !window.sceneRoot(); }, 3000); };
+  ASSERT_TRUE(sceneGoes());
+
+  displays.activities_.offer(ActivityEvent::began(ActivityKind::nowPlaying));  // drawn in C++
+  QTest::qWait(150);
+  EXPECT_EQ(window.sceneRoot(), nullptr);
+  const int ears = static_cast<int>(NotchWindowLayout::earWidth);
+  expectDrawnAt(grabDisplay(),
+                window.notchRect()
+                    .translated(window.geometry().topLeft())
+                    .toRect()
+                    .adjusted(-ears, 0, ears, 0),
+                "closed, now playing, no scene");
+
+  displays.activities_.offer(ActivityEvent::began(ActivityKind::focus));  // written in QML
+  EXPECT_NE(window.sceneRoot(), nullptr) << "a compact view written in QML";
+  displays.activities_.offer(ActivityEvent::ended(ActivityKind::focus));
+  EXPECT_TRUE(sceneGoes()) << "the QML compact view gone";
+
+  QCursor::setPos(window.screen(), notch);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return window.sceneRoot() != nullptr; }, 1000))
+      << "the pointer on the notch";
+  QCursor::setPos(window.screen(), notch + QPoint(0, 400));
+  EXPECT_TRUE(sceneGoes()) << "the pointer gone";
+
+  window.open();
+  ASSERT_NE(window.sceneRoot(), nullptr);
+  QTest::qWait(500);  // longer than the scene is kept
+  EXPECT_NE(window.sceneRoot(), nullptr) << "kept while open";
+  window.close();
+  EXPECT_TRUE(sceneGoes()) << "closed";
+}
+
 // Whether the compositor is asked to blur behind `window` (KWin's property).
 bool blursBehind(QWindow& window) {
   xcb_connection_t* x = qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection();
@@ -125,7 +171,7 @@ TEST(NotchWindowOnDisplayTest, TheAuraAndTheGlassFollowTheirSettings) {
 
 // The sections the opened notch draws, by their views' file names: every one of them whole.
 QStringList drawnSections(NotchWindow& window) {
-  auto* row = window.rootObject()->findChild<QQuickItem*>(QStringLiteral("sectionRow"));
+  auto* row = window.sceneRoot()->findChild<QQuickItem*>(QStringLiteral("sectionRow"));
   QStringList drawn;
   for (QQuickItem* child : row->childItems()) {
     const QUrl source = child->property("source").toUrl();
@@ -190,7 +236,7 @@ TEST(NotchWindowOnDisplayTest, OpensWhenThePointerRestsAndClosesWhenItLeaves) {
 // The first enabled mouse area of the opened panel below the camera area: a control. Loaded
 // views are the visual children of their loaders, not their QObject children.
 QQuickItem* controlIn(NotchWindow& window, QQuickItem* item = nullptr) {
-  if (item == nullptr) item = window.rootObject();
+  if (item == nullptr) item = window.sceneRoot();
   if (!item->isVisible() || !item->isEnabled()) return nullptr;
   const QPointF centre = item->mapToScene(item->boundingRect().center());
   // A mouse area's own `enabled` is not the item's.
@@ -259,7 +305,7 @@ TEST(NotchWindowOnDisplayTest, PutAwayItStaysClosedUntilThePointerLeavesAndComes
   EXPECT_TRUE(window.isExpanded()) << "a click on a control";
   // The player can only play and pause: the other buttons are grey, and a click that meant one
   // of them is no click on the empty area.
-  QQuickItem* greyed = greyedControlIn(window.rootObject());
+  QQuickItem* greyed = greyedControlIn(window.sceneRoot());
   ASSERT_NE(greyed, nullptr);
   const QPoint onGreyed = greyed->mapToScene(greyed->boundingRect().center()).toPoint();
   QCursor::setPos(window.screen(), window.geometry().topLeft() + onGreyed);

@@ -1,57 +1,18 @@
 import QtQuick
 import Tindra
 
-// The notch: its outline, the compact view beside the camera area while closed, and the panel
-// while opened. Geometry comes from the window (`notch`), which also cuts its mask from it; what
-// is shown comes from `content`, the same for every display.
+// The notch's QML scene: the compact views written in QML, the panel while opened and the menu
+// drawn inside. The window draws the outline beneath it. Geometry comes from the window (`notch`),
+// which also cuts its mask from it; what is shown comes from `content`, the same for every
+// display.
 Item {
     id: root
 
     required property NotchWindow notch
     required property NotchContent content
 
-    // The outline: black, or dark glass once opened. The aura takes the colour of what the
-    // notch shows: a rim around the closed notch, a glow inside the opened one, a flash as it
-    // opens. Glass keeps a hairline edge of its own.
-    NotchShape {
-        id: outline
-
-        readonly property color accent: root.content.compactModel
-            && root.content.compactModel.barColor !== undefined
-            && root.content.compactModel.barColor.valid
-            ? root.content.compactModel.barColor : root.content.activityAccent
-        readonly property real opened: root.notch.openProgress
-        readonly property real closed: root.notch.compactProgress * Math.max(0, 1 - opened * 2)
-        property real flash: 0
-
-        anchors.fill: parent
-        body: root.notch.shapeRect
-        bottomRadius: root.notch.bottomRadius
-        flareRadius: root.notch.flareRadius
-        color: Appearance.glass ? Qt.rgba(0.11, 0.11, 0.13, 1 - 0.25 * opened) : "black"
-        rimColor: opened > 0.5 ? Qt.rgba(1, 1, 1, 0.22) : accent
-        rimWidth: Math.max(Appearance.rimWhenClosed ? 1.5 * closed : 0,
-                           Appearance.glass ? opened : 0)
-        glowColor: accent
-        glow: Math.max(Appearance.glowWhenOpen ? 0.6 * opened : 0, flash)
-
-        SequentialAnimation {
-            id: flashing
-            NumberAnimation { target: outline; property: "flash"; to: 1; duration: 90 }
-            NumberAnimation {
-                target: outline; property: "flash"; to: 0; duration: 480
-                easing.type: Easing.OutCubic
-            }
-        }
-        Connections {
-            target: root.notch
-            function onExpandedChanged(expanded) {
-                if (expanded && Appearance.flashOnOpen) flashing.restart()
-            }
-        }
-    }
-
-    // Closed: the activity's own compact view on the two ears, or its name.
+    // Closed: the activity's compact view on the two ears, where it is written in QML. The
+    // window draws the outline under this scene, and the compact views written in C++.
     Item {
         id: compact
         x: root.notch.shapeRect.x
@@ -67,20 +28,14 @@ Item {
             source: root.content.compactSource
             onLoaded: item.model = Qt.binding(() => root.content.compactModel)
         }
-        DefaultCompact {
-            anchors.fill: parent
-            visible: root.content.compactSource.toString() === ""
-            label: root.content.activityLabel
-            accent: root.content.activityAccent
-        }
     }
 
     // Opened: the idle layout at rest on the left, then a section for each subsystem that has
     // something to show (or is pinned). While a transient section has something (a level just
     // changed), it stands there alone. A section that does not fit whole is left out rather than
     // cut off at the edge; the activity's own section comes first, then pinned order.
-    // The views are made the first time the notch opens, not at start: many days nobody opens
-    // it, and they are most of what the notch would hold in memory. Once made they stay.
+    // The views are made the first time the notch opens, not when the scene is made for a
+    // compact view: many days nobody opens it. Once made they stay as long as the scene.
     Item {
         id: panel
 

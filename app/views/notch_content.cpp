@@ -3,6 +3,7 @@
 #include "base/activity_center.h"
 #include "settings/settings_keys.h"
 #include "views/activity_presentation.h"
+#include "views/default_compact.h"
 
 namespace tindra {
 
@@ -35,6 +36,14 @@ QUrl NotchContent::compactSource() const {
 QObject* NotchContent::compactModel() const {
   const auto view = views_.compact(activities_.current());
   return view ? views_.model(view->provider) : nullptr;
+}
+
+QQuickItem* NotchContent::makeCompact() {
+  const auto view = views_.compact(activities_.current());
+  QObject* model = view ? views_.model(view->provider) : nullptr;
+  if (model != nullptr && !view->make) return nullptr;
+  QQuickItem* own = model != nullptr ? view->make(model, appearance_) : nullptr;
+  return own != nullptr ? own : new DefaultCompact(*this, appearance_);
 }
 
 QStringList NotchContent::shownSections(const std::vector<std::string>& pinned) const {

@@ -16,6 +16,8 @@
 #include "views/notch_appearance.h"
 #include "views/view_registry.h"
 
+class QQuickItem;
+
 namespace tindra {
 
 class ActivityCenter;
@@ -26,7 +28,7 @@ class NotchContent : public QObject {
   QML_UNCREATABLE("given to each notch by the app")
   Q_PROPERTY(QString activityLabel READ activityLabel NOTIFY activityChanged)
   Q_PROPERTY(QColor activityAccent READ activityAccent NOTIFY activityChanged)
-  // Empty when the activity has no view of its own: the notch then names it.
+  // The activity's compact view where QML draws it; empty where C++ does (makeCompact).
   Q_PROPERTY(QUrl compactSource READ compactSource NOTIFY activityChanged)
   Q_PROPERTY(QObject* compactModel READ compactModel NOTIFY activityChanged)
   // Each entry: {name, source, model, pinned}.
@@ -43,6 +45,9 @@ class NotchContent : public QObject {
   QColor activityAccent() const;
   QUrl compactSource() const;
   QObject* compactModel() const;
+  // The activity's compact view where C++ draws it: its own, or, for one that has none, a mark
+  // and its name. A new item for the caller; null where QML draws it (compactSource).
+  QQuickItem* makeCompact();
   QVariantList sections() const { return sections_; }
   QVariantList idleItems() const { return idleItems_; }
   IdleClock* clock() { return &clock_; }

@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QQuickItem>
 #include <QSignalSpy>
 #include <QTemporaryDir>
+#include <memory>
 
 #include "base/activity_center.h"
+#include "media/now_playing_view_model.h"
 #include "settings/settings_keys.h"
 #include "tindra_providers.h"
 
@@ -26,6 +29,8 @@ class NotchContentTest : public ::testing::Test {
   ViewRegistry views_{TindraProviders::views()};
   QObject media_;
   QObject battery_;
+  QObject focus_;
+  NowPlayingViewModel nowPlaying_{[](const NowPlayingCommand&) {}};
   NotchContent content_{activities_, store_, views_};
 };
 
@@ -55,13 +60,29 @@ TEST_F(NotchContentTest, PinnedSectionsComeInTheirOrderAndUnknownNamesAreSkipped
   EXPECT_EQ(changes.count(), 2);
 }
 
+// Each activity's compact view is drawn by QML or by C++, never both; one whose provider does not
+// run, or whose model its view cannot draw, is named instead.
 TEST_F(NotchContentTest, TheCompactViewFollowsTheActivityWhenItsProviderRuns) {
+  const auto drawnInCpp = [this]() -> QString {
+    const std::unique_ptr<QQuickItem> item(content_.makeCompact());
+    return item ? QString::fromLatin1(item->metaObject()->className()) : QString();
+  };
   activities_.offer(ActivityEvent::began(ActivityKind::nowPlaying));
   EXPECT_TRUE(content_.compactSource().isEmpty());  // no media provider: the name is shown
+  EXPECT_EQ(drawnInCpp(), "tindra::DefaultCompact");
   EXPECT_EQ(content_.activityLabel(), "Now Playing");
   views_.setModel("media", &media_);
-  EXPECT_TRUE(content_.compactSource().toString().endsWith("MediaCompact.qml"));
-  EXPECT_EQ(content_.compactModel(), &media_);
+  EXPECT_EQ(drawnInCpp(), "tindra::DefaultCompact") << "a model the view cannot draw";
+  views_.setModel("media", &nowPlaying_);
+  EXPECT_TRUE(content_.compactSource().isEmpty());
+  EXPECT_EQ(drawnInCpp(), "tindra::MediaCompact");
+  EXPECT_EQ(content_.compactModel(), &nowPlaying_);
+
+  activities_.offer(ActivityEvent::began(ActivityKind::focus));
+  views_.setModel("focus", &focus_);
+  EXPECT_TRUE(content_.compactSource().toString().endsWith("FocusCompact.qml"));
+  EXPECT_EQ(drawnInCpp(), "");
+  activities_.offer(ActivityEvent::ended(ActivityKind::focus));
   activities_.offer(ActivityEvent::began(ActivityKind::hud, 5));
   EXPECT_TRUE(content_.compactSource().isEmpty());
   EXPECT_EQ(content_.activityLabel(), "Level");

@@ -28,7 +28,8 @@ ViewRegistry::ViewRegistry(const Declared& declared) {
       idle.push_back({item.rank, View{toQString(name), source(item.file)}});
     }
     for (const ProviderViews::Compact& compact : views.compact) {
-      compact_.push_back({compact.kind, View{toQString(name), source(compact.file)}});
+      const QUrl file = compact.make ? QUrl() : source(compact.file);
+      compact_.push_back({compact.kind, View{toQString(name), file, compact.make}});
     }
   }
   std::ranges::stable_sort(parts, {}, &Ranked::rank);

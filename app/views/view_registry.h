@@ -1,4 +1,4 @@
-// ViewRegistry: which QML views draw what, gathered from the views each provider declares: the
+// ViewRegistry: which views draw what, gathered from the views each provider declares: the
 // compact view (the two ears while closed) of each activity kind, the sections of the opened
 // panel in their order, and the small items of the idle layout. Each view binds to its
 // provider's view model, which the app hands in by the provider's name; a view whose provider
@@ -26,7 +26,8 @@ class ViewRegistry {
  public:
   struct View {
     QString provider;  // whose view model the view binds to
-    QUrl source;
+    QUrl source;       // none for a compact view drawn in C++
+    ProviderViews::MakeCompact make = {};
   };
   struct Section {
     QString name;             // as listed in `pinnedWidgets`: "media", "batteries", ...
