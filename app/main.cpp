@@ -27,6 +27,7 @@
 #include "levels/level_command_source.h"
 #include "notch/display_platform.h"
 #include "notch/notch_screen_manager.h"
+#include "notch/notch_window.h"
 #include "settings/settings_store.h"
 #include "shell/focus_command.h"
 #include "tindra_app.h"
@@ -118,6 +119,18 @@ int main(int argc, char* argv[]) {
     idlePages.watchFrames();
     QObject::connect(&tindra.notches(), &tindra::NotchScreenManager::windowsChanged, &idlePages,
                      &tindra::IdlePagesRelease::watchFrames);
+    // A notch that keeps drawing (a spectrum) never rests a quarter of an hour: what its QML scene
+    // held and touched goes back as the scene is let go.
+    const auto followScenes = [&tindra, &idlePages] {
+      for (tindra::NotchWindow* window : tindra.notches().windows()) {
+        QObject::disconnect(window, &tindra::NotchWindow::sceneReleased, &idlePages, nullptr);
+        QObject::connect(window, &tindra::NotchWindow::sceneReleased, &idlePages,
+                         &tindra::IdlePagesRelease::release);
+      }
+    };
+    followScenes();
+    QObject::connect(&tindra.notches(), &tindra::NotchScreenManager::windowsChanged, &idlePages,
+                     followScenes);
     return QApplication::exec();
   }
 

@@ -136,7 +136,9 @@ NotchWindow::NotchWindow(ActivityCenter& activities, SettingsStore& settings, No
   sceneRelease_.setSingleShot(true);
   sceneRelease_.setInterval(std::chrono::minutes(3));
   connect(&sceneRelease_, &QTimer::timeout, this, [this] {
-    if (!needsScene()) scene_.reset();
+    if (needsScene()) return;
+    scene_.reset();
+    emit sceneReleased();
   });
 
   connect(&content_, &NotchContent::activityChanged, this, &NotchWindow::showCompact);

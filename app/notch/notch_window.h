@@ -133,6 +133,8 @@ class NotchWindow : public QQuickWindow {
   void placementChanged();
   void expandedChanged(bool expanded);
   void menuChanged();
+  // The QML scene was let go: its memory is free to be given back.
+  void sceneReleased();
   // A swipe on the notch, whichever way; up and down have opened or closed it already.
   void swiped(SwipeDirection direction);
 

@@ -4,8 +4,8 @@
 // heap has freed (start-up's temporaries, later an opened notch's). Only file pages nobody wrote
 // to are dropped: the next touch maps them again from the page cache, as after the kernel
 // reclaimed them itself, so nothing changes but the resident count. Runs on the main thread,
-// once after start and once per long idle period; where the kernel refuses the file pages, the
-// log says so once and only the heap is given back after that.
+// once after start, once per long idle period and when asked (release()); where the kernel
+// refuses the file pages, the log says so once and only the heap is given back after that.
 #pragma once
 
 #include <QElapsedTimer>
@@ -48,6 +48,9 @@ class IdlePagesRelease final : public QObject {
   // have been added.
   void watchFrames();
 
+  // Gives back the file pages and the heap now, as after a quiet period: when something large
+  // (an opened notch's QML scene) has just been let go.
+  void release();
   // Drops the droppable pages of this process now.
   static Outcome releaseNow();
   // Hands the heap's free pages back to the system: after large transient work, and with the
@@ -61,7 +64,6 @@ class IdlePagesRelease final : public QObject {
  private:
   void framed();
   void waited();
-  void release();
 
   std::chrono::milliseconds quiet_;
   QTimer timer_;
